@@ -1,0 +1,227 @@
+// What the library asks of the application it lives in, one small interface a service, grouped in one `Host`.
+// The embedded default of each is in `host/`; an application that brings its own replaces what it wants before it
+// installs the host. Tests install fakes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Color.h"
+#include "platform/Fonts.h"
+#include "platform/Picture.h"
+
+namespace xrpt {
+
+using Path = std::filesystem::path;
+
+// Where things lie. Folders need not exist.
+class SetupService {
+ public:
+  virtual ~SetupService() = default;
+  virtual Path CfgPath() const = 0;     // reports, styles, virtual-device files
+  virtual Path ImagesPath() const = 0;  // the picture store
+  virtual std::wstring RegisterKey() const = 0;
+};
+
+struct FileError {
+  std::string reason;  // the system's own word, for people
+};
+
+// When and how large a file was when it was looked at; two equal stamps mean nobody wrote in between.
+struct FileStamp {
+  std::int64_t modified = 0;  // nanoseconds, the file system's clock
+  std::uintmax_t size = 0;
+  bool exists = false;
+  bool operator==(const FileStamp&) const = default;
+};
+
+class FileService {
+ public:
+  virtual ~FileService() = default;
+  // The whole file. Nothing, and a reason, for a missing file, a folder, one without permission, one above the limit.
+  virtual std::optional<std::string> Read(const Path& file, std::size_t limit, FileError* error = nullptr) = 0;
+  // All or nothing: the old file stays until the new one is safe on disk. A failure is logged at severity 4 with the
+  // path and the system's reason, and the bytes are kept as a recovery file.
+  virtual bool Write(const Path& file, std::string_view bytes) = 0;
+  // Files of a folder whose name ends with the ending (".xrpt"), by name. A missing folder has none.
+  virtual std::vector<Path> List(const Path& folder, std::wstring_view ending) = 0;
+  virtual bool CreateFolder(const Path& folder) = 0;
+  virtual bool Rename(const Path& from, const Path& to) = 0;
+  virtual bool Remove(const Path& file) = 0;
+  virtual FileStamp Stamp(const Path& file) = 0;
+};
+
+// Texts of the user interface by number, in the user's language.
+class TextService {
+ public:
+  virtual ~TextService() = default;
+  virtual std::wstring Text(int id) const = 0;
+};
+
+// The registry (values under the host's key of the current user) and the framework's profile sections.
+class SettingsService {
+ public:
+  virtual ~SettingsService() = default;
+  virtual std::wstring RegistryText(std::wstring_view name) const = 0;
+  virtual void SetRegistryText(std::wstring_view name, std::wstring_view text) = 0;
+  virtual int ProfileInt(std::wstring_view section, std::wstring_view name, int missing) const = 0;
+  virtual void SetProfileInt(std::wstring_view section, std::wstring_view name, int value) = 0;
+  virtual std::wstring ProfileText(std::wstring_view section, std::wstring_view name) const = 0;
+  virtual void SetProfileText(std::wstring_view section, std::wstring_view name, std::wstring_view text) = 0;
+};
+
+// Who must hear that a kind of resource changed: 14 reports, 16 styles.
+enum class GuidKind { Reports = 14, Styles = 16 };
+class IdentifierCache {
+ public:
+  virtual ~IdentifierCache() = default;
+  virtual void invalidateGuid(GuidKind kind, bool changed) = 0;
+};
+
+// The font a style file gives a card.
+struct StyleFont {
+  std::wstring name = L"Arial";
+  FontStyle style = FontStyle::Normal;
+  double size = 10.0;        // points
+  double orientation = 0.0;  // degrees
+  Color color = kBlack;
+  bool hasColor = false;  // false when the file holds none
+};
+
+// Style names and identifiers. Both turn an unknown one into false; answers come from a cache that `invalidateGuid`
+// with the styles' kind empties.
+class StyleTable {
+ public:
+  virtual ~StyleTable() = default;
+  virtual bool StyleId2Name(std::wstring_view id, std::wstring& name) = 0;
+  virtual bool StyleName2Id(std::wstring_view name, std::wstring& id) = 0;
+  // Nothing for an empty name, an unknown one, or a style file without a "font".
+  virtual std::optional<StyleFont> Font(std::wstring_view name) = 0;
+};
+
+class GuidService {
+ public:
+  virtual ~GuidService() = default;
+  virtual std::wstring NewGuidText() = 0;  // 36 characters, unique, fit for a file name
+};
+
+// Severities: 1 note, 2 information, 3 warning, 4 error.
+class LoggerService {
+ public:
+  virtual ~LoggerService() = default;
+  virtual void Log(int severity, std::wstring_view message) = 0;
+};
+
+class PictureService {
+ public:
+  virtual ~PictureService() = default;
+  // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
+  virtual PicturePtr Decode(std::string_view bytes) = 0;
+};
+
+// What one copy puts on the clipboard: the text, and pictures of the same thing for other programs (either may be
+// empty).
+struct ClipboardContent {
+  std::string text;  // UTF-8
+  std::string svg;
+  std::string png;
+};
+class ClipboardService {
+ public:
+  virtual ~ClipboardService() = default;
+  virtual bool PutToClipboard(const ClipboardContent& content) = 0;
+  // The text, empty when the clipboard holds none or one above the limit (bytes).
+  virtual std::string GetFromClipboard(std::size_t limit) = 0;
+};
+
+class LocaleService {
+ public:
+  virtual ~LocaleService() = default;
+  virtual std::wstring DecimalSeparator() const = 0;
+  virtual std::wstring ThousandsSeparator() const = 0;
+  virtual std::wstring MonthName(int month) const = 0;  // 1 to 12
+  virtual std::wstring DayName(int weekday) const = 0;  // 0 Sunday to 6
+  // Date and time as the user writes them.
+  virtual std::wstring DateTimeText(const std::tm& local) const = 0;
+};
+
+class ScreenService {
+ public:
+  virtual ~ScreenService() = default;
+  virtual int DpiX() const = 0;
+  virtual int DpiY() const = 0;
+  virtual Color ButtonFace() const = 0;  // the calm surround of a page
+};
+
+// One device of the plant and its variables, for choosers and look-ups.
+struct DeviceVariable {
+  std::wstring id;
+  std::wstring name;
+};
+struct Device {
+  std::wstring id;
+  std::wstring name;
+  std::vector<DeviceVariable> variables;
+};
+class DeviceCatalogue {
+ public:
+  virtual ~DeviceCatalogue() = default;
+  virtual std::vector<Device> Devices() = 0;
+};
+
+// A device variable's full name in its parts, unused ones empty: DEVICE.VARIABLE, DEVICE.VARIABLE.KIND,
+// DEVICE.VARIABLE.GOBACK<period>.
+struct DriverVariable {
+  std::wstring device;
+  std::wstring variable;
+  std::wstring kind;
+  std::wstring period;  // all that follows GOBACK
+};
+class VariableNaming {
+ public:
+  virtual ~VariableNaming() = default;
+  virtual DriverVariable SplitDriverVariable(std::wstring_view name) const = 0;
+  virtual std::wstring JoinDriverVariable(const DriverVariable& parts) const = 0;
+};
+
+struct Host {
+  std::unique_ptr<SetupService> setup;
+  std::unique_ptr<FileService> files;
+  std::unique_ptr<TextService> texts;
+  std::unique_ptr<SettingsService> settings;
+  std::unique_ptr<IdentifierCache> identifiers;
+  std::unique_ptr<StyleTable> styles;
+  std::unique_ptr<GuidService> guids;
+  std::unique_ptr<LoggerService> logger;
+  std::unique_ptr<PictureService> pictures;
+  std::unique_ptr<FontService> fonts;
+  std::unique_ptr<ClipboardService> clipboard;
+  std::unique_ptr<LocaleService> locale;
+  std::unique_ptr<ScreenService> screen;
+  std::unique_ptr<DeviceCatalogue> devices;
+  std::unique_ptr<VariableNaming> variables;
+
+  Host();
+  ~Host();
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+};
+
+// The installed host. Installing is done once, by main, a test fixture or the embedding application, before any card
+// exists; asking before that is a programming error and throws.
+Host& CurrentHost();
+// Returns the host installed before, so that a fixture can put it back.
+Host* InstallHost(Host* host);
+
+// Short forms for what is asked often.
+std::wstring HostText(int id);
+void LogMessage(int severity, std::wstring_view message);
+
+}  // namespace xrpt

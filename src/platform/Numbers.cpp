@@ -1,0 +1,129 @@
+#include "platform/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace xrpt {
+namespace {
+
+bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+// A number's sign taken off the front, after white space.
+struct Signed {
+  std::string_view rest;
+  bool negative = false;
+};
+
+Signed SkipSign(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && IsSpace(text[at])) ++at;
+  const bool sign = at < text.size() && (text[at] == '-' || text[at] == '+');
+  return {text.substr(at + (sign ? 1 : 0)), sign && text[at] == '-'};
+}
+
+bool TakeHexPrefix(std::string_view& text) {
+  const bool prefixed = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
+  if (prefixed) text.remove_prefix(2);
+  return prefixed;
+}
+
+// from_chars leaves the value alone when it overflows; the C library gives infinity or zero.
+double OutOfRange(std::string_view text) {
+  const bool tiny = text.find("e-") != text.npos || text.find("E-") != text.npos || text.substr(0, 2) == "0.";
+  return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+}
+
+double ParseMagnitude(std::string_view text) {
+  if (!text.empty() && (text[0] == '-' || text[0] == '+')) return 0.0;
+  const auto format = TakeHexPrefix(text) ? std::chars_format::hex : std::chars_format::general;
+  double value = 0.0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value, format);
+  if (result.ec == std::errc::result_out_of_range) return OutOfRange(text);
+  return result.ec == std::errc() ? value : 0.0;
+}
+
+// Only ASCII can be part of a number; the first other character ends it.
+std::string AsciiHead(std::wstring_view text) {
+  std::string out;
+  for (wchar_t c : text) {
+    if (c <= 0 || c >= 0x80) break;
+    out += static_cast<char>(c);
+  }
+  return out;
+}
+
+int DigitOf(char c, int base) {
+  int digit = base;
+  if (c >= '0' && c <= '9') digit = c - '0';
+  if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
+  if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
+  return digit < base ? digit : -1;
+}
+
+// Digits of a base from the front of the text, clamped to the limit.
+std::int64_t ParseDigits(std::string_view text, int base, std::int64_t limit) {
+  std::int64_t value = 0;
+  for (char c : text) {
+    const int digit = DigitOf(c, base);
+    if (digit < 0) break;
+    value = std::min(value * base + digit, limit);
+  }
+  return value;
+}
+
+}  // namespace
+
+double ParseDecimal(std::string_view text) {
+  const Signed number = SkipSign(text);
+  const double magnitude = ParseMagnitude(number.rest);
+  return number.negative ? -magnitude : magnitude;
+}
+
+double ParseDecimal(std::wstring_view text) { return ParseDecimal(std::string_view(AsciiHead(text))); }
+
+std::int32_t ParseInteger(std::string_view text) {
+  const Signed number = SkipSign(text);
+  const std::int64_t value = ParseDigits(number.rest, 10, number.negative ? 2147483648ll : 2147483647ll);
+  return static_cast<std::int32_t>(number.negative ? -value : value);
+}
+
+std::int32_t ParseInteger(std::wstring_view text) { return ParseInteger(std::string_view(AsciiHead(text))); }
+
+Color ParseColor(std::string_view text) {
+  Signed number = SkipSign(text);
+  TakeHexPrefix(number.rest);
+  const std::int64_t value = ParseDigits(number.rest, 16, 0xFFFFFFFFll);
+  return static_cast<Color>(number.negative ? -value : value);
+}
+
+Color ParseColor(std::wstring_view text) { return ParseColor(std::string_view(AsciiHead(text))); }
+
+std::string FormatDecimal(double value) { return FormatFixed(value, 2); }
+
+std::string FormatFixed(double value, int decimals) {
+  std::array<char, 400> buffer;
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed,
+                                    std::clamp(decimals, 0, 40));
+  return std::string(buffer.data(), result.ptr);
+}
+
+std::string FormatExact(double value) {
+  std::array<char, 40> buffer;
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return std::string(buffer.data(), result.ptr);
+}
+
+std::string FormatColor(Color color) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string out;
+  for (int shift = 28; shift >= 0; shift -= 4) {
+    const unsigned digit = color >> shift & 0xF;
+    if (digit != 0 || !out.empty() || shift < 24) out += kDigits[digit];
+  }
+  return out;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,154 @@
+#include "platform/Text.h"
+
+#include <array>
+#include <cstdint>
+
+namespace xrpt {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+struct Decoded {
+  char32_t code;
+  std::size_t length;  // bytes taken, at least 1
+  bool valid;
+};
+
+bool IsContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
+
+// Length of the sequence that a lead byte announces, and the smallest code point such a sequence may hold.
+struct Lead {
+  std::size_t length;
+  char32_t bits;
+  char32_t smallest;
+};
+
+Lead LeadOf(unsigned char byte) {
+  if ((byte & 0xE0) == 0xC0) return {2, byte & 0x1Fu, 0x80};
+  if ((byte & 0xF0) == 0xE0) return {3, byte & 0x0Fu, 0x800};
+  if ((byte & 0xF8) == 0xF0) return {4, byte & 0x07u, 0x10000};
+  return {1, 0, 1};
+}
+
+bool IsScalar(char32_t code) { return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF); }
+
+Decoded DecodeOne(std::string_view bytes, std::size_t at) {
+  const auto first = static_cast<unsigned char>(bytes[at]);
+  if (first < 0x80) return {first, 1, true};
+  const Lead lead = LeadOf(first);
+  char32_t code = lead.bits;
+  std::size_t used = 1;
+  for (; used < lead.length && at + used < bytes.size(); ++used) {
+    const auto next = static_cast<unsigned char>(bytes[at + used]);
+    if (!IsContinuation(next)) break;
+    code = code << 6 | (next & 0x3Fu);
+  }
+  const bool whole = used == lead.length && lead.length > 1;
+  const bool valid = whole && code >= lead.smallest && IsScalar(code);
+  return {valid ? code : kReplacement, used, valid};
+}
+
+// Bytes from `at` on that are plain ASCII, eight at a time.
+std::size_t AsciiRun(std::string_view bytes, std::size_t at) {
+  std::size_t end = at;
+  while (end + 8 <= bytes.size()) {
+    std::uint64_t word = 0;
+    bytes.copy(reinterpret_cast<char*>(&word), 8, end);
+    if (word & 0x8080808080808080ull) break;
+    end += 8;
+  }
+  while (end < bytes.size() && static_cast<unsigned char>(bytes[end]) < 0x80) ++end;
+  return end - at;
+}
+
+bool IsSafeCharacter(wchar_t c) { return c >= 0x20 && c != L'/' && c != L'\\' && c != L':' && c != 0x7F; }
+
+}  // namespace
+
+void AppendUtf8(std::string& out, char32_t code) {
+  if (code < 0x80) {
+    out += static_cast<char>(code);
+  } else if (code < 0x800) {
+    out += static_cast<char>(0xC0 | code >> 6);
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  } else if (code < 0x10000) {
+    out += static_cast<char>(0xE0 | code >> 12);
+    out += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  } else {
+    out += static_cast<char>(0xF0 | code >> 18);
+    out += static_cast<char>(0x80 | (code >> 12 & 0x3F));
+    out += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  }
+}
+
+std::wstring FromUtf8(std::string_view utf8) {
+  std::wstring out;
+  out.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size();) {
+    const std::size_t run = AsciiRun(utf8, at);
+    for (std::size_t i = 0; i < run; ++i) out += static_cast<wchar_t>(utf8[at + i]);
+    at += run;
+    if (at >= utf8.size()) break;
+    const Decoded one = DecodeOne(utf8, at);
+    out += static_cast<wchar_t>(one.code);
+    at += one.length;
+  }
+  return out;
+}
+
+std::string ToUtf8(std::wstring_view text) {
+  std::string out;
+  out.reserve(text.size());
+  for (wchar_t c : text) {
+    const auto code = static_cast<char32_t>(c);
+    AppendUtf8(out, IsScalar(code) ? code : kReplacement);
+  }
+  return out;
+}
+
+std::size_t FindInvalidUtf8(std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size();) {
+    at += AsciiRun(bytes, at);
+    if (at >= bytes.size()) break;
+    const Decoded one = DecodeOne(bytes, at);
+    if (!one.valid) return at;
+    at += one.length;
+  }
+  return std::string_view::npos;
+}
+
+bool IsSafeFileName(std::wstring_view name) {
+  if (name.empty() || name == L"." || name == L"..") return false;
+  for (wchar_t c : name) {
+    if (!IsSafeCharacter(c)) return false;
+  }
+  return true;
+}
+
+bool IsSafeSubPath(std::wstring_view path) {
+  if (!path.empty() && path.front() == L'/') return false;
+  while (!path.empty()) {
+    const std::size_t cut = path.find(L'/');
+    const std::wstring_view step = path.substr(0, cut);
+    if (!step.empty() && step != L"." && !IsSafeFileName(step)) return false;
+    path = cut == std::wstring_view::npos ? std::wstring_view() : path.substr(cut + 1);
+  }
+  return true;
+}
+
+std::wstring FormatText(std::wstring_view pattern, std::wstring_view argument) {
+  std::size_t at = pattern.find(L'%');
+  while (at != std::wstring_view::npos && at + 1 < pattern.size() && pattern[at + 1] != L'd' &&
+         pattern[at + 1] != L's') {
+    at = pattern.find(L'%', at + 1);
+  }
+  if (at == std::wstring_view::npos || at + 1 >= pattern.size()) return std::wstring(pattern);
+  std::wstring out(pattern.substr(0, at));
+  out += argument;
+  out += pattern.substr(at + 2);
+  return out;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,28 @@
+// Wide strings in memory, UTF-8 at every edge: the conversions between the two, and the few text rules all layers
+// share.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace xrpt {
+
+// Malformed sequences, surrogates and code points above U+10FFFF each become U+FFFD; nothing is ever dropped silently.
+std::wstring FromUtf8(std::string_view utf8);
+std::string ToUtf8(std::wstring_view text);
+void AppendUtf8(std::string& out, char32_t code);
+
+// Offset of the first byte that is no valid UTF-8, or npos when all of it is.
+std::size_t FindInvalidUtf8(std::string_view bytes);
+
+// True for a name that stays one plain file name inside a folder: not empty, no separator, no drive colon, no control
+// character, not "." or "..".
+bool IsSafeFileName(std::wstring_view name);
+
+// True for a relative folder path that never climbs out of the folder it is joined to ("./", "a/b", "a/b/").
+bool IsSafeSubPath(std::wstring_view path);
+
+// Replaces the first "%d" or "%s" of a text of ours; a text without one is given back as it stands.
+std::wstring FormatText(std::wstring_view pattern, std::wstring_view argument);
+
+}  // namespace xrpt

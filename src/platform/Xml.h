@@ -1,0 +1,144 @@
+// XML documents: parsing with bounds, null-safe look-up, and one writer for every file of the system.
+// Tags and paths are UTF-8; values are wide strings, or UTF-8 views where speed counts.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace xrpt {
+
+class XmlWriter;
+
+// Why a text is no document. `offset` counts bytes from its start; `message` is for people.
+struct XmlError {
+  std::string message;
+  std::size_t offset = 0;
+};
+
+// A handle on one element. A handle on nothing answers every question with nothing, so look-ups chain without tests.
+// Handles die with their document.
+class XmlNode {
+ public:
+  class Iterator;
+
+  XmlNode() = default;
+
+  explicit operator bool() const { return node_ != nullptr; }
+  bool operator==(const XmlNode&) const = default;
+
+  std::string_view Tag() const;
+  // First element under a path below this one: "/name", "name" or "/font/size".
+  XmlNode Node(std::string_view path) const;
+  // Own text; several text and CDATA pieces are joined.
+  std::wstring Value() const;
+  // Text of a named value, or the default when there is no such child.
+  std::wstring Value(std::string_view path, std::wstring_view missing = {}) const;
+  // Own text as it stands in memory (first piece only): for numbers and words, without conversion.
+  std::string_view RawText() const;
+
+  // Replaces the text of the named child, which keeps its place; creates it at the end when absent.
+  XmlNode SetValue(std::string_view name, std::wstring_view text);
+  // Replaces this element's own text.
+  void SetText(std::wstring_view text);
+  XmlNode NewChild(std::string_view tag);
+  bool Remove(XmlNode child);
+  void Clear();
+  // Makes this element a deep copy of the other (children, attributes and text; the tag stays).
+  void Assign(const XmlNode& other);
+  // Appends a deep copy of the other element as last child.
+  XmlNode Append(const XmlNode& other);
+
+  // Child elements in document order.
+  Iterator ChildsBegin() const;
+  Iterator ChildsEnd() const;
+  Iterator begin() const;
+  Iterator end() const;
+  std::size_t Size() const;
+
+  // The element as XML text, without a declaration.
+  std::string CreateXmlCode() const;
+
+ private:
+  friend class XmlDocument;
+  friend class XmlWriter;
+  friend class XmlCursor;
+  explicit XmlNode(void* node) : node_(node) {}
+  XmlNode FirstChild() const;
+  XmlNode NextSibling() const;
+
+  void* node_ = nullptr;
+};
+
+class XmlNode::Iterator {
+ public:
+  using iterator_category = std::forward_iterator_tag;
+  using value_type = XmlNode;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const XmlNode*;
+  using reference = const XmlNode&;
+
+  Iterator() = default;
+  explicit Iterator(XmlNode at) : at_(at) {}
+  reference operator*() const { return at_; }
+  pointer operator->() const { return &at_; }
+  Iterator& operator++();
+  Iterator operator++(int);
+  bool operator==(const Iterator&) const = default;
+
+ private:
+  XmlNode at_;
+};
+
+// Looks up the children of one element in the order in which the saver writes them: each look-up starts where the last
+// one ended, so that reading a card costs one pass. Among children of one name the first counts.
+class XmlCursor {
+ public:
+  explicit XmlCursor(const XmlNode& parent);
+  XmlNode Find(std::string_view tag);
+
+ private:
+  XmlNode next_;  // every child before this one was found under another name
+};
+
+class XmlDocument {
+ public:
+  // Beyond these a text is refused: they bound memory and time for hostile input.
+  static constexpr std::size_t kMaxBytes = 512u << 20;
+  static constexpr std::size_t kMaxElements = 16'000'000;
+  static constexpr int kMaxDepth = 256;
+
+  XmlDocument();
+  ~XmlDocument();
+  XmlDocument(XmlDocument&&) noexcept;
+  XmlDocument& operator=(XmlDocument&&) noexcept;
+  // A document with the given root.
+  explicit XmlDocument(std::string_view rootTag);
+  XmlDocument Clone() const;
+
+  void SetFileName(const std::filesystem::path& path) { path_ = path; }
+  const std::filesystem::path& FileName() const { return path_; }
+  // Empties the document and gives it a root.
+  XmlNode Create(std::string_view rootTag);
+  // Reads a file through the host's file service and remembers its name. False leaves the document without a root.
+  bool Load(const std::filesystem::path& path, XmlError* error = nullptr);
+  // Parses a whole document. False leaves the document without a root.
+  bool Parse(std::string text, XmlError* error = nullptr);
+  // Writes to the file name through the host's file service, atomically.
+  bool Save() const;
+  // The document as text, with its declaration.
+  std::string Text() const;
+
+  XmlNode Root() const;
+  XmlNode Node(std::string_view path) const { return Root().Node(path); }
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+  std::filesystem::path path_;
+};
+
+}  // namespace xrpt
