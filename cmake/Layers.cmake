@@ -7,7 +7,7 @@
 function(xrpt_layer name)
   cmake_parse_arguments(arg "" "" "LINKS;SOURCES;PRIVATE_LINKS" ${ARGN})
   if(NOT arg_SOURCES)
-    file(GLOB arg_SOURCES CONFIGURE_DEPENDS *.cpp *.h)
+    file(GLOB arg_SOURCES CONFIGURE_DEPENDS *.cpp *.h draw/*.cpp draw/*.h)
   endif()
   add_library(xrpt_${name} STATIC ${arg_SOURCES})
   add_library(xrpt::${name} ALIAS xrpt_${name})

@@ -16,6 +16,7 @@
 #include "platform/Color.h"
 #include "platform/Fonts.h"
 #include "platform/Picture.h"
+#include "platform/PictureStore.h"
 
 namespace xrpt {
 
@@ -207,6 +208,7 @@ struct Host {
   std::unique_ptr<ScreenService> screen;
   std::unique_ptr<DeviceCatalogue> devices;
   std::unique_ptr<VariableNaming> variables;
+  PictureStore pictureStore;
 
   Host();
   ~Host();

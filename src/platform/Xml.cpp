@@ -110,11 +110,8 @@ XmlNode XmlNode::Node(std::string_view path) const {
 }
 
 std::wstring XmlNode::Value() const {
-  std::string text;
-  for (const pugi::xml_node& piece : Wrap(node_).children()) {
-    if (IsText(piece)) text += piece.value();
-  }
-  return FromUtf8(text);
+  std::string joined;
+  return FromUtf8(WholeText(joined));
 }
 
 std::wstring XmlNode::Value(std::string_view path, std::wstring_view missing) const {
@@ -123,6 +120,17 @@ std::wstring XmlNode::Value(std::string_view path, std::wstring_view missing) co
 }
 
 std::string_view XmlNode::RawText() const { return Wrap(node_).child_value(); }
+
+std::string_view XmlNode::WholeText(std::string& joined) const {
+  const pugi::xml_node first = Wrap(node_).first_child();
+  if (!first) return {};
+  if (!first.next_sibling() && IsText(first)) return first.value();
+  joined.clear();
+  for (pugi::xml_node piece = first; piece; piece = piece.next_sibling()) {
+    if (IsText(piece)) joined += piece.value();
+  }
+  return joined;
+}
 
 XmlNode XmlNode::SetValue(std::string_view name, std::wstring_view text) {
   XmlNode child = Node(name);

@@ -39,6 +39,8 @@ class XmlNode {
   std::wstring Value(std::string_view path, std::wstring_view missing = {}) const;
   // Own text as it stands in memory (first piece only): for numbers and words, without conversion.
   std::string_view RawText() const;
+  // Own text as UTF-8, whole: in place when it is one piece, else joined into the given string.
+  std::string_view WholeText(std::string& joined) const;
 
   // Replaces the text of the named child, which keeps its place; creates it at the end when absent.
   XmlNode SetValue(std::string_view name, std::wstring_view text);

@@ -1,0 +1,204 @@
+// One row per field. A class states each of its fields once, in a table of rows; reading, writing, comparing, the
+// property panel, editing several cards at once and the name of an undo step all walk the rows. What no row can say
+// stands as an irregular row: plain functions, with a comment that says why.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "platform/Xml.h"
+#include "platform/XmlWriter.h"
+
+namespace xrpt {
+
+// How a property panel lets the user edit a field.
+enum class FieldEditor { None, Text, Lines, Check, Decimal, Integer, Color, Choice, FontFace, Style, Angle, Variable };
+
+// Panels show fields in these groups, in this order.
+enum class FieldGroup { Geometry, Content, Font, Alignment, Colors, Format, Animation, Scale, Series, Page };
+
+// Text id 0 keeps the field off the panel.
+struct FieldPanel {
+  int textId = 0;
+  FieldGroup group = FieldGroup::Content;
+  FieldEditor editor = FieldEditor::None;
+  double minimum = 0.0;
+  double maximum = 0.0;  // equal to minimum: no range
+};
+
+// One word of a list: its text in the file, its value, its text id on a panel (0: the file's word is shown).
+struct Word {
+  const char* text;
+  int value;
+  int textId = 0;
+};
+
+// Objects are passed as pointers to the root of their class tree (`FieldRoot`).
+struct FieldRow {
+  const char* group = nullptr;    // element that holds this one and its neighbours of the same group ("font")
+  const char* name = nullptr;     // element; null for a field that is not in the file
+  const char* missing = nullptr;  // what a missing element reads as; null keeps the value the field has
+  bool counts = true;             // whether equality looks at it
+  FieldPanel panel;
+  std::span<const Word> words;  // of a Choice
+
+  // Null: always written.
+  bool (*isWritten)(const void* object) = nullptr;
+  void (*assign)(void* object, std::string_view text) = nullptr;
+  void (*write)(const void* object, XmlWriter& out, const char* name) = nullptr;
+  std::wstring (*text)(const void* object) = nullptr;
+  bool (*equal)(const void* left, const void* right) = nullptr;
+
+  // An irregular row reads the element that would hold it and writes into it, all by itself.
+  void (*readNode)(void* object, const XmlNode& node) = nullptr;
+  void (*writeNode)(const void* object, XmlWriter& out) = nullptr;
+
+  // "font/size", or "x".
+  std::string FullName() const;
+};
+
+// The tables of a class and its bases, base first.
+struct FieldTable {
+  const FieldTable* base = nullptr;
+  std::span<const FieldRow> rows;
+};
+
+void ReadFields(const FieldTable& table, void* object, const XmlNode& node);
+void WriteFields(const FieldTable& table, const void* object, XmlWriter& out);
+bool EqualFields(const FieldTable& table, const void* left, const void* right);
+
+// Own rows only, for what stands between other things.
+void ReadRows(std::span<const FieldRow> rows, void* object, XmlCursor& cursor, const XmlNode& node);
+void WriteRows(std::span<const FieldRow> rows, const void* object, XmlWriter& out);
+
+// The row of a field by its full name, or by its bare name when no other row of the tables has it; null otherwise.
+const FieldRow* FindField(const FieldTable& table, std::string_view name);
+
+// Visits every row, base first.
+template <class Visit>
+void ForEachField(const FieldTable& table, const Visit& visit) {
+  if (table.base) ForEachField(*table.base, visit);
+  for (const FieldRow& row : table.rows) visit(row);
+}
+
+namespace detail {
+
+template <class T>
+struct MemberOf;
+template <class C, class T>
+struct MemberOf<T C::*> {
+  using Class = C;
+  using Type = T;
+};
+
+template <auto First, auto...>
+struct Path {
+  using Class = typename MemberOf<decltype(First)>::Class;
+};
+
+template <auto First, auto... Rest>
+auto& Follow(typename Path<First>::Class& object) {
+  if constexpr (sizeof...(Rest) == 0) {
+    return object.*First;
+  } else {
+    return Follow<Rest...>(object.*First);
+  }
+}
+
+// From the type-erased root to the member that a path of member pointers names.
+template <class Owner, auto... Members>
+auto& Get(void* object) {
+  return Follow<Members...>(static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object)));
+}
+
+template <class Owner, auto... Members>
+const auto& Get(const void* object) {
+  return Get<Owner, Members...>(const_cast<void*>(object));
+}
+
+}  // namespace detail
+
+// A row for the member that `Members` lead to (`&RVCardLabel::font, &Font::size`), in a class `Owner`.
+// `Codec` turns the member's type into text and back; see model/Codecs.h.
+template <class Owner, class Codec, auto... Members>
+constexpr FieldRow Field(const char* group, const char* name, const char* missing, FieldPanel panel = {}) {
+  FieldRow row;
+  row.group = group;
+  row.name = name;
+  row.missing = missing;
+  row.panel = panel;
+  row.words = Codec::Words();
+  row.assign = [](void* object, std::string_view text) { Codec::Assign(detail::Get<Owner, Members...>(object), text); };
+  row.write = [](const void* object, XmlWriter& out, const char* tag) {
+    Codec::Write(detail::Get<Owner, Members...>(object), out, tag);
+  };
+  row.text = [](const void* object) { return Codec::Text(detail::Get<Owner, Members...>(object)); };
+  row.equal = [](const void* left, const void* right) {
+    return detail::Get<Owner, Members...>(left) == detail::Get<Owner, Members...>(right);
+  };
+  return row;
+}
+
+// When the element is written.
+template <class Owner, auto... Members>
+constexpr FieldRow WhenNotEmpty(FieldRow row) {
+  row.isWritten = [](const void* object) { return !detail::Get<Owner, Members...>(object).empty(); };
+  return row;
+}
+
+template <class Owner, auto Condition>
+constexpr FieldRow When(FieldRow row) {
+  row.isWritten = [](const void* object) {
+    return (static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object)).*Condition)();
+  };
+  return row;
+}
+
+// What no codec can say: functions of the class read the node that would hold the element, `void Read(const XmlNode&)`,
+// and write into it, `void Write(XmlWriter&) const`.
+template <class Owner, auto Read>
+constexpr FieldRow ReadBy(FieldRow row) {
+  row.readNode = [](void* object, const XmlNode& node) {
+    (static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object)).*Read)(node);
+  };
+  return row;
+}
+
+template <class Owner, auto Write>
+constexpr FieldRow WriteBy(FieldRow row) {
+  row.writeNode = [](const void* object, XmlWriter& out) {
+    (static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object)).*Write)(out);
+  };
+  return row;
+}
+
+constexpr FieldRow NotCompared(FieldRow row) {
+  row.counts = false;
+  return row;
+}
+
+// A row for elements that are no single field (pictures, lists of alternatives).
+template <class Owner, auto Read, auto Write>
+constexpr FieldRow Irregular() {
+  return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(FieldRow())));
+}
+
+// Joins rows and arrays of rows into one array.
+template <std::size_t... N>
+constexpr auto JoinRows(const std::array<FieldRow, N>&... parts) {
+  std::array<FieldRow, (N + ...)> all{};
+  std::size_t at = 0;
+  ((std::copy(parts.begin(), parts.end(), all.begin() + at), at += N), ...);
+  return all;
+}
+
+template <class... Rows>
+constexpr std::array<FieldRow, sizeof...(Rows)> RowsOf(const Rows&... rows) {
+  return {rows...};
+}
+
+}  // namespace xrpt

@@ -1,0 +1,100 @@
+#include "model/RVCardControl.h"
+
+#include <stdexcept>
+
+#include "model/Codecs.h"
+#include "model/FieldTexts.h"
+#include "platform/Host.h"
+
+namespace xrpt {
+
+namespace {
+
+constexpr FieldPanel Millimetres(int textId, double minimum) {
+  return {textId, FieldGroup::Geometry, FieldEditor::Decimal, minimum, 10000.0};
+}
+
+}  // namespace
+
+using Card = RVCardControl;
+
+// A file's card without "id" deliberately gets an empty one, not a fresh GUID, so that it is written back without.
+const FieldRow RVCardControl::kRows[] = {
+    WhenNotEmpty<Card, &Card::id>(Field<Card, codec::String, &Card::id>(nullptr, "id", "")),
+    Field<Card, codec::Decimal, &Card::x>(nullptr, "x", nullptr, Millimetres(text::kX, -10000.0)),
+    Field<Card, codec::Decimal, &Card::y>(nullptr, "y", nullptr, Millimetres(text::kY, -10000.0)),
+    Field<Card, codec::Decimal, &Card::width>(nullptr, "width", nullptr, Millimetres(text::kWidth, 0.0)),
+    Field<Card, codec::Decimal, &Card::height>(nullptr, "height", nullptr, Millimetres(text::kHeight, 0.0)),
+    Field<Card, codec::Colour, &Card::color>(nullptr, "color", nullptr,
+                                             {text::kColor, FieldGroup::Colors, FieldEditor::Color}),
+    When<Card, &Card::HasBackColor>(Field<Card, codec::Colour, &Card::backcolor>(
+        nullptr, "backcolor", nullptr, {text::kBackColor, FieldGroup::Colors, FieldEditor::Color})),
+    WhenNotEmpty<Card, &Card::field>(Field<Card, codec::String, &Card::field>(
+        nullptr, "field", "", {text::kField, FieldGroup::Content, FieldEditor::Variable})),
+};
+
+bool CardClass::IsKindOf(const CardClass& other) const {
+  const CardClass* kind = this;
+  while (kind && kind != &other) kind = kind->base;
+  return kind != nullptr;
+}
+
+RVCardControl::RVCardControl() { InitializeId(); }
+
+const CardClass& RVCardControl::Class() {
+  static const CardClass kind{nullptr, 0, {nullptr, kRows}, nullptr, nullptr};
+  return kind;
+}
+
+bool RVCardControl::operator==(const RVCardControl& other) const {
+  return &GetRuntimeClass() == &other.GetRuntimeClass() && isEqual(other);
+}
+
+bool RVCardControl::isEqual(const RVCardControl& other) const {
+  return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, this, &other) && EqualFlags(other);
+}
+
+bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
+  const CardClass& kind = GetRuntimeClass();
+  if (!makeOwnElement || !kind.tag) {
+    WriteFields(kind.table, this, *node);
+    return true;
+  }
+  const XmlElement element(*node, kind.tag);
+  WriteFields(kind.table, this, *node);
+  return true;
+}
+
+bool RVCardControl::GetFromXml(const XmlNode& node) {
+  ReadFields(GetRuntimeClass().table, this, node);
+  return true;
+}
+
+std::unique_ptr<RVCardControl> RVCardControl::GetClone() const {
+  return std::unique_ptr<RVCardControl>(new RVCardControl(*this));
+}
+
+void RVCardControl::Draw(Graphics&, const tagDraw&) const {}
+
+bool RVCardControl::GetStyleFromFile(const std::wstring&) { return false; }
+
+bool RVCardControl::SetFlags(int bit) {
+  flags.reset();
+  if (bit < 0) throw std::out_of_range("a card flag is one of the bits 0 to 33");
+  flags.set(static_cast<std::size_t>(bit));
+  return true;
+}
+
+bool RVCardControl::SetFlags(const Flags& set) {
+  flags = set;
+  return true;
+}
+
+void RVCardControl::InitializeId() { id = CurrentHost().guids->NewGuidText(); }
+
+RVReportPage* RVCardControl::GetParent() const {
+  if (!parent) throw std::logic_error("a card must be given its page before anything asks for it");
+  return parent;
+}
+
+}  // namespace xrpt

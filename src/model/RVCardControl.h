@@ -1,0 +1,107 @@
+// What every card is: a rectangle on a page with an identity, a data field, two colours and flags; and the operations
+// through which pages, history, clipboard and search treat all cards alike.
+#pragma once
+
+#include <bitset>
+#include <memory>
+#include <string>
+
+#include "model/FieldTable.h"
+#include "platform/Color.h"
+
+namespace xrpt {
+
+class Graphics;
+class RVCardControl;
+class RVReportPage;
+struct tagDraw;
+
+// What the system knows of a kind of card, stated once by its class.
+struct CardClass {
+  const char* tag;   // its element; null for a kind that has none of its own
+  int textId;        // its name for people
+  FieldTable table;  // its own rows; `base` leads to the kind it derives from
+  const CardClass* base;
+  std::unique_ptr<RVCardControl> (*create)();
+
+  bool IsKindOf(const CardClass& other) const;
+};
+
+// The description of a kind that adds rows to those of its base.
+template <class Card>
+CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const FieldRow> rows) {
+  return {tag, textId, {&base.table, rows}, &base, [] { return std::unique_ptr<RVCardControl>(new Card()); }};
+}
+
+class RVCardControl {
+ public:
+  using FieldRoot = RVCardControl;
+  static constexpr int kFlagCount = 34;
+  using Flags = std::bitset<kFlagCount>;
+
+  RVCardControl();
+  virtual ~RVCardControl() = default;
+
+  static const CardClass& Class();
+  virtual const CardClass& GetRuntimeClass() const { return Class(); }
+  bool IsKindOf(const CardClass& kind) const { return GetRuntimeClass().IsKindOf(kind); }
+
+  // Same kind, and all the fields that count are equal.
+  bool operator==(const RVCardControl& other) const;
+  bool operator!=(const RVCardControl& other) const { return !(*this == other); }
+  // The fields that count, base's first; NaN differs from everything. A card of a kind that does not derive from this
+  // one's is never equal.
+  virtual bool isEqual(const RVCardControl& other) const;
+
+  // Writes the card into the element that is open; with its own element when asked, else its values alone. True.
+  virtual bool SaveTemplate(XmlWriter* node, bool makeOwnElement) const;
+  // Takes what the element holds. Missing values read as the rows say. True.
+  virtual bool GetFromXml(const XmlNode& node);
+  // A copy with the same id.
+  virtual std::unique_ptr<RVCardControl> GetClone() const;
+
+  // Draws the card into its rectangle; a plain card has nothing to show.
+  virtual void Draw(Graphics& graphics, const tagDraw& draw) const;
+  virtual bool Resizable() const { return true; }
+
+  // Takes the font of a style into the card; false when the kind has no font or the style is unknown.
+  virtual bool GetStyleFromFile(const std::wstring& name);
+  // Reads the card's own style again after style files changed.
+  virtual bool UpdateStyleFromFile() { return true; }
+
+  // Leaves exactly this bit set. A bit outside 0 to 33 is a programming error: the set is left empty and
+  // std::out_of_range thrown.
+  bool SetFlags(int bit);
+  bool SetFlags(const Flags& set);
+  const Flags& GetFlags() const { return flags; }
+
+  // A fresh identity.
+  void InitializeId();
+
+  void SetParent(RVReportPage* page) { parent = page; }
+  // The page the card stands on. Asking a card that was never given one is a programming error and throws.
+  RVReportPage* GetParent() const;
+
+  double x = 0.0;  // millimetres from the page's left edge
+  double y = 0.0;  // millimetres from its top edge
+  double width = 10.0;
+  double height = 10.0;
+  std::wstring id;
+  std::wstring field;  // the data the card is bound to; the meaning is the kind's
+  Color color = kBlack;
+  Color backcolor = kNoColor;
+
+ protected:
+  RVCardControl(const RVCardControl&) = default;
+  RVCardControl& operator=(const RVCardControl&) = default;
+
+  Flags flags = Flags().set(5);
+  RVReportPage* parent = nullptr;
+
+ private:
+  static const FieldRow kRows[];
+  bool HasBackColor() const { return backcolor != kNoColor; }
+  bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }
+};
+
+}  // namespace xrpt

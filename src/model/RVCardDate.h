@@ -1,0 +1,23 @@
+// A date and time shown by a pattern.
+#pragma once
+
+#include "model/RVCardLabel.h"
+
+namespace xrpt {
+
+class RVCardDate : public RVCardLabel {
+ public:
+  RVCardDate();
+
+  static const CardClass& Class();
+  const CardClass& GetRuntimeClass() const override { return Class(); }
+  std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardDate>(*this); }
+
+  std::wstring pattern = L"dd/MM/yyyy HH:mm:ss";
+  std::wstring value;  // sample shown while editing: the moment the card was made, as the user writes dates
+
+ private:
+  static std::span<const FieldRow> Rows();
+};
+
+}  // namespace xrpt

@@ -1,0 +1,68 @@
+#include "model/RVCardImage.h"
+
+#include "platform/Host.h"
+
+namespace xrpt {
+
+std::span<const FieldRow> RVCardImage::Rows() {
+  using Image = RVCardImage;
+  static constexpr auto kRows = JoinRows(
+      // Id and path name one thing together, so they are read and written together.
+      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>()),
+      AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
+      RowsOf(Field<Image, codec::Bool, &Image::maintainAspectRatio>(
+                 nullptr, "maintainAspectRatio", nullptr, {text::kAspectRatio, FieldGroup::Scale, FieldEditor::Check}),
+             Field<Image, codec::Bool, &Image::maintainRealSize>(
+                 nullptr, "maintainRealSize", nullptr, {text::kRealSize, FieldGroup::Scale, FieldEditor::Check})),
+      AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
+  return kRows;
+}
+
+const CardClass& RVCardImage::Class() {
+  static const CardClass kind =
+      DeriveCard<RVCardImage>("staticImage", text::kImageCard, RVCardControl::Class(), Rows());
+  return kind;
+}
+
+RVCardImage::RVCardImage() {
+  color = 0xC06060;
+  backcolor = 0x00FFFF;
+}
+
+bool RVCardImage::isEqual(const RVCardControl& other) const {
+  if (!RVCardControl::isEqual(other)) return false;
+  const auto& image = static_cast<const RVCardImage&>(other);
+  return ImageId() == image.ImageId() && ImagePath() == image.ImagePath();
+}
+
+bool RVCardImage::LoadOriginalImage(const std::wstring& id, const std::wstring& path) {
+  image_ = CurrentHost().pictureStore.Attach(id, path);
+  return true;
+}
+
+bool RVCardImage::DeleteOriginalImage() {
+  image_.reset();
+  return true;
+}
+
+bool RVCardImage::ReLoadOriginalImage() {
+  if (image_) image_->Reload();
+  return image_ != nullptr;
+}
+
+void RVCardImage::ReLoadAllOriginalImages() { CurrentHost().pictureStore.ReloadAll(); }
+
+void RVCardImage::ReadImage(const XmlNode& node) {
+  const XmlNode image = node.Node("image");
+  if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));
+}
+
+void RVCardImage::WriteImage(XmlWriter& out) const {
+  if (!image_) return;
+  if (image_->Id().empty()) return LogMessage(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  const XmlElement element(out, "image");
+  out.Value("imageId", image_->Id());
+  out.Value("imagePath", image_->ImagePath());
+}
+
+}  // namespace xrpt

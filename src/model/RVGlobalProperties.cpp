@@ -1,0 +1,102 @@
+#include "model/RVGlobalProperties.h"
+
+#include "model/Codecs.h"
+#include "model/FieldTexts.h"
+#include "model/RVCardImage.h"
+#include "platform/Host.h"
+
+namespace xrpt {
+namespace {
+
+using Page = RVGlobalProperties;
+
+constexpr FieldPanel Millimetres(int textId, double minimum) {
+  return {textId, FieldGroup::Page, FieldEditor::Decimal, minimum, 10000.0};
+}
+
+template <auto Member>
+constexpr FieldRow Size(const char* name, int textId, double minimum) {
+  return Field<Page, codec::Decimal, Member>(nullptr, name, nullptr, Millimetres(textId, minimum));
+}
+
+constexpr FieldRow kRows[] = {
+    Field<Page, codec::String, &Page::id>(nullptr, "id", nullptr),
+    Field<Page, codec::String, &Page::name>(nullptr, "name", nullptr,
+                                            {text::kPageName, FieldGroup::Page, FieldEditor::Text}),
+    Size<&Page::width>("width", text::kWidth, 1.0),
+    Size<&Page::height>("height", text::kHeight, 1.0),
+    Size<&Page::rounded>("rounded", text::kRounded, 0.0),
+    NotCompared(Size<&Page::xgrid>("xgrid", text::kGridX, -1000.0)),
+    NotCompared(Size<&Page::ygrid>("ygrid", text::kGridY, -1000.0)),
+    Field<Page, codec::Colour, &Page::backcolor>(nullptr, nullptr, nullptr,
+                                                 {text::kSurround, FieldGroup::Page, FieldEditor::Color}),
+    Field<Page, codec::Integer, &Page::pageMode>(nullptr, nullptr, nullptr),
+};
+
+}  // namespace
+
+ScreenScale::ScreenScale()
+    : pixelsPerMmX(CurrentHost().screen->DpiX() / 25.4), pixelsPerMmY(CurrentHost().screen->DpiY() / 25.4) {}
+
+BackgroundCard::BackgroundCard() : card_(std::make_unique<RVCardImage>()) { card_->backcolor = kWhite; }
+
+BackgroundCard::BackgroundCard(const BackgroundCard& other) : card_(std::make_unique<RVCardImage>(*other)) {}
+
+BackgroundCard& BackgroundCard::operator=(const BackgroundCard& other) {
+  if (this != &other) card_ = std::make_unique<RVCardImage>(*other);
+  return *this;
+}
+
+BackgroundCard::~BackgroundCard() = default;
+
+RVGlobalProperties::RVGlobalProperties()
+    : id(CurrentHost().guids->NewGuidText()), name(id), backcolor(CurrentHost().screen->ButtonFace()) {
+  // A new page's picture covers it; reading a page without one does the same.
+  background_->width = width;
+  background_->height = height;
+}
+
+const FieldTable& RVGlobalProperties::Table() {
+  static constexpr FieldTable kTable{nullptr, kRows};
+  return kTable;
+}
+
+bool RVGlobalProperties::operator==(const RVGlobalProperties& other) const {
+  return EqualFields(Table(), this, &other) && *background_ == *other.background_ && lists == other.lists;
+}
+
+bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
+  ReadFields(Table(), this, page);
+  ReadBackground(page);
+  return true;
+}
+
+void RVGlobalProperties::ReadBackground(const XmlNode& page) {
+  const XmlNode element = page.Node("backgroundImage");
+  if (element) {
+    background_->GetFromXml(element);
+    return;
+  }
+  background_->DeleteOriginalImage();
+  background_->width = width;
+  background_->height = height;
+}
+
+bool RVGlobalProperties::SaveTemplate(XmlWriter* page) const {
+  if (!page) {
+    LogMessage(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
+    return false;
+  }
+  WriteFields(Table(), this, *page);
+  if (background_->HasImageId()) {
+    const XmlElement element(*page, "backgroundImage");
+    background_->SaveTemplate(page, false);
+  }
+  return true;
+}
+
+bool RVGlobalProperties::ThereAreBackground() const { return background_->HasImageData(); }
+
+void RVGlobalProperties::DeleteBackground() { background_->DeleteOriginalImage(); }
+
+}  // namespace xrpt

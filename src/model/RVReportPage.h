@@ -1,0 +1,28 @@
+// One page of a report as plain data: its properties and its cards. A page window edits it; the loader, the command
+// line and the tests need no window.
+#pragma once
+
+#include "model/CardList.h"
+#include "model/RVGlobalProperties.h"
+
+namespace xrpt {
+
+class RVReportPage {
+ public:
+  RVReportPage() = default;
+  RVReportPage(const RVReportPage&) = delete;  // cards point back to their page
+  RVReportPage& operator=(const RVReportPage&) = delete;
+
+  // Rebuilds the page from a "page" element; elements it does not know are skipped. False without an element.
+  bool SetTemplate(const XmlNode& page);
+  // Appends a "page" element to the root that is open.
+  void SaveTemplate(XmlWriter& root) const;
+  // Appends every card, front to back, to the "page" element that is open.
+  void SaveCtrlsTemplate(XmlWriter& page) const;
+
+  RVGlobalProperties properties;
+  CardList cards;
+  double fontFactor = 1.0;  // font sizes are multiplied by it
+};
+
+}  // namespace xrpt

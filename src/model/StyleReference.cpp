@@ -1,0 +1,20 @@
+#include "model/StyleReference.h"
+
+#include "platform/Host.h"
+
+namespace xrpt {
+
+bool ReadStyleReference(const XmlNode& node, std::wstring& styleName) {
+  const XmlNode reference = node.Node("style");
+  if (!reference) return false;
+  const bool known = CurrentHost().styles->StyleId2Name(reference.Value(), styleName);
+  if (!known) styleName.clear();
+  return known;
+}
+
+void WriteStyleReference(XmlWriter& out, const std::wstring& styleName) {
+  std::wstring id;
+  if (!styleName.empty() && CurrentHost().styles->StyleName2Id(styleName, id)) out.Value("style", id);
+}
+
+}  // namespace xrpt

@@ -1,0 +1,18 @@
+// Cards keep a style by its name; files hold its identifier, so that renaming a style breaks no report.
+#pragma once
+
+#include <string>
+
+#include "platform/Xml.h"
+#include "platform/XmlWriter.h"
+
+namespace xrpt {
+
+// Takes the name of the style whose identifier stands in "style". True when the style is known and should be applied
+// now; an unknown identifier empties the name, and an element that is missing leaves it alone.
+bool ReadStyleReference(const XmlNode& node, std::wstring& styleName);
+
+// Writes "style" when the name is known; a style nobody knows is not written.
+void WriteStyleReference(XmlWriter& out, const std::wstring& styleName);
+
+}  // namespace xrpt

@@ -1,0 +1,43 @@
+// The drawing context handed to every card: where the page lies on the device and how large a millimetre is there.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Geometry.h"
+
+namespace xrpt {
+
+struct tagDraw {
+  Rect clip;             // what is being painted, device units
+  double offsetX = 0.0;  // of the page's top-left corner
+  double offsetY = 0.0;
+  double pageWidthPx = 0.0;
+  double pageHeightPx = 0.0;
+  double roundedPxX = 0.0;  // radius of the page's corners
+  double roundedPxY = 0.0;
+  double pageWidth = 210.0;  // millimetres
+  double pageHeight = 297.0;
+  double zoom = 1.0;          // as stored: negative follows the window; cards use its absolute value
+  double pixelsPerMmX = 0.0;  // at zoom 1
+  double pixelsPerMmY = 0.0;
+  std::int32_t flag1 = 1;
+  std::int32_t flag2 = 1;
+  double fontFactor = 1.0;
+  std::int32_t reserved1 = 0;
+  // Milliseconds since the page began to be shown: where moving texts and pictures are on their way. 0 draws all at
+  // rest.
+  std::int32_t animationTime = 0;
+};
+
+// A card's rectangle on the device. Width and height are rounded apart from the corner, so that a card's size does not
+// wobble while it is moved.
+inline Rect CardPixelRect(const tagDraw& draw, double x, double y, double width, double height) {
+  const double left = std::round(draw.offsetX) + draw.pageWidthPx * x / draw.pageWidth;
+  const double top = std::round(draw.offsetY) + draw.pageHeightPx * y / draw.pageHeight;
+  const int l = roundi(left);
+  const int t = roundi(top);
+  return {l, t, l + roundi(draw.pageWidthPx * width / draw.pageWidth),
+          t + roundi(draw.pageHeightPx * height / draw.pageHeight)};
+}
+
+}  // namespace xrpt

@@ -1,0 +1,46 @@
+// A picture in memory that frames, grid dots and the drag outline are drawn into pixel by pixel, over whatever is
+// there.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/Color.h"
+#include "platform/Geometry.h"
+
+namespace xrpt {
+
+// Pixels are 32 bits 0xFFRRGGBB, as screens hold them. On a screen of higher density one canvas pixel is a block of
+// `scale` by `scale` device pixels; callers only ever name canvas pixels. Outside the picture nothing is drawn.
+struct PixelBuffer {
+  std::uint32_t* bits = nullptr;
+  int width = 0;              // device pixels
+  int height = 0;             // device pixels
+  std::ptrdiff_t stride = 0;  // device pixels from one row to the next
+  double scale = 1.0;
+
+  void SetPixel(int x, int y, Color color) {
+    const std::uint32_t value =
+        0xFF000000u | std::uint32_t{RedOf(color)} << 16 | std::uint32_t{GreenOf(color)} << 8 | BlueOf(color);
+    ForBlock(x, y, [value](std::uint32_t& pixel) { pixel = value; });
+  }
+  // Drawing the same pixel twice gives back what was there.
+  void XorPixel(int x, int y, Color color) {
+    const std::uint32_t value = std::uint32_t{RedOf(color)} << 16 | std::uint32_t{GreenOf(color)} << 8 | BlueOf(color);
+    ForBlock(x, y, [value](std::uint32_t& pixel) { pixel ^= value; });
+  }
+
+ private:
+  template <class Change>
+  void ForBlock(int x, int y, const Change& change) {
+    const int left = Device(x, width);
+    const int right = Device(x + 1, width);
+    const int bottom = Device(y + 1, height);
+    for (int row = Device(y, height); row < bottom; ++row) {
+      for (int column = left; column < right; ++column) change(bits[row * stride + column]);
+    }
+  }
+  int Device(int canvas, int limit) const { return std::clamp(trunci(canvas * scale), 0, limit); }
+};
+
+}  // namespace xrpt
