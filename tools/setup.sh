@@ -1,7 +1,7 @@
 # Installs what is missing of the packages named, on Debian 12. Sourced by ./run, ./test and .ci/run.
 
 # What the editor itself is built from.
-BUILD_PACKAGES="g++ cmake ninja-build ccache mold zlib1g-dev libpugixml-dev qt6-base-dev qt6-svg-dev
+BUILD_PACKAGES="g++ cmake ninja-build ccache mold zlib1g-dev libpugixml-dev libcli11-dev qt6-base-dev qt6-svg-dev
   qt6-image-formats-plugins fontconfig fonts-liberation fonts-dejavu-core"
 # What only the tests need.
 TEST_PACKAGES="libgtest-dev libgmock-dev librapidcheck-dev libmuparser-dev libbenchmark-dev libxml2-utils xvfb xdotool openbox
