@@ -4,7 +4,6 @@
 #include <QBuffer>
 #include <QColor>
 #include <QImage>
-#include <QLoggingCategory>
 
 #include "host/PngEncoder.h"
 #include "host/qt/QtHost.h"
@@ -17,10 +16,7 @@ using ::testing::ElementsAre;
 
 class Pictures : public ::testing::Test {
  protected:
-  Pictures() {
-    EnsureHeadlessQt();
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.*=false"));
-  }
+  Pictures() { EnsureHeadlessQt(); }
 
   // 40 x 30, red, with the top left pixel as given.
   static std::string Encoded(const char* format, QColor first = Qt::red) {

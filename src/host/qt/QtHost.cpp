@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <clocale>
+#include <cstdio>
 
 #include "host/qt/QtClipboard.h"
 #include "host/qt/QtFonts.h"
@@ -17,6 +18,11 @@ namespace {
 // What is wrong with a picture is said once, by whoever wanted it.
 void QuietPictureReaders() { QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.svg*=false")); }
 
+// Where there is no window the toolkit's warnings are about windows; errors still matter.
+void KeepErrorsOnly(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 }  // namespace
 
 void EnsureHeadlessQt() {
@@ -24,6 +30,7 @@ void EnsureHeadlessQt() {
   static int argumentCount = 1;
   static char name[] = "xrpt";
   static char* arguments[] = {name, nullptr};
+  qInstallMessageHandler(KeepErrorsOnly);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   // Lives as long as the process: fonts that outlive the application object crash at exit.
   static QGuiApplication* const application = new QGuiApplication(argumentCount, arguments);
