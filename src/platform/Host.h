@@ -193,6 +193,7 @@ class VariableNaming {
 };
 
 struct Host {
+  std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
   std::unique_ptr<SetupService> setup;
   std::unique_ptr<FileService> files;
   std::unique_ptr<TextService> texts;
@@ -200,7 +201,6 @@ struct Host {
   std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<StyleTable> styles;
   std::unique_ptr<GuidService> guids;
-  std::unique_ptr<LoggerService> logger;
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
   std::unique_ptr<ClipboardService> clipboard;

@@ -1,0 +1,25 @@
+// The plant's devices and variables as `devices.xml` of the configuration folder lists them:
+// <devices><device><id/><name/><variable><id/><name/></variable>...</device>...</devices>
+#pragma once
+
+#include "platform/Host.h"
+
+namespace xrpt {
+
+class DeviceFile final : public DeviceCatalogue {
+ public:
+  static constexpr const char* kFileName = "devices.xml";
+
+  explicit DeviceFile(Host& host) : host_(host) {}
+  // Read again when the file on disk is another one. A file that cannot be read is logged and has no devices.
+  std::vector<Device> Devices() override;
+
+ private:
+  std::vector<Device> Load(const Path& file);
+
+  Host& host_;
+  FileStamp stamp_;
+  std::vector<Device> devices_;
+};
+
+}  // namespace xrpt
