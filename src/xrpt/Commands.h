@@ -1,0 +1,16 @@
+// The subcommands. Each registers its options with the program and runs when the command line names it.
+#pragma once
+
+namespace CLI {
+class App;
+}
+
+namespace xrpt {
+
+// `status` receives the exit status of the command that ran.
+void AddResave(CLI::App& program, int& status);
+void AddInfo(CLI::App& program, int& status);
+void AddEdit(CLI::App& program, int& status);
+void AddRender(CLI::App& program, int& status);
+
+}  // namespace xrpt

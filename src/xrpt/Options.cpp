@@ -1,0 +1,79 @@
+#include "xrpt/Options.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "host/DefaultHost.h"
+#include "platform/NamedFiles.h"
+#include "platform/Text.h"
+
+namespace xrpt {
+
+void CommonOptions::AddReport(CLI::App& command) {
+  command.add_option("REPORT", report, "A report file, or a report's name in the configuration folder")->required();
+}
+
+void CommonOptions::AddFolders(CLI::App& command) {
+  command
+      .add_option("--config", config,
+                  "Configuration folder: reports, styles, devices.xml (default: the report's folder)")
+      ->type_name("DIR");
+  command.add_option("--images", images, "Picture store (default: \"images\" in the configuration folder)")
+      ->type_name("DIR");
+}
+
+void CommonOptions::AddDpi(CLI::App& command) {
+  command.add_option("--dpi", dpi, "The screen's dots per inch")
+      ->type_name("N")
+      ->check(CLI::Range(1, 4800))
+      ->capture_default_str();
+}
+
+Path ConfigFolderOf(const CommonOptions& options) {
+  if (!options.config.empty()) return options.config;
+  const Path folder = Path(options.report).parent_path();
+  return folder.empty() ? Path(".") : folder;
+}
+
+Path ImagesFolderOf(const CommonOptions& options) {
+  return options.images.empty() ? ConfigFolderOf(options) / "images" : Path(options.images);
+}
+
+HostSession::HostSession(const CommonOptions& options) : former_(nullptr) {
+  HostOptions where;
+  where.cfgFolder = ConfigFolderOf(options);
+  where.imagesFolder = ImagesFolderOf(options);
+  where.dpi = options.dpi;
+  host_ = MakeDefaultHost(where);
+  former_ = InstallHost(host_.get());
+}
+
+HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), former_(InstallHost(host_.get())) {}
+
+HostSession::~HostSession() { InstallHost(former_); }
+
+bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report) {
+  Path file = options.report;
+  if (!CurrentHost().files->Stamp(file).exists) {
+    const auto named = FindNamedFile(ConfigFolderOf(options), FromUtf8(options.report), kReportEnding);
+    if (named) file = *named;
+  }
+  const std::wstring asked = FromUtf8(name);
+  const LoadResult result = report.LoadFile(file, name.empty() ? nullptr : &asked);
+  if (result.loaded) return true;
+  PrintError(file.string(),
+             result.error.message + (result.error.offset ? " at byte " + std::to_string(result.error.offset) : ""));
+  return false;
+}
+
+void PrintError(const std::string& file, const std::string& reason) {
+  std::cerr << "xrpt: " << file << ": " << reason << '\n';
+}
+
+bool WriteOutput(const std::string& file, const std::string& bytes) {
+  if (CurrentHost().files->Write(file, bytes)) return true;
+  PrintError(file, "could not be written");
+  return false;
+}
+
+}  // namespace xrpt

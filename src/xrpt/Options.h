@@ -1,0 +1,57 @@
+// What several subcommands share: where things lie, and opening a report the way the editor does.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "model/RVReport.h"
+
+namespace CLI {
+class App;
+}
+
+namespace xrpt {
+
+// The exit status of every subcommand.
+enum ExitStatus { kNothingToReport = 0, kFindings = 1, kCouldNotRun = 2 };
+
+struct CommonOptions {
+  std::string report;  // a file, or a report's name in the configuration folder
+  std::string config;  // default: the report's own folder, where its styles lie
+  std::string images;  // default: "images" in the configuration folder
+  int dpi = 96;
+
+  void AddReport(CLI::App& command);
+  void AddFolders(CLI::App& command);
+  void AddDpi(CLI::App& command);
+};
+
+// Installs a host on the folders of the options for as long as it lives.
+class HostSession {
+ public:
+  explicit HostSession(const CommonOptions& options);
+  // A host made elsewhere, with its folders set.
+  explicit HostSession(std::unique_ptr<Host> host);
+  ~HostSession();
+  HostSession(const HostSession&) = delete;
+  HostSession& operator=(const HostSession&) = delete;
+
+ private:
+  std::unique_ptr<Host> host_;
+  Host* former_;
+};
+
+// The configuration folder that the options mean.
+Path ConfigFolderOf(const CommonOptions& options);
+Path ImagesFolderOf(const CommonOptions& options);
+
+// Opens the report of the options; under `name` when one is given. False, and a line on standard error, when there is
+// no such file or it cannot be read.
+bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report);
+
+// "xrpt: FILE: REASON" on standard error.
+void PrintError(const std::string& file, const std::string& reason);
+// Writes a file through the host; false and a line on standard error when that fails.
+bool WriteOutput(const std::string& file, const std::string& bytes);
+
+}  // namespace xrpt

@@ -1,0 +1,37 @@
+// xrpt: report templates in scripts.
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <iostream>
+
+#include "xrpt/Commands.h"
+#include "xrpt/Options.h"
+
+namespace {
+
+int Run(int argc, char** argv) {
+  CLI::App program("Report templates on the command line: resave, look into, edit and render them.", "xrpt");
+  program.require_subcommand(1);
+  program.set_version_flag("--version", XRPT_VERSION);
+  program.footer(
+      "Exit status: 0 nothing to report, 1 findings, 2 could not run.\n"
+      "\"xrpt COMMAND --help\" shows a command's options and examples.");
+  int status = xrpt::kNothingToReport;
+  xrpt::AddResave(program, status);
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return program.exit(error) == 0 ? xrpt::kNothingToReport : xrpt::kCouldNotRun;
+  }
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& fault) {
+    std::cerr << "xrpt: " << fault.what() << '\n';
+    return xrpt::kCouldNotRun;
+  }
+}
