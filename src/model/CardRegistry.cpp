@@ -1,18 +1,21 @@
 #include "model/CardRegistry.h"
 
+#include "model/RVAnalogBar.h"
 #include "model/RVCardDate.h"
 #include "model/RVCardFormule.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "model/RVCardPrimitive.h"
+#include "model/RVCardReportGraph.h"
 
 namespace xrpt {
 namespace {
 
 constexpr RegistryRow kRows[] = {
-    {&RVCardImage::Class, true, true},
-    {&RVCardLabel::Class, true, true},
-    {&RVCardDate::Class, true, true},
-    {&RVCardFormule::Class, true, true},
+    {&RVCardImage::Class, true, true},        {&RVCardLabel::Class, true, true},
+    {&RVCardDate::Class, true, true},         {&RVCardFormule::Class, true, true},
+    {&RVCardReportGraph::Class, true, false}, {&RVAnalogBar::Class, true, false},
+    {&RVCardPrimitive::Class, true, false},
 };
 
 std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place) {
