@@ -97,8 +97,13 @@ void ReadFields(const FieldTable& table, void* object, const XmlNode& node) {
 }
 
 void WriteFields(const FieldTable& table, const void* object, XmlWriter& out) {
+  WriteFields(table, object, object, out);
+}
+
+void WriteFields(const FieldTable& table, const void* object, const void* rootObject, XmlWriter& out) {
+  if (!table.base) return WriteRows(table.rows, rootObject, out);
   if (table.writesOwnFirst) WriteRows(table.rows, object, out);
-  if (table.base) WriteFields(*table.base, object, out);
+  WriteFields(*table.base, object, rootObject, out);
   if (!table.writesOwnFirst) WriteRows(table.rows, object, out);
 }
 

@@ -81,6 +81,8 @@ struct FieldTable {
 
 void ReadFields(const FieldTable& table, void* object, const XmlNode& node);
 void WriteFields(const FieldTable& table, const void* object, XmlWriter& out);
+// The same with the rows of the root of the class tree taken from another object.
+void WriteFields(const FieldTable& table, const void* object, const void* rootObject, XmlWriter& out);
 bool EqualFields(const FieldTable& table, const void* left, const void* right);
 
 // Own rows only, for what stands between other things.

@@ -19,6 +19,7 @@ std::span<const FieldRow> RVCardButton::Rows() {
   using Button = RVCardButton;
   using VisualizationCodec = codec::OneOf<kVisualizationWords, codec::kNone, codec::kNone>;
   constexpr auto aligned = AlignmentRows<Button, &Button::horizontalAlign, &Button::verticalAlign>();
+  constexpr auto scaled = ScalingRows<Button, &Button::maintainAspectRatio, &Button::maintainRealSize>();
   static constexpr FieldRow kRows[] = {
       Field<Button, VisualizationCodec, &Button::visualization>(
           nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
@@ -45,10 +46,8 @@ std::span<const FieldRow> RVCardButton::Rows() {
       Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>()),
       Only<Button, &Button::IsAligned>(aligned[0]),
       Only<Button, &Button::IsAligned>(aligned[1]),
-      Only<Button, &Button::IsImage>(Field<Button, codec::Bool, &Button::maintainAspectRatio>(
-          nullptr, "maintainAspectRatio", nullptr, {text::kAspectRatio, FieldGroup::Scale, FieldEditor::Check})),
-      Only<Button, &Button::IsImage>(Field<Button, codec::Bool, &Button::maintainRealSize>(
-          nullptr, "maintainRealSize", nullptr, {text::kRealSize, FieldGroup::Scale, FieldEditor::Check})),
+      Only<Button, &Button::IsImage>(scaled[0]),
+      Only<Button, &Button::IsImage>(scaled[1]),
   };
   return kRows;
 }
