@@ -35,7 +35,7 @@ void DrawFailure(Graphics& graphics, const Rect& card) {
   graphics.FillRect(box, kGround);
   graphics.DrawLine({box.left, box.top}, {box.right, box.bottom}, {kAlarm, 1.0});
   graphics.DrawLine({box.left, box.bottom}, {box.right, box.top}, {kAlarm, 1.0});
-  graphics.DrawRect({box.left + 0.5, box.top + 0.5, box.right - 0.5, box.bottom - 0.5}, {kAlarm, 1.0});
+  graphics.DrawRect({box.left, box.top, box.right - 1.0, box.bottom - 1.0}, {kAlarm, 1.0});
 }
 
 // The grid crossings of one axis that lie inside the clip, in pixels.

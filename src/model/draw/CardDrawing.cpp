@@ -67,6 +67,13 @@ void DrawGround(Graphics& graphics, const CardArea& area, Color color) {
   if (color != kNoColor && !area.IsEmpty()) graphics.FillRect(area.device, color);
 }
 
+RectD StrokedInside(const RectD& rect, double penWidth) {
+  const double before = (penWidth - 1.0) * 0.5;
+  const double after = (penWidth + 1.0) * 0.5;
+  return {rect.left + before, rect.top + before, std::max(rect.left + before, rect.right - after),
+          std::max(rect.top + before, rect.bottom - after)};
+}
+
 void DrawTextLine(Graphics& graphics, const CardArea& area, const Font& pageFont, Color color, const TextLine& line,
                   PointD shift) {
   const double pixelSize = pageFont.size * area.scale.y;
@@ -126,8 +133,7 @@ void DrawPlaceholder(Graphics& graphics, const CardArea& area, std::wstring_view
   graphics.FillRect(box, kPlaceholderGround);
   graphics.DrawLine({box.left, box.top}, {box.right, box.bottom}, pen);
   graphics.DrawLine({box.left, box.bottom}, {box.right, box.top}, pen);
-  const double inset = pen.width * 0.5;
-  graphics.DrawRect({box.left + inset, box.top + inset, box.right - inset, box.bottom - inset}, pen);
+  graphics.DrawRect(StrokedInside(box, pen.width), pen);
   DrawMissingName(graphics, area, name);
 }
 

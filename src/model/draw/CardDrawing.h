@@ -23,6 +23,9 @@ struct TextStyle {
 // The card's rectangle in the colour; nothing for kNoColor.
 void DrawGround(Graphics& graphics, const CardArea& area, Color color);
 
+// The path of a stroke that keeps inside the rectangle.
+RectD StrokedInside(const RectD& rect, double penWidth);
+
 // A text inside the card, clipped to it. `time` is the animation's; at 0 the text stands still and breaks into lines,
 // on its way it is a single line as far as it moves sideways.
 void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& style, std::wstring_view text,

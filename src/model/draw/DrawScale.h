@@ -18,8 +18,8 @@ struct DrawScale {
   double y = 1.0;
   double font = 1.0;  // page points a point of a font
 
-  // Never thinner than the device can show crisply.
-  double PenWidth(double points) const { return std::max(1.0, points * y); }
+  // Whole device units, never thinner than one: crisp on a screen, and too fine to notice on paper.
+  double PenWidth(double points) const { return std::max(1.0, std::round(points * y)); }
 };
 
 // A report keeps its texts in proportion to its cards whatever the screen: the font factor is the device's dots per
