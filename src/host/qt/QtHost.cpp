@@ -32,9 +32,7 @@ void EnsureHeadlessQt() {
   static char* arguments[] = {name, nullptr};
   qInstallMessageHandler(KeepErrorsOnly);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Lives as long as the process: fonts that outlive the application object crash at exit.
-  static QGuiApplication* const application = new QGuiApplication(argumentCount, arguments);
-  (void)application;
+  static const QGuiApplication application(argumentCount, arguments);
   std::setlocale(LC_NUMERIC, "C");
 }
 
