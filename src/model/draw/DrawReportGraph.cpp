@@ -1,4 +1,6 @@
 // Report graphs: the ground, the legend, and the plots in what is left.
+#include <algorithm>
+
 #include "model/RVCardReportGraph.h"
 #include "model/draw/GraphLegend.h"
 
@@ -84,29 +86,56 @@ class GraphPainter {
 
   // Plots against time one under the other, pies side by side in a row below them.
   void PaintPlots() {
-    const auto pies =
-        static_cast<double>(std::count_if(plots_.begin(), plots_.end(), [](const Plot& p) { return p.isPie; }));
-    const double rows = static_cast<double>(plots_.size()) - pies + (pies > 0.0 ? 1.0 : 0.0);
-    const double height = (frame_.Height() - kPlotGap * (rows - 1.0)) / rows;
-    const double width = pies > 0.0 ? frame_.Width() / pies : 0.0;
-    double row = 0.0;
-    double pie = 0.0;
-    for (const Plot& plot : plots_) {
-      const double top = frame_.top + (plot.isPie ? rows - 1.0 : row) * (height + kPlotGap);
-      if (plot.isPie) {
-        const double left = frame_.left + width * pie++;
-        DrawPie(canvas_, SlicesOf(plot, series_, canvas_.periods), {left, top, left + width, top + height});
-      } else {
-        PaintTimePlot(plot, {frame_.left, top, frame_.right, top + height});
-        row += 1.0;
-      }
+    const auto pies = static_cast<std::size_t>(
+        std::count_if(plots_.begin(), plots_.end(), [](const Plot& plot) { return plot.isPie; }));
+    const std::size_t timePlots = plots_.size() - pies;
+    const double rows = static_cast<double>(timePlots) + (pies > 0 ? 1.0 : 0.0);
+    RectD timeFrame = frame_;
+    timeFrame.bottom -= pies > 0 ? (frame_.Height() + kPlotGap) / rows : 0.0;
+    if (timePlots > 0) PaintTimePlots(timeFrame, timePlots);
+    if (pies > 0) {
+      PaintPies(
+          {frame_.left, frame_.bottom - (frame_.Height() + kPlotGap) / rows + kPlotGap, frame_.right, frame_.bottom},
+          pies);
     }
   }
 
-  void PaintTimePlot(const Plot& plot, const RectD& frame) const {
+  // The names of the periods stand once, under the last one, which is so much higher.
+  void PaintTimePlots(const RectD& frame, std::size_t count) const {
+    const double names = canvas_.card.hideXAxisLabels ? 0.0 : canvas_.lineHeight;
+    const double height =
+        (frame.Height() - names - kPlotGap * static_cast<double>(count - 1)) / static_cast<double>(count);
+    std::vector<std::vector<const GraphSeries*>> series;
+    std::vector<TimePlotFrame> frames;
+    double axis = 0.0;
+    for (const Plot& plot : plots_) {
+      if (plot.isPie) continue;
+      const double top = frame.top + static_cast<double>(frames.size()) * (height + kPlotGap);
+      const bool last = frames.size() + 1 == count;
+      series.push_back(SeriesIn(plot));
+      frames.push_back({{frame.left, top, frame.right, last ? frame.bottom : top + height}, last, 0.0});
+      axis = std::max(axis, LeftAxisWidth(canvas_, series.back(), frames.back()));
+    }
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+      frames[i].leastAxis = axis;
+      DrawTimePlot(canvas_, series[i], frames[i]);
+    }
+  }
+
+  std::vector<const GraphSeries*> SeriesIn(const Plot& plot) const {
     std::vector<const GraphSeries*> shown;
     for (std::size_t i : plot.series) shown.push_back(&series_[i]);
-    DrawTimePlot(canvas_, shown, frame);
+    return shown;
+  }
+
+  void PaintPies(const RectD& frame, std::size_t count) const {
+    const double width = frame.Width() / static_cast<double>(count);
+    double left = frame.left;
+    for (const Plot& plot : plots_) {
+      if (!plot.isPie) continue;
+      DrawPie(canvas_, SlicesOf(plot, series_, canvas_.periods), {left, frame.top, left + width, frame.bottom});
+      left += width;
+    }
   }
 
   const GraphCanvas& canvas_;
