@@ -11,7 +11,9 @@ constexpr double kMargin = 4.0;
 constexpr double kLegendShare = 0.34;   // of the height, at most
 constexpr double kLegendBeside = 0.45;  // of the width, at most
 constexpr double kPlotGap = 4.0;
-constexpr double kWide = 1.25;  // a frame that is this much wider than high has its legend beside the pie
+constexpr double kLowest = 3.4;      // lines of text high, a plot can be read
+constexpr double kNarrowest = 12.0;  // and so many wide
+constexpr double kWide = 1.25;       // a frame that is this much wider than high has its legend beside the pie
 
 class GraphPainter {
  public:
@@ -100,21 +102,43 @@ class GraphPainter {
     }
   }
 
-  // The names of the periods stand once, under the last one, which is so much higher.
-  void PaintTimePlots(const RectD& frame, std::size_t count) const {
+  // Plots too low to be read go into columns, as long as they stay wide enough.
+  std::size_t ColumnsFor(const RectD& frame, std::size_t count) const {
+    std::size_t columns = 1;
+    const auto rows = [count](std::size_t n) { return static_cast<double>((count + n - 1) / n); };
+    while (columns < count && frame.Height() / rows(columns) < kLowest * canvas_.lineHeight &&
+           frame.Width() / static_cast<double>(columns + 1) > kNarrowest * canvas_.lineHeight) {
+      ++columns;
+    }
+    return columns;
+  }
+
+  // The names of the periods stand once, under the last plot of a column, which is so much higher.
+  std::vector<TimePlotFrame> TimeFrames(const RectD& frame, std::size_t count) const {
+    const std::size_t columns = ColumnsFor(frame, count);
+    const std::size_t rows = (count + columns - 1) / columns;
     const double names = canvas_.card.hideXAxisLabels ? 0.0 : canvas_.lineHeight;
-    const double height =
-        (frame.Height() - names - kPlotGap * static_cast<double>(count - 1)) / static_cast<double>(count);
-    std::vector<std::vector<const GraphSeries*>> series;
+    const double height = (frame.Height() - names + kPlotGap) / static_cast<double>(rows);
+    const double width = (frame.Width() + kPlotGap) / static_cast<double>(columns);
     std::vector<TimePlotFrame> frames;
+    for (std::size_t i = 0; i < count; ++i) {
+      const double left = frame.left + static_cast<double>(i / rows) * width;
+      const double top = frame.top + static_cast<double>(i % rows) * height;
+      const bool last = (i + 1) % rows == 0 || i + 1 == count;
+      const double bottom = top + height - kPlotGap + (last ? names : 0.0);
+      frames.push_back({{left, top, left + width - kPlotGap, bottom}, last, 0.0});
+    }
+    return frames;
+  }
+
+  void PaintTimePlots(const RectD& frame, std::size_t count) const {
+    std::vector<TimePlotFrame> frames = TimeFrames(frame, count);
+    std::vector<std::vector<const GraphSeries*>> series;
     double axis = 0.0;
     for (const Plot& plot : plots_) {
       if (plot.isPie) continue;
-      const double top = frame.top + static_cast<double>(frames.size()) * (height + kPlotGap);
-      const bool last = frames.size() + 1 == count;
       series.push_back(SeriesIn(plot));
-      frames.push_back({{frame.left, top, frame.right, last ? frame.bottom : top + height}, last, 0.0});
-      axis = std::max(axis, LeftAxisWidth(canvas_, series.back(), frames.back()));
+      axis = std::max(axis, LeftAxisWidth(canvas_, series.back(), frames[series.size() - 1]));
     }
     for (std::size_t i = 0; i < frames.size(); ++i) {
       frames[i].leastAxis = axis;

@@ -42,7 +42,7 @@ class TimePlot {
         namesPeriods_(frame.namesPeriods && !canvas.card.hideXAxisLabels),
         count_(canvas.periods.size()) {
     PlaceRows();
-    axes_ = AxesOf(series, static_cast<int>(plot_.Height() / (canvas.lineHeight * 1.7)) + 1);
+    axes_ = AxesOf(series, static_cast<int>(plot_.Height() / (canvas.lineHeight * 2.1)) + 1);
     PlaceColumns();
   }
 
