@@ -45,7 +45,7 @@ class RVCardImage : public RVCardControl {
 
  private:
   static std::span<const FieldRow> Rows();
-  void ReadImage(const XmlNode& node);
+  void ReadImage(const XmlNode& image);
   void WriteImage(XmlWriter& out) const;
 
   ImageRecordPtr image_;
