@@ -117,7 +117,7 @@ std::error_code WriteAtomically(const Path& given, std::string_view bytes) {
     return errno == ENOENT ? Replace(file, bytes, nullptr) : LastError();
   }
   if (S_ISDIR(former.st_mode)) return ErrorOf(std::errc::is_a_directory);
-  if (::access(file.c_str(), W_OK) != 0) return LastError();
+  if (::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) return LastError();
   if (!S_ISREG(former.st_mode)) return WriteDevice(file, bytes);
   return Replace(file, bytes, &former);
 }

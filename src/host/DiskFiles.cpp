@@ -26,6 +26,12 @@ Path Beside(const Path& file) {
   return recovery;
 }
 
+// Not among devices.
+bool MayLieBeside(const Path& file) {
+  std::error_code ignored;
+  return !fs::is_other(file, ignored);
+}
+
 // Two reports of one name in different folders must not take each other's place.
 Path InState(const Path& stateFolder, const Path& file) {
   std::error_code ignored;
@@ -56,15 +62,20 @@ bool DiskFiles::Write(const Path& file, std::string_view bytes) {
 
 void DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason) {
   std::string message = "DiskFiles::Write(): could not save " + file.string() + ": " + reason;
-  for (const Path& recovery : {Beside(file), InState(stateFolder_, file)}) {
-    if (recovery != Beside(file)) CreateFolder(recovery.parent_path());
-    if (WriteAtomically(recovery, bytes)) continue;
+  const Path recovery = WriteRecovery(file, bytes);
+  if (!recovery.empty()) {
     message += "; the unsaved text is kept in " + recovery.string();
     const std::lock_guard lock(mutex_);
     recoveries_[file] = recovery;
-    break;
   }
   host_.logger->Log(4, FromUtf8(message));
+}
+
+Path DiskFiles::WriteRecovery(const Path& file, std::string_view bytes) {
+  if (MayLieBeside(file) && !WriteAtomically(Beside(file), bytes)) return Beside(file);
+  const Path elsewhere = InState(stateFolder_, file);
+  CreateFolder(elsewhere.parent_path());
+  return WriteAtomically(elsewhere, bytes) ? Path() : elsewhere;
 }
 
 // Once the bytes are where they belong, what was kept of an earlier failure is stale.

@@ -23,6 +23,8 @@ class DiskFiles final : public FileService {
 
  private:
   void KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason);
+  // Where the bytes lie now, empty when nowhere.
+  Path WriteRecovery(const Path& file, std::string_view bytes);
   void DropRecovery(const Path& file);
 
   Host& host_;

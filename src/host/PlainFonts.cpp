@@ -49,7 +49,10 @@ double EmsOfMonospaced(char32_t c) {
 
 }  // namespace
 
-FontMetrics PlainFonts::Metrics(const Font& font) { return {font.size * 0.905, font.size * 0.212, font.size * 1.149}; }
+FontMetrics PlainFonts::Metrics(const Font& font) {
+  const double em = std::max(font.size, 0.0);
+  return {em * 0.905, em * 0.212, em * 1.149};
+}
 
 double PlainFonts::Width(const Font& font, std::wstring_view text) {
   const bool monospaced = IsMonospaced(font.face);
@@ -59,7 +62,7 @@ double PlainFonts::Width(const Font& font, std::wstring_view text) {
     const auto code = static_cast<char32_t>(c);
     ems += monospaced ? EmsOfMonospaced(code) : EmsOf(code, table);
   }
-  return ems * font.size;
+  return ems * std::max(font.size, 0.0);
 }
 
 }  // namespace xrpt

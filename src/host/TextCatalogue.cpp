@@ -6,23 +6,26 @@
 namespace xrpt {
 namespace {
 
+// In the order of their ids, which the look-up needs.
+// clang-format off
 constexpr TextRow kEnglish[] = {
 #include "host/texts/en/system.inc"
-// ours from here on
-#include "host/texts/en/cli.inc"
-#include "host/texts/en/desktop.inc"
 #include "host/texts/en/fields.inc"
 #include "host/texts/en/undo.inc"
+#include "host/texts/en/desktop.inc"
+#include "host/texts/en/cli.inc"
+#include "host/texts/en/commands.inc"
 };
 
 constexpr TextRow kSpanish[] = {
 #include "host/texts/es/system.inc"
-// ours from here on
-#include "host/texts/es/cli.inc"
-#include "host/texts/es/desktop.inc"
 #include "host/texts/es/fields.inc"
 #include "host/texts/es/undo.inc"
+#include "host/texts/es/desktop.inc"
+#include "host/texts/es/cli.inc"
+#include "host/texts/es/commands.inc"
 };
+// clang-format on
 
 std::string_view LocaleOfEnvironment() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

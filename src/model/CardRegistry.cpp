@@ -1,18 +1,25 @@
 #include "model/CardRegistry.h"
 
+#include "model/RVAnalogBar.h"
+#include "model/RVCardConditioned.h"
 #include "model/RVCardDate.h"
+#include "model/RVCardDynamicImage.h"
+#include "model/RVCardForceValues.h"
 #include "model/RVCardFormule.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "model/RVCardPrimitive.h"
+#include "model/RVCardReportGraph.h"
 
 namespace xrpt {
 namespace {
 
 constexpr RegistryRow kRows[] = {
-    {&RVCardImage::Class, true, true},
-    {&RVCardLabel::Class, true, true},
-    {&RVCardDate::Class, true, true},
-    {&RVCardFormule::Class, true, true},
+    {&RVCardImage::Class, true, true},         {&RVCardLabel::Class, true, true},
+    {&RVCardDate::Class, true, true},          {&RVCardFormule::Class, true, true},
+    {&RVCardDynamicImage::Class, false, true}, {&RVCardConditioned::Class, true, false},
+    {&RVCardForceValues::Class, false, true},  {&RVCardReportGraph::Class, true, false},
+    {&RVAnalogBar::Class, true, false},        {&RVCardPrimitive::Class, true, false},
 };
 
 std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place) {

@@ -58,6 +58,22 @@ struct Positive : PlainCodec<Positive<Instead>> {
   static std::string Show(std::int32_t value) { return std::to_string(value < 1 ? Instead : value); }
 };
 
+// A decimal that reads back exactly.
+struct Exact : PlainCodec<Exact> {
+  static void Assign(double& value, std::string_view text) { value = ParseDecimal(text); }
+  static std::string Show(double value) { return FormatExact(value); }
+};
+
+// Written as an integer, read as a decimal whose fraction is cut off.
+struct Truncated : PlainCodec<Truncated> {
+  static void Assign(std::int32_t& value, std::string_view text) {
+    const double decimal = ParseDecimal(text);
+    const bool fits = decimal > -2147483649.0 && decimal < 2147483648.0;  // not so for NaN
+    value = fits ? static_cast<std::int32_t>(decimal) : 0;
+  }
+  static std::string Show(std::int32_t value) { return std::to_string(value); }
+};
+
 // "%06X" of 0x00BBGGRR.
 struct Colour : PlainCodec<Colour> {
   static void Assign(Color& value, std::string_view text) { value = ParseColor(text); }

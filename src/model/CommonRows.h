@@ -29,6 +29,15 @@ constexpr auto AlignmentRows() {
                                                  {text::kVerticalAlign, FieldGroup::Alignment, FieldEditor::Choice}));
 }
 
+// How a picture fills its card. Missing elements leave the two alone.
+template <class Owner, auto AspectRatio, auto RealSize>
+constexpr auto ScalingRows() {
+  return RowsOf(Field<Owner, codec::Bool, AspectRatio>(nullptr, "maintainAspectRatio", nullptr,
+                                                       {text::kAspectRatio, FieldGroup::Scale, FieldEditor::Check}),
+                Field<Owner, codec::Bool, RealSize>(nullptr, "maintainRealSize", nullptr,
+                                                    {text::kRealSize, FieldGroup::Scale, FieldEditor::Check}));
+}
+
 template <class Owner, auto FontMember>
 constexpr FieldRow FontNameRow() {
   return Field<Owner, codec::String, FontMember, &Font::face>(

@@ -11,10 +11,11 @@ bool SameGroup(const FieldRow& left, const FieldRow& right) {
 }
 
 bool IsWritten(const FieldRow& row, const void* object) {
-  return (row.name || row.writeNode) && (!row.isWritten || row.isWritten(object));
+  return (row.name || row.writeNode) && row.Applies(object) && (!row.isWritten || row.isWritten(object));
 }
 
 void ReadRow(const FieldRow& row, void* object, XmlCursor& cursor, const XmlNode& node) {
+  if (!row.Applies(object)) return;
   if (row.readNode) return row.readNode(object, node);
   if (!row.name || !row.assign) return;
   const XmlNode element = cursor.Find(row.name);
@@ -96,8 +97,14 @@ void ReadFields(const FieldTable& table, void* object, const XmlNode& node) {
 }
 
 void WriteFields(const FieldTable& table, const void* object, XmlWriter& out) {
-  if (table.base) WriteFields(*table.base, object, out);
-  WriteRows(table.rows, object, out);
+  WriteFields(table, object, object, out);
+}
+
+void WriteFields(const FieldTable& table, const void* object, const void* rootObject, XmlWriter& out) {
+  if (!table.base) return WriteRows(table.rows, rootObject, out);
+  if (table.writesOwnFirst) WriteRows(table.rows, object, out);
+  WriteFields(*table.base, object, rootObject, out);
+  if (!table.writesOwnFirst) WriteRows(table.rows, object, out);
 }
 
 bool EqualFields(const FieldTable& table, const void* left, const void* right) {

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "platform/Text.h"
 #include "platform/Xml.h"
 #include "platform/XmlWriter.h"
 
@@ -37,6 +38,8 @@ struct Word {
   int textId = 0;
 };
 
+struct ListTable;
+
 // Objects are passed as pointers to the root of their class tree (`FieldRoot`).
 struct FieldRow {
   const char* group = nullptr;    // element that holds this one and its neighbours of the same group ("font")
@@ -45,7 +48,13 @@ struct FieldRow {
   bool counts = true;             // whether equality looks at it
   FieldPanel panel;
   std::span<const Word> words;  // of a Choice
+  // Set where the words of a choice hang on another field of the object.
+  std::span<const Word> (*wordsOf)(const void* object) = nullptr;
+  // The parallel lists that this row reads and writes, an element an item; see model/ListTable.h.
+  const ListTable& (*list)() = nullptr;
 
+  // Null: every object has the field in the file. An object to which it does not apply neither reads nor writes it.
+  bool (*applies)(const void* object) = nullptr;
   // Null: always written.
   bool (*isWritten)(const void* object) = nullptr;
   void (*assign)(void* object, std::string_view text) = nullptr;
@@ -59,16 +68,21 @@ struct FieldRow {
 
   // "font/size", or "x".
   std::string FullName() const;
+  bool Applies(const void* object) const { return !applies || applies(object); }
+  std::span<const Word> WordsFor(const void* object) const { return wordsOf ? wordsOf(object) : words; }
 };
 
-// The tables of a class and its bases, base first.
+// The tables of a class and its bases. In the file the base's rows come first, save for a class that says otherwise.
 struct FieldTable {
   const FieldTable* base = nullptr;
   std::span<const FieldRow> rows;
+  bool writesOwnFirst = false;
 };
 
 void ReadFields(const FieldTable& table, void* object, const XmlNode& node);
 void WriteFields(const FieldTable& table, const void* object, XmlWriter& out);
+// The same with the rows of the root of the class tree taken from another object.
+void WriteFields(const FieldTable& table, const void* object, const void* rootObject, XmlWriter& out);
 bool EqualFields(const FieldTable& table, const void* left, const void* right);
 
 // Own rows only, for what stands between other things.
@@ -109,10 +123,21 @@ auto& Follow(typename Path<First>::Class& object) {
   }
 }
 
-// From the type-erased root to the member that a path of member pointers names.
+// From the type-erased root to the object.
+template <class Owner>
+Owner& As(void* object) {
+  return static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object));
+}
+
+template <class Owner>
+const Owner& As(const void* object) {
+  return static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object));
+}
+
+// And to the member that a path of member pointers names.
 template <class Owner, auto... Members>
 auto& Get(void* object) {
-  return Follow<Members...>(static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object)));
+  return Follow<Members...>(As<Owner>(object));
 }
 
 template <class Owner, auto... Members>
@@ -152,9 +177,14 @@ constexpr FieldRow WhenNotEmpty(FieldRow row) {
 
 template <class Owner, auto Condition>
 constexpr FieldRow When(FieldRow row) {
-  row.isWritten = [](const void* object) {
-    return (static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object)).*Condition)();
-  };
+  row.isWritten = [](const void* object) { return (detail::As<Owner>(object).*Condition)(); };
+  return row;
+}
+
+// For which objects the field is in the file at all.
+template <class Owner, auto Condition>
+constexpr FieldRow Only(FieldRow row) {
+  row.applies = [](const void* object) { return (detail::As<Owner>(object).*Condition)(); };
   return row;
 }
 
@@ -162,17 +192,47 @@ constexpr FieldRow When(FieldRow row) {
 // and write into it, `void Write(XmlWriter&) const`.
 template <class Owner, auto Read>
 constexpr FieldRow ReadBy(FieldRow row) {
-  row.readNode = [](void* object, const XmlNode& node) {
-    (static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object)).*Read)(node);
-  };
+  row.readNode = [](void* object, const XmlNode& node) { (detail::As<Owner>(object).*Read)(node); };
   return row;
 }
 
 template <class Owner, auto Write>
 constexpr FieldRow WriteBy(FieldRow row) {
-  row.writeNode = [](const void* object, XmlWriter& out) {
-    (static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object)).*Write)(out);
+  row.writeNode = [](const void* object, XmlWriter& out) { (detail::As<Owner>(object).*Write)(out); };
+  return row;
+}
+
+// A choice whose words hang on another field: `void Assign(std::string_view)`, `const char* Show() const`, and
+// `std::span<const Word> Words() const` for the panel.
+template <class Owner, auto Assign, auto Show, auto Words>
+constexpr FieldRow Through(FieldRow row) {
+  row.assign = [](void* object, std::string_view text) { (detail::As<Owner>(object).*Assign)(text); };
+  row.write = [](const void* object, XmlWriter& out, const char* tag) {
+    out.Plain(tag, (detail::As<Owner>(object).*Show)());
   };
+  row.text = [](const void* object) { return FromUtf8((detail::As<Owner>(object).*Show)()); };
+  row.wordsOf = [](const void* object) { return (detail::As<Owner>(object).*Words)(); };
+  return row;
+}
+
+// A text field for which the panel offers words.
+constexpr FieldRow Offering(std::span<const Word> words, FieldRow row) {
+  row.words = words;
+  return row;
+}
+
+// Written at this place and read elsewhere, or not at all.
+constexpr FieldRow WrittenOnly(FieldRow row) {
+  row.readNode = [](void*, const XmlNode&) {};
+  return row;
+}
+
+// What every object has in the file and nobody reads.
+constexpr FieldRow Constant(const char* group, void (*write)(const void*, XmlWriter&)) {
+  FieldRow row;
+  row.group = group;
+  row.counts = false;
+  row.writeNode = write;
   return row;
 }
 
@@ -187,12 +247,18 @@ constexpr FieldRow Irregular() {
   return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(FieldRow())));
 }
 
-// Joins rows and arrays of rows into one array.
+// Read after the rows before it, which it completes.
+template <class Owner, auto Read>
+constexpr FieldRow ReadAfter() {
+  return NotCompared(ReadBy<Owner, Read>(FieldRow()));
+}
+
+// Joins arrays of rows into one array.
 template <std::size_t... N>
 constexpr auto JoinRows(const std::array<FieldRow, N>&... parts) {
   std::array<FieldRow, (N + ...)> all{};
-  std::size_t at = 0;
-  ((std::copy(parts.begin(), parts.end(), all.begin() + at), at += N), ...);
+  auto at = all.begin();
+  ((at = std::copy(parts.begin(), parts.end(), at)), ...);
   return all;
 }
 

@@ -65,6 +65,18 @@ bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
   return true;
 }
 
+// The common values are written from a card that has the other rectangle, all else from this one.
+void RVCardControl::SaveInside(const RVCardControl& container, XmlWriter* node) const {
+  RVCardControl common(*this);
+  common.x = container.x;
+  common.y = container.y;
+  common.width = container.width;
+  common.height = container.height;
+  const CardClass& kind = GetRuntimeClass();
+  const XmlElement element(*node, kind.tag ? kind.tag : "card");
+  WriteFields(kind.table, this, &common, *node);
+}
+
 bool RVCardControl::GetFromXml(const XmlNode& node) {
   ReadFields(GetRuntimeClass().table, this, node);
   return true;

@@ -55,6 +55,8 @@ class RVCardControl {
 
   // Writes the card into the element that is open; with its own element when asked, else its values alone. True.
   virtual bool SaveTemplate(XmlWriter* node, bool makeOwnElement) const;
+  // Writes a card that fills another one: with its own element and the other's rectangle.
+  void SaveInside(const RVCardControl& container, XmlWriter* node) const;
   // Takes what the element holds. Missing values read as the rows say. True.
   virtual bool GetFromXml(const XmlNode& node);
   // A copy with the same id.
@@ -78,7 +80,7 @@ class RVCardControl {
   // A fresh identity.
   void InitializeId();
 
-  void SetParent(RVReportPage* page) { parent = page; }
+  virtual void SetParent(RVReportPage* page) { parent = page; }
   // The page the card stands on. Asking a card that was never given one is a programming error and throws.
   RVReportPage* GetParent() const;
 

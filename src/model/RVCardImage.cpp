@@ -10,10 +10,7 @@ std::span<const FieldRow> RVCardImage::Rows() {
       // Id and path name one thing together, so they are read and written together.
       RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>()),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
-      RowsOf(Field<Image, codec::Bool, &Image::maintainAspectRatio>(
-                 nullptr, "maintainAspectRatio", nullptr, {text::kAspectRatio, FieldGroup::Scale, FieldEditor::Check}),
-             Field<Image, codec::Bool, &Image::maintainRealSize>(
-                 nullptr, "maintainRealSize", nullptr, {text::kRealSize, FieldGroup::Scale, FieldEditor::Check})),
+      ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
   return kRows;
 }

@@ -1,7 +1,6 @@
 #include "model/RVCardLabel.h"
 
 #include "model/StyleReference.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -30,15 +29,7 @@ const CardClass& RVCardLabel::Class() {
   return kind;
 }
 
-bool RVCardLabel::GetStyleFromFile(const std::wstring& name) {
-  const std::optional<StyleFont> style = CurrentHost().styles->Font(name);
-  if (!style) return false;
-  font.face = style->name;
-  font.style = style->style;
-  font.size = style->size;
-  if (style->hasColor) color = style->color;
-  return true;
-}
+bool RVCardLabel::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, color); }
 
 void RVCardLabel::ReadStyle(const XmlNode& node) {
   if (ReadStyleReference(node, styleName)) GetStyleFromFile(styleName);

@@ -17,4 +17,12 @@ void WriteStyleReference(XmlWriter& out, const std::wstring& styleName) {
   if (!styleName.empty() && CurrentHost().styles->StyleName2Id(styleName, id)) out.Value("style", id);
 }
 
+bool TakeStyle(const std::wstring& styleName, Font& font, Color& color) {
+  const std::optional<StyleFont> style = CurrentHost().styles->Font(styleName);
+  if (!style) return false;
+  font = {style->name, style->size, style->style};
+  if (style->hasColor) color = style->color;
+  return true;
+}
+
 }  // namespace xrpt

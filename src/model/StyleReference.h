@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/Color.h"
+#include "platform/Fonts.h"
 #include "platform/Xml.h"
 #include "platform/XmlWriter.h"
 
@@ -14,5 +16,9 @@ bool ReadStyleReference(const XmlNode& node, std::wstring& styleName);
 
 // Writes "style" when the name is known; a style nobody knows is not written.
 void WriteStyleReference(XmlWriter& out, const std::wstring& styleName);
+
+// Takes face, style, size and, when the style has one, colour. A font's orientation stays the card's own. False, and
+// nothing taken, when the style is unknown.
+bool TakeStyle(const std::wstring& styleName, Font& font, Color& color);
 
 }  // namespace xrpt

@@ -2,6 +2,7 @@
 // UTF-8 check, and a single root.
 #include "platform/Xml.h"
 
+#include <algorithm>
 #include <pugixml.hpp>
 
 #include "platform/Host.h"

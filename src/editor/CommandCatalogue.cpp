@@ -1,0 +1,249 @@
+#include "editor/CommandCatalogue.h"
+
+#include "editor/CommandTexts.h"
+#include "editor/InsertTools.h"
+#include "editor/RVEditControlWnd.h"
+
+namespace xrpt {
+namespace {
+
+using Frame = RVEditControlWnd;
+using Arguments = CommandArguments;
+
+constexpr CommandTab kTabs[] = {{RibbonTab::Home, text::kHomeTab},       {RibbonTab::Insert, text::kInsertTab},
+                                {RibbonTab::Arrange, text::kArrangeTab}, {RibbonTab::Page, text::kPageTab},
+                                {RibbonTab::View, text::kViewTab},       {RibbonTab::Report, text::kReportTab}};
+
+// --- When a command is enabled ---
+
+bool Always(const Frame&) { return true; }
+tagEditMenuState MenuState(const Frame& frame) { return frame.CurrentPage().EditMenuState(); }
+std::size_t Selected(const Frame& frame) { return frame.CurrentPage().Selection().Size(); }
+bool OneSelected(const Frame& frame) { return Selected(frame) >= 1; }
+bool TwoSelected(const Frame& frame) { return Selected(frame) >= 2; }
+bool ThreeSelected(const Frame& frame) { return Selected(frame) >= 3; }
+bool CanPaste(const Frame& frame) { return MenuState(frame).paste; }
+bool CanUndo(const Frame& frame) { return MenuState(frame).undo; }
+bool CanRedo(const Frame& frame) { return frame.CurrentPage().IsActionRedoEnabled(); }
+bool HasCards(const Frame& frame) { return MenuState(frame).selectAll; }
+bool HasNextPage(const Frame& frame) { return frame.CurrentPageIndex() + 1 < frame.PageCount(); }
+bool HasPreviousPage(const Frame& frame) { return frame.CurrentPageIndex() > 0; }
+bool HasSeveralPages(const Frame& frame) { return frame.PageCount() > 1; }
+bool IsModified(const Frame& frame) { return frame.IsModified(); }
+bool CanZoomIn(const Frame& frame) { return NextZoomIn(frame.CurrentPage().Zoom()) <= Frame::kLargestZoom; }
+bool CanZoomOut(const Frame& frame) { return NextZoomOut(frame.CurrentPage().Zoom()) >= Frame::kSmallestZoom; }
+
+// --- What it does on the current page ---
+
+template <int Mode>
+bool Align(Frame& frame, Arguments) {
+  frame.CurrentPage().AlignSelectedControls(Mode);
+  return true;
+}
+template <int Mode>
+bool AlignToSelection(Frame& frame, Arguments) {
+  frame.CurrentPage().AlignSelectedControlsCtrl(Mode);
+  return true;
+}
+template <int Mode>
+bool Distribute(Frame& frame, Arguments) {
+  frame.CurrentPage().DistributeSelectedControls(Mode);
+  return true;
+}
+template <int Mode, bool AsGroup>
+bool Justify(Frame& frame, Arguments) {
+  frame.CurrentPage().JustifySelectedControls(Mode, AsGroup);
+  return true;
+}
+template <bool Width, bool Height>
+bool SameSize(Frame& frame, Arguments) {
+  frame.CurrentPage().ResizeSelectedControls(Width, Height);
+  return true;
+}
+template <auto Operation>
+bool OnPage(Frame& frame, Arguments) {
+  (frame.CurrentPage().*Operation)();
+  return true;
+}
+template <auto Operation>
+bool OnFrame(Frame& frame, Arguments) {
+  return (frame.*Operation)();
+}
+template <int Orientation>
+bool Orient(Frame& frame, Arguments) {
+  return frame.SetOrientation(Orientation);
+}
+template <int Kind>
+bool Tool(Frame& frame, Arguments) {
+  frame.SetTool(Kind);
+  return true;
+}
+template <int Kind>
+bool IsTool(const Frame& frame) {
+  return frame.Tool() == Kind;
+}
+bool AddPage(Frame& frame, Arguments) {
+  frame.AddPage();
+  return true;
+}
+bool NextPage(Frame& frame, Arguments) { return frame.ShowPage(frame.CurrentPageIndex() + 1); }
+bool PreviousPage(Frame& frame, Arguments) { return frame.ShowPage(frame.CurrentPageIndex() - 1); }
+bool NewReport(Frame& frame, Arguments) { return frame.NewReport(); }
+bool IsLandscape(const Frame& frame) { return frame.CurrentPage().Page().properties.IsLandscape(); }
+bool IsPortrait(const Frame& frame) { return !IsLandscape(frame); }
+bool IsGridOn(const Frame& frame) { return frame.IsGridOn(); }
+bool IsFitPage(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitPageEntry; }
+bool IsFitWidth(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitWidthEntry; }
+
+constexpr auto kHome = RibbonTab::Home;
+constexpr auto kInsert = RibbonTab::Insert;
+constexpr auto kArrange = RibbonTab::Arrange;
+constexpr auto kPage = RibbonTab::Page;
+constexpr auto kView = RibbonTab::View;
+constexpr auto kReport = RibbonTab::Report;
+
+// name, tab, group, label, icon, keys, large, enabled, checked, run
+constexpr Command kCommands[] = {
+    {"Paste", kHome, text::kClipboardGroup, text::kPaste, "paste", "Ctrl+V", true, CanPaste, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlPaste>},
+    {"Cut", kHome, text::kClipboardGroup, text::kCut, "cut", "Ctrl+X", false, OneSelected, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlCut>},
+    {"Copy", kHome, text::kClipboardGroup, text::kCopy, "copy", "Ctrl+C", false, OneSelected, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlCopy>},
+    {"Delete", kHome, text::kClipboardGroup, text::kDelete, "delete", "Del", false, OneSelected, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlDelete>},
+    {"Undo", kHome, text::kHistoryGroup, text::kUndo, "undo", "Ctrl+Z", true, CanUndo, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlUndo>},
+    {"Redo", kHome, text::kHistoryGroup, text::kRedo, "redo", "Ctrl+Y Ctrl+Shift+Z", true, CanRedo, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlRedo>},
+    {"SelectAll", kHome, text::kSelectGroup, text::kSelectAll, "select-all", "Ctrl+E Ctrl+A", true, HasCards, nullptr,
+     OnPage<&RVEditTemplateWnd::ControlSelectAll>},
+
+    {"Pointer", kInsert, text::kToolGroup, text::kPointer, "pointer", "V", true, Always, IsTool<tool::kPointer>,
+     Tool<tool::kPointer>},
+    {"NewLabel", kInsert, text::kCardsGroup, text::kNewLabel, "label", "L", true, Always, IsTool<tool::kLabel>,
+     Tool<tool::kLabel>},
+    {"NewDate", kInsert, text::kCardsGroup, text::kNewDate, "date", "D", true, Always, IsTool<tool::kDate>,
+     Tool<tool::kDate>},
+    {"NewFormule", kInsert, text::kCardsGroup, text::kNewFormule, "formule", "F", true, Always, IsTool<tool::kFormule>,
+     Tool<tool::kFormule>},
+    {"NewImage", kInsert, text::kCardsGroup, text::kNewImage, "image", "I", true, Always, IsTool<tool::kImage>,
+     Tool<tool::kImage>},
+    {"NewConditioned", kInsert, text::kCardsGroup, text::kNewConditioned, "conditioned", "C", true, Always,
+     IsTool<tool::kConditioned>, Tool<tool::kConditioned>},
+    {"NewReportGraph", kInsert, text::kCardsGroup, text::kNewReportGraph, "report-graph", "G", true, Always,
+     IsTool<tool::kReportGraph>, Tool<tool::kReportGraph>},
+    {"NewAnalogBar", kInsert, text::kCardsGroup, text::kNewAnalogBar, "analog-bar", "B", true, Always,
+     IsTool<tool::kAnalogBar>, Tool<tool::kAnalogBar>},
+    {"NewPrimitive", kInsert, text::kCardsGroup, text::kNewPrimitive, "primitive", "P", true, Always,
+     IsTool<tool::kPrimitive>, Tool<tool::kPrimitive>},
+
+    {"AlignLeft", kArrange, text::kAlignGroup, text::kAlignLeft, "align-left", "Alt+Shift+L", false, TwoSelected,
+     nullptr, Align<1>},
+    {"AlignCenterHorizontally", kArrange, text::kAlignGroup, text::kAlignCenterH, "align-center-h", "Alt+Shift+C",
+     false, TwoSelected, nullptr, Align<32>},
+    {"AlignRight", kArrange, text::kAlignGroup, text::kAlignRight, "align-right", "Alt+Shift+R", false, TwoSelected,
+     nullptr, Align<2>},
+    {"AlignTop", kArrange, text::kAlignGroup, text::kAlignTop, "align-top", "Alt+Shift+T", false, TwoSelected, nullptr,
+     Align<4>},
+    {"AlignCenterVertically", kArrange, text::kAlignGroup, text::kAlignCenterV, "align-center-v", "Alt+Shift+M", false,
+     TwoSelected, nullptr, Align<64>},
+    {"AlignBottom", kArrange, text::kAlignGroup, text::kAlignBottom, "align-bottom", "Alt+Shift+B", false, TwoSelected,
+     nullptr, Align<8>},
+    {"AlignSelectionLeft", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionLeft, "align-selection-left",
+     "Ctrl+Alt+Shift+L", false, TwoSelected, nullptr, AlignToSelection<1>},
+    {"AlignSelectionCenterHorizontally", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionCenterH,
+     "align-selection-center-h", "Ctrl+Alt+Shift+C", false, TwoSelected, nullptr, AlignToSelection<32>},
+    {"AlignSelectionRight", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionRight, "align-selection-right",
+     "Ctrl+Alt+Shift+R", false, TwoSelected, nullptr, AlignToSelection<2>},
+    {"AlignSelectionTop", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionTop, "align-selection-top",
+     "Ctrl+Alt+Shift+T", false, TwoSelected, nullptr, AlignToSelection<4>},
+    {"AlignSelectionCenterVertically", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionCenterV,
+     "align-selection-center-v", "Ctrl+Alt+Shift+M", false, TwoSelected, nullptr, AlignToSelection<64>},
+    {"AlignSelectionBottom", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionBottom,
+     "align-selection-bottom", "Ctrl+Alt+Shift+B", false, TwoSelected, nullptr, AlignToSelection<8>},
+    {"CenterHorizontally", kArrange, text::kCenterGroup, text::kCenterH, "center-h", "Alt+Shift+X", false, OneSelected,
+     nullptr, Justify<0, false>},
+    {"CenterVertically", kArrange, text::kCenterGroup, text::kCenterV, "center-v", "Alt+Shift+Y", false, OneSelected,
+     nullptr, Justify<1, false>},
+    {"CenterGroupHorizontally", kArrange, text::kCenterGroup, text::kCenterGroupH, "center-group-h", "Ctrl+Alt+Shift+X",
+     false, TwoSelected, nullptr, Justify<0, true>},
+    {"CenterGroupVertically", kArrange, text::kCenterGroup, text::kCenterGroupV, "center-group-v", "Ctrl+Alt+Shift+Y",
+     false, TwoSelected, nullptr, Justify<1, true>},
+    {"DistributeHorizontally", kArrange, text::kDistributeGroup, text::kDistributeH, "distribute-h", "Alt+Shift+H",
+     false, ThreeSelected, nullptr, Distribute<0>},
+    {"DistributeVertically", kArrange, text::kDistributeGroup, text::kDistributeV, "distribute-v", "Alt+Shift+V", false,
+     ThreeSelected, nullptr, Distribute<1>},
+    {"ResizeBoth", kArrange, text::kSizeGroup, text::kSameSize, "same-size", "Alt+Shift+S", false, TwoSelected, nullptr,
+     SameSize<true, true>},
+    {"ResizeHorizontally", kArrange, text::kSizeGroup, text::kSameWidth, "same-width", "Alt+Shift+W", false,
+     TwoSelected, nullptr, SameSize<true, false>},
+    {"ResizeVertically", kArrange, text::kSizeGroup, text::kSameHeight, "same-height", "Alt+Shift+E", false,
+     TwoSelected, nullptr, SameSize<false, true>},
+    {"BringToFront", kArrange, text::kOrderGroup, text::kBringToFront, "bring-to-front", "Ctrl+Shift+]", true,
+     OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlBringToFront>},
+    {"SendToBack", kArrange, text::kOrderGroup, text::kSendToBack, "send-to-back", "Ctrl+Shift+[", true, OneSelected,
+     nullptr, OnPage<&RVEditTemplateWnd::ControlSendToBack>},
+
+    {"AddPage", kPage, text::kPagesGroup, text::kAddPage, "add-page", "Ctrl+Shift+N", true, Always, nullptr, AddPage},
+    {"DeletePage", kPage, text::kPagesGroup, text::kDeletePage, "delete-page", "Ctrl+Shift+Del", false, HasSeveralPages,
+     nullptr, OnFrame<&Frame::DeletePage>},
+    {"PreviousPage", kPage, text::kPagesGroup, text::kPreviousPage, "previous-page", "PgUp", false, HasPreviousPage,
+     nullptr, PreviousPage},
+    {"NextPage", kPage, text::kPagesGroup, text::kNextPage, "next-page", "PgDown", false, HasNextPage, nullptr,
+     NextPage},
+    {"Portrait", kPage, text::kOrientationGroup, text::kPortrait, "portrait", "Ctrl+Alt+P", true, Always, IsPortrait,
+     Orient<1>},
+    {"Landscape", kPage, text::kOrientationGroup, text::kLandscape, "landscape", "Ctrl+Alt+L", true, Always,
+     IsLandscape, Orient<0>},
+    {"Grid", kPage, text::kGridGroup, text::kGrid, "grid", "Ctrl+G", true, Always, IsGridOn,
+     OnFrame<&Frame::ToggleGrid>},
+
+    {"ZoomIn", kView, text::kZoomGroup, text::kZoomIn, "zoom-in", "Ctrl++ Ctrl+=", false, CanZoomIn, nullptr,
+     OnFrame<&Frame::ZoomIn>},
+    {"ZoomOut", kView, text::kZoomGroup, text::kZoomOut, "zoom-out", "Ctrl+-", false, CanZoomOut, nullptr,
+     OnFrame<&Frame::ZoomOut>},
+    {"Adjusted", kView, text::kZoomGroup, text::kFitPage, "fit-page", "Ctrl+0", true, Always, IsFitPage,
+     OnFrame<&Frame::FitPage>},
+    {"FitWidth", kView, text::kZoomGroup, text::kFitWidth, "fit-width", "Ctrl+9", true, Always, IsFitWidth,
+     OnFrame<&Frame::FitWidth>},
+    {"SmartGuides", kView, text::kShowGroup, text::kSmartGuides, "guides", "Ctrl+Shift+G", true, Always, nullptr,
+     nullptr},
+    {"Rulers", kView, text::kShowGroup, text::kRulers, "rulers", "Ctrl+R", true, Always, nullptr, nullptr},
+    {"DarkTheme", kView, text::kShowGroup, text::kDarkTheme, "theme", "Ctrl+Shift+D", true, Always, nullptr, nullptr},
+    {"CommandPalette", kView, text::kHelpGroup, text::kCommandPalette, "palette", "Ctrl+Shift+P", true, Always, nullptr,
+     nullptr},
+    {"ShortcutSheet", kView, text::kHelpGroup, text::kShortcutSheet, "shortcuts", "F1", true, Always, nullptr, nullptr},
+
+    {"NewReport", kReport, text::kFileGroup, text::kNewReport, "new", "Ctrl+N", true, Always, nullptr, NewReport},
+    {"Open", kReport, text::kFileGroup, text::kOpen, "open", "Ctrl+O", true, Always, nullptr,
+     OnFrame<&Frame::OpenFromList>},
+    {"Save", kReport, text::kFileGroup, text::kSave, "save", "Ctrl+S", true, IsModified, nullptr,
+     OnFrame<&Frame::Save>},
+    {"SaveAs", kReport, text::kFileGroup, text::kSaveAs, "save-as", "Ctrl+Shift+S", true, Always, nullptr, nullptr},
+    {"ExportPdf", kReport, text::kOutputGroup, text::kExportPdf, "export-pdf", "Ctrl+Shift+E", true, Always, nullptr,
+     nullptr},
+    {"ExportImages", kReport, text::kOutputGroup, text::kExportImages, "export-images", "Ctrl+Alt+E", true, Always,
+     nullptr, nullptr},
+    {"Print", kReport, text::kOutputGroup, text::kPrint, "print", "Ctrl+P", true, Always, nullptr, nullptr},
+};
+
+}  // namespace
+
+std::span<const CommandTab> CommandTabs() { return kTabs; }
+
+std::span<const Command> CommandCatalogue() { return kCommands; }
+
+const Command* FindCommand(std::string_view name) {
+  for (const Command& command : kCommands) {
+    if (name == command.name) return &command;
+  }
+  return nullptr;
+}
+
+bool RunCommand(RVEditControlWnd& frame, const Command& command, CommandArguments arguments) {
+  if (!command.isEnabled(frame)) return false;
+  return command.run ? command.run(frame, arguments) : frame.Port().RunCommand(command.name);
+}
+
+}  // namespace xrpt

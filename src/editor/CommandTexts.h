@@ -1,0 +1,95 @@
+// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799: labels below 61600, the
+// sentence of a command's tooltip 200 above its label.
+#pragma once
+
+namespace xrpt::text {
+
+inline constexpr int kHomeTab = 61400;
+inline constexpr int kInsertTab = 61401;
+inline constexpr int kArrangeTab = 61402;
+inline constexpr int kPageTab = 61403;
+inline constexpr int kViewTab = 61404;
+inline constexpr int kReportTab = 61405;
+inline constexpr int kClipboardGroup = 61406;
+inline constexpr int kHistoryGroup = 61407;
+inline constexpr int kSelectGroup = 61408;
+inline constexpr int kToolGroup = 61409;
+inline constexpr int kCardsGroup = 61410;
+inline constexpr int kAlignGroup = 61411;
+inline constexpr int kAlignSelectionGroup = 61412;
+inline constexpr int kCenterGroup = 61413;
+inline constexpr int kDistributeGroup = 61414;
+inline constexpr int kSizeGroup = 61415;
+inline constexpr int kOrderGroup = 61416;
+inline constexpr int kPagesGroup = 61417;
+inline constexpr int kOrientationGroup = 61418;
+inline constexpr int kGridGroup = 61419;
+inline constexpr int kZoomGroup = 61420;
+inline constexpr int kShowGroup = 61421;
+inline constexpr int kHelpGroup = 61422;
+inline constexpr int kFileGroup = 61423;
+inline constexpr int kOutputGroup = 61424;
+inline constexpr int kPaste = 61425;
+inline constexpr int kCut = 61426;
+inline constexpr int kCopy = 61427;
+inline constexpr int kDelete = 61428;
+inline constexpr int kUndo = 61429;
+inline constexpr int kRedo = 61430;
+inline constexpr int kSelectAll = 61431;
+inline constexpr int kPointer = 61432;
+inline constexpr int kNewLabel = 61433;
+inline constexpr int kNewDate = 61434;
+inline constexpr int kNewFormule = 61435;
+inline constexpr int kNewImage = 61436;
+inline constexpr int kNewConditioned = 61437;
+inline constexpr int kNewReportGraph = 61438;
+inline constexpr int kNewAnalogBar = 61439;
+inline constexpr int kNewPrimitive = 61440;
+inline constexpr int kAlignLeft = 61441;
+inline constexpr int kAlignCenterH = 61442;
+inline constexpr int kAlignRight = 61443;
+inline constexpr int kAlignTop = 61444;
+inline constexpr int kAlignCenterV = 61445;
+inline constexpr int kAlignBottom = 61446;
+inline constexpr int kAlignSelectionLeft = 61447;
+inline constexpr int kAlignSelectionCenterH = 61448;
+inline constexpr int kAlignSelectionRight = 61449;
+inline constexpr int kAlignSelectionTop = 61450;
+inline constexpr int kAlignSelectionCenterV = 61451;
+inline constexpr int kAlignSelectionBottom = 61452;
+inline constexpr int kCenterH = 61453;
+inline constexpr int kCenterV = 61454;
+inline constexpr int kCenterGroupH = 61455;
+inline constexpr int kCenterGroupV = 61456;
+inline constexpr int kDistributeH = 61457;
+inline constexpr int kDistributeV = 61458;
+inline constexpr int kSameSize = 61459;
+inline constexpr int kSameWidth = 61460;
+inline constexpr int kSameHeight = 61461;
+inline constexpr int kBringToFront = 61462;
+inline constexpr int kSendToBack = 61463;
+inline constexpr int kAddPage = 61464;
+inline constexpr int kDeletePage = 61465;
+inline constexpr int kPreviousPage = 61466;
+inline constexpr int kNextPage = 61467;
+inline constexpr int kPortrait = 61468;
+inline constexpr int kLandscape = 61469;
+inline constexpr int kGrid = 61470;
+inline constexpr int kZoomIn = 61471;
+inline constexpr int kZoomOut = 61472;
+inline constexpr int kFitPage = 61473;
+inline constexpr int kFitWidth = 61474;
+inline constexpr int kSmartGuides = 61475;
+inline constexpr int kRulers = 61476;
+inline constexpr int kDarkTheme = 61477;
+inline constexpr int kCommandPalette = 61478;
+inline constexpr int kShortcutSheet = 61479;
+inline constexpr int kNewReport = 61480;
+inline constexpr int kOpen = 61481;
+inline constexpr int kSave = 61482;
+inline constexpr int kSaveAs = 61483;
+inline constexpr int kExportPdf = 61484;
+inline constexpr int kExportImages = 61485;
+inline constexpr int kPrint = 61486;
+
+}  // namespace xrpt::text

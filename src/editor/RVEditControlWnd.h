@@ -1,0 +1,122 @@
+// The editor's frame without its looks: the report, one window a page, which page is shown, and the flows that decide
+// (open, save, save as, pages, zoom). Commands reach it through the catalogue.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "editor/EditorPort.h"
+#include "editor/InsertTools.h"
+#include "model/RVReport.h"
+#include "platform/Messages.h"
+
+namespace xrpt {
+
+class RVEditControlWnd final : public MessageTarget {
+ public:
+  // Starts on a new, empty report. `port` must outlive the frame.
+  explicit RVEditControlWnd(EditorPort& port);
+  ~RVEditControlWnd() override;
+
+  // --- The report ---
+  const RVReport& Report() const { return report_; }
+  RVReport& Report() { return report_; }
+  bool IsModified() const { return report_.modified; }
+  void SetModified(bool modified);
+  // The report's name, or the text for one that has none.
+  std::wstring Caption() const;
+
+  // Opens by name or path; what could not be read opens as a new report, and the result says why.
+  LoadResult Setup(const std::wstring& nameOrPath);
+  LoadResult OpenFile(const Path& file, const std::wstring* askedName);
+  // Asks about unsaved changes, lets the user choose, opens. False when nothing was opened.
+  bool OpenFromList();
+  // Asks about unsaved changes, then starts an empty report. False when the user's save failed.
+  bool NewReport();
+  bool Save();
+  // Under a name of the user's or the host's: a report of its own with a new identity.
+  bool SaveAs(const std::wstring& name);
+  // Under the next free reportN, keeping the identity.
+  bool SaveUnderGeneratedName();
+  void Rename(const std::wstring& name);
+
+  // --- Pages ---
+  std::size_t PageCount() const { return pages_.size(); }
+  std::size_t CurrentPageIndex() const { return current_; }
+  RVEditTemplateWnd& Page(std::size_t index) { return *pages_[index].window; }
+  RVEditTemplateWnd& CurrentPage() { return Page(current_); }
+  const RVEditTemplateWnd& CurrentPage() const { return *pages_[current_].window; }
+  WindowPort& PagePort(std::size_t index) { return *pages_[index].port; }
+  bool ShowPage(std::size_t index);
+  void AddPage();
+  bool DeletePage();
+  // 0 makes the current page landscape, anything else portrait. False when it was already.
+  bool SetOrientation(int orientation);
+  // The grid's sign switches it; the step stays.
+  bool IsGridOn() const;
+  bool ToggleGrid();
+
+  // --- The insert tool, the same for all pages (see InsertTools.h) ---
+  int Tool() const { return tool_; }
+  void SetTool(int tool);
+  // Whether the pointer comes back after each inserted card. Off until the application asks for it.
+  void SetReturnsToPointer(bool returns) { returnsToPointer_ = returns; }
+
+  // --- Zoom of the current page ---
+  // Entries of the zoom box: 0 fit page, 1 fit width, then 50 % to 1000 % in steps of 50 %.
+  static constexpr int kFitPageEntry = 0;
+  static constexpr int kFitWidthEntry = 1;
+  static constexpr double kSmallestZoom = 0.5;
+  static constexpr double kLargestZoom = 10.0;
+  bool ZoomIn();
+  bool ZoomOut();
+  bool SetZoom(double zoom);
+  bool FitPage();
+  bool FitWidth();
+  int ZoomEntry() const;
+  bool SetZoomEntry(int entry);
+
+  // Style files changed: every card reads its font again.
+  void StylesModified();
+  // Pictures of the image store changed.
+  void ImagesModified();
+
+  // Shows the page of a card and selects it there. False when no page has such a card.
+  bool SelectControlById(const std::wstring& id);
+
+  void OnMessage(const MessageData& message) override;
+  MessageQueue& Queue() { return queue_; }
+  EditorPort& Port() { return port_; }
+
+ private:
+  struct PageWindow {
+    std::unique_ptr<WindowPort> port;
+    std::unique_ptr<RVEditTemplateWnd> window;
+    bool fitsWidth = false;  // which of the two fitted zooms a negative zoom is
+  };
+
+  void BuildPages();
+  void DropPages();
+  PageWindow& AttachWindow(RVReportPage& page);
+  void DetachWindow(PageWindow& page);
+  bool Fit(int mode, bool width);
+  // False when the user wanted to save and that failed.
+  bool LetGoOfChanges();
+  void ReportListChanged();
+
+  EditorPort& port_;
+  MessageQueue queue_;
+  RVReport report_;
+  std::vector<PageWindow> pages_;  // one a page of the report, same order
+  std::size_t current_ = 0;
+  int tool_ = tool::kPointer;
+  bool returnsToPointer_ = false;
+};
+
+// The next larger and smaller of the zoom steps, from a stored zoom (negative: fitted). The value itself when refused.
+double NextZoomIn(double zoom);
+double NextZoomOut(double zoom);
+
+}  // namespace xrpt

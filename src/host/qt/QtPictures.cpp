@@ -1,0 +1,103 @@
+#include "host/qt/QtPictures.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include "host/qt/SvgCheck.h"
+
+namespace xrpt {
+namespace {
+
+constexpr int kMaxSide = 32767;
+
+bool IsCompressed(const QByteArray& bytes) { return bytes.startsWith("\x1F\x8B"); }
+
+bool IsTolerable(const QSize& size) {
+  if (!size.isValid()) return true;  // a format that does not tell; the allocation limit still holds
+  if (size.isEmpty() || size.width() > kMaxSide || size.height() > kMaxSide) return false;
+  return qint64(size.width()) * size.height() <= QtPictures::kMaxPixels;
+}
+
+bool IsOpaque(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y) {
+    const uchar* row = image.constScanLine(y);
+    for (int x = 0; x < image.width(); ++x) {
+      if (row[4 * x + 3] != 255) return false;
+    }
+  }
+  return true;
+}
+
+// Four bytes a pixel into the two planes.
+void SplitPlanes(const QImage& rgba, Picture& picture) {
+  picture.rgb.reserve(picture.RowBytes() * static_cast<std::size_t>(picture.height));
+  const bool isOpaque = IsOpaque(rgba);
+  for (int y = 0; y < rgba.height(); ++y) {
+    const uchar* row = rgba.constScanLine(y);
+    for (int x = 0; x < rgba.width(); ++x, row += 4) {
+      picture.rgb.insert(picture.rgb.end(), row, row + 3);
+      if (!isOpaque) picture.alpha.push_back(row[3]);
+    }
+  }
+}
+
+void CopyRows(const QImage& rgb, Picture& picture) {
+  picture.rgb.reserve(picture.RowBytes() * static_cast<std::size_t>(picture.height));
+  for (int y = 0; y < rgb.height(); ++y) {
+    const uchar* row = rgb.constScanLine(y);
+    picture.rgb.insert(picture.rgb.end(), row, row + picture.RowBytes());
+  }
+}
+
+// Nothing for what a reader should not even see.
+QImage ReadImage(const QByteArray& bytes) {
+  if (IsCompressed(bytes) || (LooksLikeSvg(bytes) && !IsSelfContainedSvg(bytes))) return {};
+  QBuffer buffer;
+  buffer.setData(bytes);
+  QImageReader reader(&buffer);
+  reader.setAutoTransform(true);
+  const bool isSvg = reader.format().startsWith("svg");
+  if ((isSvg && !LooksLikeSvg(bytes)) || !IsTolerable(reader.size())) return {};
+  return reader.read();
+}
+
+}  // namespace
+
+// Four bytes for each pixel of the largest picture allowed.
+QtPictures::QtPictures() { QImageReader::setAllocationLimit(static_cast<int>(kMaxPixels * 4 >> 20)); }
+
+PicturePtr QtPictures::Decode(std::string_view bytes) {
+  if (bytes.empty() || bytes.size() > kMaxBytes) return nullptr;
+  const QImage image = ReadImage(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  return image.isNull() ? nullptr : FromImage(image, bytes.size());
+}
+
+PicturePtr FromImage(const QImage& image, std::size_t encodedSize) {
+  auto picture = std::make_shared<Picture>();
+  picture->width = image.width();
+  picture->height = image.height();
+  picture->encodedSize = encodedSize;
+  if (image.hasAlphaChannel()) {
+    SplitPlanes(image.convertToFormat(QImage::Format_RGBA8888), *picture);
+  } else {
+    CopyRows(image.convertToFormat(QImage::Format_RGB888), *picture);
+  }
+  return picture;
+}
+
+QImage ToImage(const Picture& picture) {
+  const auto pixels = static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
+  if (picture.width <= 0 || picture.height <= 0 || picture.rgb.size() < 3 * pixels) return {};
+  const bool hasAlpha = picture.alpha.size() >= pixels;
+  QImage image(picture.width, picture.height, hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+  for (int y = 0; y < image.height(); ++y) {
+    auto* out = reinterpret_cast<QRgb*>(image.scanLine(y));
+    const std::uint8_t* rgb = picture.Row(y);
+    const std::uint8_t* alpha =
+        hasAlpha ? picture.alpha.data() + static_cast<std::ptrdiff_t>(y) * picture.width : nullptr;
+    for (int x = 0; x < image.width(); ++x, rgb += 3) out[x] = qRgba(rgb[0], rgb[1], rgb[2], alpha ? alpha[x] : 255);
+  }
+  return image;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,92 @@
+#include "model/RVCardButton.h"
+
+#include "model/StyleReference.h"
+#include "platform/Host.h"
+
+namespace xrpt {
+namespace {
+
+constexpr int kCaptionTextId = 32426;
+constexpr double kFontSize = 20.0;
+
+bool SameRow(const Picture& left, const Picture& right, int row) {
+  return std::equal(left.Row(row), left.Row(row) + left.RowBytes(), right.Row(row));
+}
+
+}  // namespace
+
+std::span<const FieldRow> RVCardButton::Rows() {
+  using Button = RVCardButton;
+  using VisualizationCodec = codec::OneOf<kVisualizationWords, codec::kNone, codec::kNone>;
+  constexpr auto aligned = AlignmentRows<Button, &Button::horizontalAlign, &Button::verticalAlign>();
+  constexpr auto scaled = ScalingRows<Button, &Button::maintainAspectRatio, &Button::maintainRealSize>();
+  static constexpr FieldRow kRows[] = {
+      Field<Button, VisualizationCodec, &Button::visualization>(
+          nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
+      Only<Button, &Button::IsButton>(Constant(nullptr, [](const void*, XmlWriter& out) { out.Bool("button", true); })),
+      Only<Button, &Button::HasTextPart>(
+          WhenNotEmpty<Button, &Button::text>(Field<Button, codec::String, &Button::text>(
+              "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines}))),
+      Only<Button, &Button::HasTextPart>(FontNameRow<Button, &Button::font>()),
+      Only<Button, &Button::HasTextPart>(FontStyleRow<Button, &Button::font>()),
+      Only<Button, &Button::HasTextPart>(FontSizeRow<Button, &Button::font>()),
+      Only<Button, &Button::HasTextPart>(Field<Button, codec::Colour, &Button::fontColor>(
+          "font", "color", nullptr, {text::kFontColor, FieldGroup::Font, FieldEditor::Color})),
+      Only<Button, &Button::IsText>(Field<Button, codec::Decimal, &Button::orientation>(
+          "font", "orientation", "", {text::kOrientation, FieldGroup::Font, FieldEditor::Angle, -360.0, 360.0})),
+      // Read after the font, because the style's font overrides the one in the file.
+      Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadStyle>(
+          WriteBy<Button, &Button::WriteStyle>(Field<Button, codec::String, &Button::styleName>(
+              nullptr, "style", nullptr, {text::kStyle, FieldGroup::Font, FieldEditor::Style})))),
+      Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(Field<Button, codec::String, &Button::imageId>(
+          "image", "imageId", "", {text::kImageId, FieldGroup::Content, FieldEditor::Text}))),
+      Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(
+          NotCompared(Field<Button, codec::String, &Button::imagePath, &NotCopied<std::wstring>::value>(
+              "image", "imagePath", "", {text::kImagePath, FieldGroup::Content, FieldEditor::Text})))),
+      Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>()),
+      Only<Button, &Button::IsAligned>(aligned[0]),
+      Only<Button, &Button::IsAligned>(aligned[1]),
+      Only<Button, &Button::IsImage>(scaled[0]),
+      Only<Button, &Button::IsImage>(scaled[1]),
+  };
+  return kRows;
+}
+
+const CardClass& RVCardButton::Class() {
+  static const CardClass kind = DeriveCard<RVCardButton>(nullptr, text::kButtonCard, RVCardControl::Class(), Rows());
+  return kind;
+}
+
+RVCardButton::RVCardButton() : text(HostText(kCaptionTextId)) { font.size = kFontSize; }
+
+bool RVCardButton::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
+
+void RVCardButton::ReadStyle(const XmlNode& node) {
+  if (ReadStyleReference(node, styleName)) GetStyleFromFile(styleName);
+}
+
+void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+
+void RVCardButton::ReadImage(const XmlNode& node) {
+  if (node.Node("image")) LoadImage();
+}
+
+void RVCardButton::LoadImage() {
+  ImageRecordPtr record = CurrentHost().pictureStore.Attach(imageId, imagePath.value);
+  if (record->Current()) image_ = std::move(record);
+}
+
+bool RVCardButton::isEqual(const RVCardControl& other) const {
+  return RVCardControl::isEqual(other) &&
+         EqualSampled(GetPicture(), static_cast<const RVCardButton&>(other).GetPicture());
+}
+
+bool EqualSampled(const PicturePtr& left, const PicturePtr& right) {
+  if (left == right) return true;
+  if (!left || !right) return false;
+  const bool sameSize =
+      left->encodedSize == right->encodedSize && left->width == right->width && left->height == right->height;
+  return sameSize && (left->height == 0 || (SameRow(*left, *right, 0) && SameRow(*left, *right, left->height / 2)));
+}
+
+}  // namespace xrpt

@@ -1,0 +1,146 @@
+// Pictures from strangers: what decodes, what is refused, and how quickly.
+#include <gmock/gmock.h>
+
+#include <QBuffer>
+#include <QColor>
+#include <QImage>
+
+#include "host/PngEncoder.h"
+#include "host/qt/QtHost.h"
+#include "host/qt/QtPictures.h"
+
+namespace xrpt {
+namespace {
+
+using ::testing::ElementsAre;
+
+class Pictures : public ::testing::Test {
+ protected:
+  Pictures() { EnsureHeadlessQt(); }
+
+  // 40 x 30, red, with the top left pixel as given.
+  static std::string Encoded(const char* format, QColor first = Qt::red) {
+    QImage image(40, 30, first.alpha() == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    image.setPixelColor(0, 0, first);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, format, 100)) << format;
+    return buffer.data().toStdString();
+  }
+  std::string Size(std::string_view bytes) {
+    const PicturePtr picture = pictures.Decode(bytes);
+    return picture ? std::to_string(picture->width) + "x" + std::to_string(picture->height) : "refused";
+  }
+  static std::string Svg(const std::string& body, const std::string& head = "") {
+    return head +
+           "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='20' "
+           "height='10'>" +
+           body + "</svg>";
+  }
+
+  QtPictures pictures;
+};
+
+TEST_F(Pictures, EveryCommonFormatDecodesByContent) {
+  for (const char* format : {"png", "jpg", "bmp", "webp", "tiff", "ppm"}) {
+    const std::string bytes = Encoded(format);
+    const PicturePtr picture = pictures.Decode(bytes);
+    ASSERT_TRUE(picture) << format;
+    EXPECT_EQ(Size(bytes), "40x30") << format;
+    EXPECT_NEAR(picture->rgb[3], 255, 3) << format;
+    EXPECT_NEAR(picture->rgb[4], 0, 3) << format;
+    EXPECT_TRUE(picture->alpha.empty()) << format;
+    EXPECT_EQ(picture->encodedSize, bytes.size()) << format;
+  }
+  const std::string gif("GIF89a\1\0\1\0\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35);
+  EXPECT_EQ(Size(gif), "1x1");
+}
+
+TEST_F(Pictures, AlphaIsAPlaneOfItsOwnWhereItSaysSomething) {
+  const PicturePtr picture = pictures.Decode(Encoded("png", QColor(10, 20, 30, 40)));
+  ASSERT_TRUE(picture);
+  ASSERT_EQ(picture->alpha.size(), 40u * 30u);
+  EXPECT_EQ(picture->alpha[0], 40);
+  EXPECT_EQ(picture->alpha[1], 255);
+  EXPECT_THAT(std::vector<int>(picture->rgb.begin(), picture->rgb.begin() + 3), ElementsAre(10, 20, 30));
+}
+
+TEST_F(Pictures, OurOwnPngComesBackPixelForPixel) {
+  Picture picture;
+  picture.width = 33;
+  picture.height = 17;
+  for (int i = 0; i < 33 * 17; ++i) {
+    for (int k : {7, 31, 113}) picture.rgb.push_back(static_cast<std::uint8_t>(i * k));
+    picture.alpha.push_back(static_cast<std::uint8_t>(i));
+  }
+  const PicturePtr back = pictures.Decode(EncodePng(picture));
+  ASSERT_TRUE(back);
+  EXPECT_EQ(back->rgb, picture.rgb);
+  EXPECT_EQ(back->alpha, picture.alpha);
+}
+
+TEST_F(Pictures, WhatIsNoPictureIsRefused) {
+  const std::string rows[] = {
+      "", "hello", std::string(1000, '\0'), "<svg", "<html><body/></html>", "\x89PNG\r\n\x1A\n"};
+  for (const std::string& bytes : rows) EXPECT_EQ(Size(bytes), "refused") << bytes;
+}
+
+TEST_F(Pictures, TruncatedAnywhereNeverCrashesAndNeverGivesHalfAPng) {
+  for (const char* format : {"png", "jpg", "bmp", "webp"}) {
+    const std::string whole = Encoded(format, QColor(1, 2, 3, 4));
+    for (std::size_t length = 0; length < whole.size(); length += 1 + whole.size() / 60) {
+      const std::string size = Size(whole.substr(0, length));
+      EXPECT_TRUE(size == "refused" || size == "40x30") << format << length;
+      const bool isHalfPng = format == std::string("png") && length < whole.size() / 2;
+      EXPECT_FALSE(isHalfPng && size != "refused") << length;
+    }
+  }
+}
+
+TEST_F(Pictures, HugeOnesAreRefusedByTheirHeader) {
+  const auto png = [](std::string side) {
+    return "\x89PNG\r\n\x1A\n" + std::string("\0\0\0\rIHDR", 8) + side + side + std::string("\1\0\0\0\0crc_", 9) +
+           std::string("\0\0\0\1IDATx", 9);
+  };
+  const std::string bmp = std::string("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0", 18) +
+                          std::string("\xFF\xFF\xFF\x7F\xFF\xFF\xFF\x7F\1\0\x18\0", 12) + std::string(40, '\0');
+  EXPECT_EQ(Size(png(std::string("\0\0\xEA\x60", 4))), "refused") << "60000 x 60000";
+  EXPECT_EQ(Size(png("\x7F\xFF\xFF\xFF")), "refused");
+  EXPECT_EQ(Size(bmp), "refused");
+  EXPECT_EQ(Size("<svg xmlns='http://www.w3.org/2000/svg' width='60000' height='60000'/>"), "refused");
+}
+
+TEST_F(Pictures, SvgIsPaintedAtItsOwnSize) {
+  const PicturePtr picture = pictures.Decode(Svg("<rect width='20' height='5' fill='#010203'/>"));
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(std::pair(picture->width, picture->height), std::pair(20, 10));
+  EXPECT_THAT(std::vector<int>(picture->rgb.begin(), picture->rgb.begin() + 3), ElementsAre(1, 2, 3));
+  EXPECT_EQ(picture->alpha.front(), 255);
+  EXPECT_EQ(picture->alpha.back(), 0);
+  EXPECT_EQ(Size(Svg("<a href='http://x/'><rect width='2' height='2'/></a>")), "20x10");
+  EXPECT_EQ(Size(Svg("<image href='data:image/png;base64," + EncodeBase64(Encoded("png")) + "'/>")), "20x10");
+}
+
+TEST_F(Pictures, SvgThatReachesOutsideItselfIsRefused) {
+  const std::string inner = EncodeBase64(Svg("<image href='/etc/passwd'/>"));
+  std::string deep;
+  for (int i = 0; i < 100'000; ++i) deep += "<g>";
+  const std::string rows[] = {Svg("<image href='picture.png'/>"),
+                              Svg("<image xlink:href='file:///etc/passwd'/>"),
+                              Svg("<image xlink:href='&#x2F;etc&#x2F;passwd'/>"),
+                              Svg("<image href='&f;'/>", "<!DOCTYPE svg [<!ENTITY f '/etc/passwd'>]>"),
+                              Svg("<use href='other.svg#a'/>"),
+                              Svg("<image href='http://example.com/a.png'/>"),
+                              Svg("<image href='data:image/svg+xml;base64," + inner + "'/>"),
+                              Svg("<image href='data:image/png;base64," + inner + "'/>"),
+                              Svg("", "<?xml-stylesheet type='text/css' href='/etc/passwd'?>"),
+                              Svg(deep),
+                              Svg("&a;", "<!DOCTYPE svg [<!ENTITY a '&b;&b;'><!ENTITY b '&a;'>]>"),
+                              Svg("<!-- " + std::string(9 << 20, 'x') + " -->"),
+                              std::string("\x1F\x8B\x08\0\0\0\0\0", 8)};
+  for (const std::string& row : rows) EXPECT_EQ(Size(row), "refused") << row.substr(0, 200);
+}
+
+}  // namespace
+}  // namespace xrpt
