@@ -83,18 +83,4 @@ std::string EncodePng(const Picture& picture) {
   return out;
 }
 
-std::string EncodeBase64(std::string_view bytes) {
-  constexpr std::string_view kDigits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-  std::string out;
-  out.reserve((bytes.size() + 2) / 3 * 4);
-  for (std::size_t at = 0; at < bytes.size(); at += 3) {
-    unsigned group = 0;
-    const std::size_t count = std::min<std::size_t>(3, bytes.size() - at);
-    for (std::size_t i = 0; i < 3; ++i)
-      group = group << 8 | (i < count ? static_cast<unsigned char>(bytes[at + i]) : 0);
-    for (std::size_t i = 0; i < 4; ++i) out += i <= count ? kDigits[group >> (18 - 6 * i) & 0x3F] : '=';
-  }
-  return out;
-}
-
 }  // namespace xrpt

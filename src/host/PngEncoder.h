@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "platform/Picture.h"
 
@@ -10,7 +9,5 @@ namespace xrpt {
 
 // Empty for a picture without pixels, or one whose planes are shorter than its size says.
 std::string EncodePng(const Picture& picture);
-
-std::string EncodeBase64(std::string_view bytes);
 
 }  // namespace xrpt

@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include "host/PngEncoder.h"
+#include "platform/Base64.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 

@@ -16,6 +16,8 @@ class RVCardImage : public RVCardControl {
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardImage>(*this); }
   bool isEqual(const RVCardControl& other) const override;
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+
   // Attaches the card to a picture of the store, shared with all cards that show it. A picture that cannot be read
   // leaves the card without one, and its id and path as they are.
   bool LoadOriginalImage(const std::wstring& id, const std::wstring& path);
