@@ -28,7 +28,8 @@ bool IsPlainKey(const QKeySequence& key) {
 
 QString TooltipOf(const Command& command, const QList<QKeySequence>& keys) {
   QString tip = QStringLiteral("<b>%1</b>").arg(Translated(command.textId).toHtmlEscaped());
-  if (!keys.isEmpty()) tip += QStringLiteral("&nbsp;&nbsp;%1").arg(keys[0].toString(QKeySequence::NativeText).toHtmlEscaped());
+  if (!keys.isEmpty())
+    tip += QStringLiteral("&nbsp;&nbsp;%1").arg(keys[0].toString(QKeySequence::NativeText).toHtmlEscaped());
   return tip + QStringLiteral("<br>%1").arg(Translated(command.HintTextId()).toHtmlEscaped());
 }
 

@@ -18,13 +18,12 @@ constexpr int kSwatch = 20;
 constexpr int kColumns = 8;
 
 // Quiet tints first, then strong ones: what reports are made of.
-constexpr Color kSwatches[] = {
-    Rgb(0, 0, 0),       Rgb(64, 72, 79),    Rgb(120, 130, 138), Rgb(178, 187, 193),
-    Rgb(222, 228, 232), Rgb(255, 255, 255), Rgb(250, 244, 230), Rgb(230, 241, 245),
-    Rgb(160, 32, 32),   Rgb(204, 72, 40),   Rgb(224, 138, 46),  Rgb(240, 196, 60),
-    Rgb(96, 150, 60),   Rgb(47, 156, 134),  Rgb(23, 112, 143),  Rgb(40, 84, 150),
-    Rgb(240, 190, 186), Rgb(246, 206, 178), Rgb(250, 222, 176), Rgb(250, 238, 184),
-    Rgb(208, 230, 190), Rgb(188, 228, 218), Rgb(182, 218, 232), Rgb(194, 208, 236)};
+constexpr Color kSwatches[] = {Rgb(0, 0, 0),       Rgb(64, 72, 79),    Rgb(120, 130, 138), Rgb(178, 187, 193),
+                               Rgb(222, 228, 232), Rgb(255, 255, 255), Rgb(250, 244, 230), Rgb(230, 241, 245),
+                               Rgb(160, 32, 32),   Rgb(204, 72, 40),   Rgb(224, 138, 46),  Rgb(240, 196, 60),
+                               Rgb(96, 150, 60),   Rgb(47, 156, 134),  Rgb(23, 112, 143),  Rgb(40, 84, 150),
+                               Rgb(240, 190, 186), Rgb(246, 206, 178), Rgb(250, 222, 176), Rgb(250, 238, 184),
+                               Rgb(208, 230, 190), Rgb(188, 228, 218), Rgb(182, 218, 232), Rgb(194, 208, 236)};
 
 QColor ToQColor(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
 
@@ -101,7 +100,8 @@ void ColorButton::OpenMenu() {
   auto* swatches = new QWidgetAction(&menu);
   swatches->setDefaultWidget(board);
   menu.addAction(swatches);
-  menu.addAction(SwatchPixmap(kNoColor, devicePixelRatioF()), Translated(text::kNoColor), this, [this] { Choose(xrpt::kNoColor); });
+  menu.addAction(SwatchPixmap(kNoColor, devicePixelRatioF()), Translated(text::kNoColor), this,
+                 [this] { Choose(xrpt::kNoColor); });
   menu.addAction(Translated(text::kOtherColor), this, [this] { ChooseOther(); });
   menu.exec(mapToGlobal(QPoint(0, height())));
 }
@@ -110,7 +110,8 @@ void ColorButton::ChooseOther() {
   const QColor start = color_ && *color_ != kNoColor ? ToQColor(*color_) : QColor(Qt::black);
   const QColor color = QColorDialog::getColor(start, this, accessibleName());
   if (color.isValid())
-    Choose(Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()), static_cast<unsigned>(color.blue())));
+    Choose(Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
+               static_cast<unsigned>(color.blue())));
 }
 
 void ColorButton::Choose(Color color) {

@@ -58,7 +58,8 @@ void CommandPalette::Fill(const QString& typed) {
   list_->clear();
   for (const auto& [score, action] : found) {
     const QString key = action->shortcut().toString(QKeySequence::NativeText);
-    auto* item = new QListWidgetItem(action->icon(), key.isEmpty() ? action->text() : action->text() + QStringLiteral("    ") + key, list_);
+    auto* item = new QListWidgetItem(
+        action->icon(), key.isEmpty() ? action->text() : action->text() + QStringLiteral("    ") + key, list_);
     item->setData(Qt::UserRole, QVariant::fromValue(static_cast<QObject*>(action)));
     if (!action->isEnabled()) item->setFlags(Qt::NoItemFlags);
   }

@@ -28,7 +28,8 @@ QComboBox* MakeBox(QWidget* parent, int nameTextId, int characters) {
 
 }  // namespace
 
-CornerBar::CornerBar(RVEditControlWnd& frame, const Actions& actions, QWidget* parent) : QWidget(parent), frame_(frame) {
+CornerBar::CornerBar(RVEditControlWnd& frame, const Actions& actions, QWidget* parent)
+    : QWidget(parent), frame_(frame) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 2, 0, 2);
   row->setSpacing(2);
@@ -51,7 +52,8 @@ CornerBar::CornerBar(RVEditControlWnd& frame, const Actions& actions, QWidget* p
 
 void CornerBar::AddButtons(const Actions& actions, std::initializer_list<const char*> names) {
   for (const char* name : names) {
-    if (QAction* action = actions.Find(name)) layout()->addWidget(new RibbonButton(*action, ButtonShape::IconOnly, this));
+    if (QAction* action = actions.Find(name))
+      layout()->addWidget(new RibbonButton(*action, ButtonShape::IconOnly, this));
   }
 }
 

@@ -1,5 +1,5 @@
-// One small widget a field of a card or page, chosen by the field's row. Values travel as the field's text, the way files
-// hold it; nothing (no text) stands for several cards that differ.
+// One small widget a field of a card or page, chosen by the field's row. Values travel as the field's text, the way
+// files hold it; nothing (no text) stands for several cards that differ.
 #pragma once
 
 #include <functional>

@@ -47,7 +47,8 @@ void FontGroup::AddFace(QBoxLayout& row) {
   face_->setMinimumContentsLength(14);
   face_->setAccessibleName(Translated(text::kFontFace));
   face_->setToolTip(Translated(text::kFontFace));
-  connect(face_, &QComboBox::textActivated, this, [this](const QString& face) { Assign("font/name", face.toStdString()); });
+  connect(face_, &QComboBox::textActivated, this,
+          [this](const QString& face) { Assign("font/name", face.toStdString()); });
   row.addWidget(face_, 1);
 }
 

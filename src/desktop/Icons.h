@@ -1,5 +1,5 @@
-// Icons and cursors. Icons are drawn in one colour, which is replaced by the palette's whenever they are painted, so that
-// they follow light and dark, enabled and disabled, at any scale.
+// Icons and cursors. Icons are drawn in one colour, which is replaced by the palette's whenever they are painted, so
+// that they follow light and dark, enabled and disabled, at any scale.
 #pragma once
 
 #include <QCursor>

@@ -162,13 +162,15 @@ void MainWindow::ShowSelectionGeometry() {
 
 // A fitted zoom follows the window.
 void MainWindow::RefitZoom() {
-  if (frame_ && frame_->PageCount() > 0 && frame_->CurrentPage().Zoom() < 0.0) frame_->SetZoomEntry(frame_->ZoomEntry());
+  if (frame_ && frame_->PageCount() > 0 && frame_->CurrentPage().Zoom() < 0.0)
+    frame_->SetZoomEntry(frame_->ZoomEntry());
 }
 
 // --- Questions and messages ---
 
 Answer MainWindow::Ask(int textId) {
-  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(textId), QMessageBox::Yes | QMessageBox::No, this);
+  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(textId),
+                  QMessageBox::Yes | QMessageBox::No, this);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }

@@ -21,10 +21,14 @@ namespace xrpt {
 
 bool MainWindow::RunCommand(const char* name) {
   static constexpr std::pair<const char*, void (MainWindow::*)()> kRows[] = {
-      {"SmartGuides", &MainWindow::ToggleSmartGuides}, {"Rulers", &MainWindow::ToggleRulers},
-      {"DarkTheme", &MainWindow::ToggleDarkTheme},     {"CommandPalette", &MainWindow::OpenPalette},
-      {"ShortcutSheet", &MainWindow::OpenShortcutSheet}, {"SaveAs", &MainWindow::SaveAs},
-      {"ExportPdf", &MainWindow::ExportPdf},           {"ExportImages", &MainWindow::ExportImages},
+      {"SmartGuides", &MainWindow::ToggleSmartGuides},
+      {"Rulers", &MainWindow::ToggleRulers},
+      {"DarkTheme", &MainWindow::ToggleDarkTheme},
+      {"CommandPalette", &MainWindow::OpenPalette},
+      {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
+      {"SaveAs", &MainWindow::SaveAs},
+      {"ExportPdf", &MainWindow::ExportPdf},
+      {"ExportImages", &MainWindow::ExportImages},
       {"Print", &MainWindow::Print}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;
@@ -101,7 +105,8 @@ void MainWindow::SaveAs() {
 
 bool MainWindow::AskForName(QString& name) {
   bool accepted = false;
-  name = QInputDialog::getText(this, Translated(text::kSaveAs), Translated(text::kReportName), QLineEdit::Normal, name, &accepted);
+  name = QInputDialog::getText(this, Translated(text::kSaveAs), Translated(text::kReportName), QLineEdit::Normal, name,
+                               &accepted);
   return accepted;
 }
 

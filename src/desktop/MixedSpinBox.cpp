@@ -37,8 +37,6 @@ void MixedSpinBox::stepBy(int steps) {
   QDoubleSpinBox::stepBy(steps);
 }
 
-void MixedSpinBox::wheelEvent(QWheelEvent* event) {
-  hasFocus() ? QDoubleSpinBox::wheelEvent(event) : event->ignore();
-}
+void MixedSpinBox::wheelEvent(QWheelEvent* event) { hasFocus() ? QDoubleSpinBox::wheelEvent(event) : event->ignore(); }
 
 }  // namespace xrpt

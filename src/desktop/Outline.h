@@ -1,5 +1,5 @@
-// The report's pages, and the cards of the one that is shown, front card first. Choosing a line shows that page or selects
-// that card.
+// The report's pages, and the cards of the one that is shown, front card first. Choosing a line shows that page or
+// selects that card.
 #pragma once
 
 #include <QAbstractListModel>

@@ -10,8 +10,8 @@ namespace xrpt {
 namespace {
 
 // The numbers by which pages know the commands of the catalogue.
-constexpr std::pair<int, const char*> kCommands[] = {{57635, "Cut"},    {57634, "Copy"},      {57637, "Paste"},
-                                                     {57643, "Undo"},   {415, "Delete"},      {57642, "SelectAll"},
+constexpr std::pair<int, const char*> kCommands[] = {{57635, "Cut"},    {57634, "Copy"},   {57637, "Paste"},
+                                                     {57643, "Undo"},   {415, "Delete"},   {57642, "SelectAll"},
                                                      {57636, "Search"}, {57641, "Replace"}};
 
 const QAction* ActionOf(int command, const Actions& actions) {

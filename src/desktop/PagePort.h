@@ -1,5 +1,5 @@
-// What a page's window asks of the screen, answered by the one page view for whichever page it shows. Each page keeps its
-// own scroll positions and timers; a page that is not shown asks in vain for cursor, capture and repainting.
+// What a page's window asks of the screen, answered by the one page view for whichever page it shows. Each page keeps
+// its own scroll positions and timers; a page that is not shown asks in vain for cursor, capture and repainting.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,5 @@
-// What mouse, wheel and keyboard do on the page view: handed on to the page's window, but for panning, zooming and walking
-// from card to card, which are the view's own.
+// What mouse, wheel and keyboard do on the page view: handed on to the page's window, but for panning, zooming and
+// walking from card to card, which are the view's own.
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -48,7 +48,8 @@ void PageView::mouseReleaseEvent(QMouseEvent* event) {
   if (panFrom_) return StopPanning();
   if (!Window()) return;
   if (event->button() == Qt::LeftButton) Window()->OnLButtonUp(FlagsOf(event->modifiers()), PositionOf(*event));
-  if (event->button() == Qt::RightButton && !captured_) Window()->OnRButtonUp(FlagsOf(event->modifiers()), PositionOf(*event));
+  if (event->button() == Qt::RightButton && !captured_)
+    Window()->OnRButtonUp(FlagsOf(event->modifiers()), PositionOf(*event));
 }
 
 bool PageView::viewportEvent(QEvent* event) {
@@ -111,7 +112,8 @@ void PageView::ScrollByWheel(QWheelEvent& event) {
 void PageView::ZoomAt(double zoom, QPoint at) {
   const Placement before = Window()->GetPlacement();
   zoom = std::clamp(zoom, RVEditControlWnd::kSmallestZoom, RVEditControlWnd::kLargestZoom);
-  const PointD fraction{(at.x() - before.offsetX) / before.pageWidthPx, (at.y() - before.offsetY) / before.pageHeightPx};
+  const PointD fraction{(at.x() - before.offsetX) / before.pageWidthPx,
+                        (at.y() - before.offsetY) / before.pageHeightPx};
   if (!frame_->SetZoom(zoom)) return;
   const Placement after = Window()->GetPlacement();
   horizontalScrollBar()->setValue(roundi(fraction.x * after.pageWidthPx - at.x()));

@@ -11,9 +11,9 @@ namespace xrpt {
 namespace {
 
 constexpr int kIdleMilliseconds = 600;
-constexpr FieldGroup kGroups[] = {FieldGroup::Geometry, FieldGroup::Content, FieldGroup::Font,   FieldGroup::Alignment,
-                                  FieldGroup::Colors,   FieldGroup::Format,  FieldGroup::Animation, FieldGroup::Scale,
-                                  FieldGroup::Series,   FieldGroup::Page};
+constexpr FieldGroup kGroups[] = {
+    FieldGroup::Geometry, FieldGroup::Content,   FieldGroup::Font,  FieldGroup::Alignment, FieldGroup::Colors,
+    FieldGroup::Format,   FieldGroup::Animation, FieldGroup::Scale, FieldGroup::Series,    FieldGroup::Page};
 
 int GroupTextId(FieldGroup group) { return text::kFirstFieldGroup + static_cast<int>(group); }
 
@@ -42,7 +42,8 @@ void PropertyPanel::Refresh() {
   if (!ShowsSameFields(states)) Rebuild(states);
   ShowTitle();
   for (const FieldState& state : states) {
-    const auto entry = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.row == state.row; });
+    const auto entry =
+        std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.row == state.row; });
     if (entry != entries_.end()) entry->editor->Show(state.text);
   }
 }
@@ -96,7 +97,8 @@ void PropertyPanel::AddSection(QBoxLayout& column, FieldGroup group, const std::
 
 void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) {
   QWidget* parent = grid.parentWidget() ? grid.parentWidget() : title_->parentWidget();
-  auto editor = MakeFieldEditor(row, [this, &row](const std::string& text) { Edit(row, text); }, parent);
+  auto editor = MakeFieldEditor(
+      row, [this, &row](const std::string& text) { Edit(row, text); }, parent);
   const QString name = Translated(row.panel.textId);
   auto* label = new QLabel(name, parent);
   label->setObjectName(QStringLiteral("muted"));

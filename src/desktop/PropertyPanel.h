@@ -1,5 +1,5 @@
-// The fields of the selected cards, or of the page, in titled sections. It knows no card: the fields' rows say what there
-// is and how it is edited.
+// The fields of the selected cards, or of the page, in titled sections. It knows no card: the fields' rows say what
+// there is and how it is edited.
 #pragma once
 
 #include <QScrollArea>
@@ -22,8 +22,8 @@ class PropertyPanel final : public QScrollArea {
 
   // Shows what is selected now. The same widgets are filled again as long as the same fields are shown.
   void Refresh();
-  // Ends the edit under way: what was changed since the last end is one step of the history. Edits end by themselves when
-  // the user pauses.
+  // Ends the edit under way: what was changed since the last end is one step of the history. Edits end by themselves
+  // when the user pauses.
   void Commit();
   // Puts the keyboard on the first field.
   void FocusFirst();

@@ -1,5 +1,5 @@
-// A button of the ribbon: shows an action large (icon above a label of up to two lines) or small (icon beside its label,
-// or icon alone where room is short).
+// A button of the ribbon: shows an action large (icon above a label of up to two lines) or small (icon beside its
+// label, or icon alone where room is short).
 #pragma once
 
 #include <QToolButton>

@@ -76,7 +76,8 @@ void RibbonGroup::SetRoom(GroupRoom room) {
   if (room == room_) return;
   room_ = room;
   const bool isFolded = room == GroupRoom::Folded;
-  for (RibbonButton* button : small_) button->SetShape(room == GroupRoom::Full ? ButtonShape::Small : ButtonShape::IconOnly);
+  for (RibbonButton* button : small_)
+    button->SetShape(room == GroupRoom::Full ? ButtonShape::Small : ButtonShape::IconOnly);
   if (isFolded && !folded_->menu()) folded_->setMenu(MakeMenu());
   body_->setVisible(!isFolded);
   folded_->setVisible(isFolded);

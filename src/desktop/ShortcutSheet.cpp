@@ -21,16 +21,15 @@ struct Gesture {
   int labelTextId;
   int keysTextId;
 };
-constexpr Gesture kGestures[] = {{text::kGestureMove, text::kGestureMoveKeys},
-                                 {text::kGestureMoveFar, text::kGestureMoveFarKeys},
-                                 {text::kGestureZoom, text::kGestureZoomKeys},
-                                 {text::kGesturePan, text::kGesturePanKeys},
-                                 {text::kGestureAdd, text::kGestureAddKeys},
-                                 {text::kGestureToggle, text::kGestureToggleKeys},
-                                 {text::kGestureNextCard, text::kGestureNextCardKeys},
-                                 {text::kGestureNextArea, text::kGestureNextAreaKeys}};
+constexpr Gesture kGestures[] = {
+    {text::kGestureMove, text::kGestureMoveKeys},         {text::kGestureMoveFar, text::kGestureMoveFarKeys},
+    {text::kGestureZoom, text::kGestureZoomKeys},         {text::kGesturePan, text::kGesturePanKeys},
+    {text::kGestureAdd, text::kGestureAddKeys},           {text::kGestureToggle, text::kGestureToggleKeys},
+    {text::kGestureNextCard, text::kGestureNextCardKeys}, {text::kGestureNextArea, text::kGestureNextAreaKeys}};
 
-QString KeysOf(const QAction& action) { return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText); }
+QString KeysOf(const QAction& action) {
+  return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText);
+}
 
 }  // namespace
 
@@ -64,7 +63,8 @@ QWidget* ShortcutSheet::MakeColumns(const std::vector<QAction*>& actions) {
     row->addLayout(part, 1);
   }
   const auto shortest = [&grids] {
-    return *std::min_element(grids.begin(), grids.end(), [](auto* a, auto* b) { return a->rowCount() < b->rowCount(); });
+    return *std::min_element(grids.begin(), grids.end(),
+                             [](auto* a, auto* b) { return a->rowCount() < b->rowCount(); });
   };
   for (const CommandTab& tab : CommandTabs()) {
     QGridLayout& grid = *shortest();
@@ -75,7 +75,8 @@ QWidget* ShortcutSheet::MakeColumns(const std::vector<QAction*>& actions) {
   }
   QGridLayout& grid = *shortest();
   AddSection(grid, Translated(text::kGestures));
-  for (const Gesture& gesture : kGestures) AddRow(grid, Translated(gesture.labelTextId), Translated(gesture.keysTextId));
+  for (const Gesture& gesture : kGestures)
+    AddRow(grid, Translated(gesture.labelTextId), Translated(gesture.keysTextId));
   return sheet;
 }
 

@@ -69,8 +69,8 @@ void StatusBar::SetSelection(int count, const RectD& area) {
   const auto number = [this](double value) { return locale().toString(value, 'f', 2); };
   const QString place = QStringLiteral("X %1  Y %2   %3 × %4 mm")
                             .arg(number(area.left), number(area.top), number(area.Width()), number(area.Height()));
-  selection_->setText(count == 1 ? place
-                                 : Translated(text::kSelectedCards, QString::number(count)) + QStringLiteral("   ") + place);
+  selection_->setText(
+      count == 1 ? place : Translated(text::kSelectedCards, QString::number(count)) + QStringLiteral("   ") + place);
 }
 
 void StatusBar::SetZoom(double zoom) {

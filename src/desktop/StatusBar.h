@@ -34,8 +34,8 @@ class StatusBar final : public QStatusBar {
   QLabel* percent_;
 };
 
-// The slider's positions are zooms on a scale that doubles every hundred, so that small zooms have as much room as large
-// ones.
+// The slider's positions are zooms on a scale that doubles every hundred, so that small zooms have as much room as
+// large ones.
 int SliderPosition(double zoom);
 double SliderZoom(int position);
 

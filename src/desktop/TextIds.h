@@ -68,16 +68,17 @@ inline constexpr int kBadName = 60561;
 inline constexpr int kNameIsTaken = 60562;
 inline constexpr int kDismiss = 60563;
 inline constexpr int kExported = 60564;
-inline constexpr int kGroupGeometry = 60565;
-inline constexpr int kGroupContent = 60566;
-inline constexpr int kGroupFont = 60567;
-inline constexpr int kGroupAlignment = 60568;
-inline constexpr int kGroupColors = 60569;
-inline constexpr int kGroupFormat = 60570;
-inline constexpr int kGroupAnimation = 60571;
-inline constexpr int kGroupScale = 60572;
-inline constexpr int kGroupSeries = 60573;
-inline constexpr int kGroupPage = 60574;
+inline constexpr int kCannotPrint = 60565;
+inline constexpr int kGroupGeometry = 60566;
+inline constexpr int kGroupContent = 60567;
+inline constexpr int kGroupFont = 60568;
+inline constexpr int kGroupAlignment = 60569;
+inline constexpr int kGroupColors = 60570;
+inline constexpr int kGroupFormat = 60571;
+inline constexpr int kGroupAnimation = 60572;
+inline constexpr int kGroupScale = 60573;
+inline constexpr int kGroupSeries = 60574;
+inline constexpr int kGroupPage = 60575;
 
 // Titles of the property panel's sections, in the order of `FieldGroup`.
 inline constexpr int kFirstFieldGroup = kGroupGeometry;

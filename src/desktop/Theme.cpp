@@ -2,18 +2,18 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QStyleFactory>
 
+#include "desktop/FieldStyle.h"
 #include "platform/Host.h"
 
 namespace xrpt {
 
 namespace {
 
-const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD3DADE, 0x1C2830, 0x62727C,
-                         0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE6F1F5, 0xFCEFD9};
-const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x3C444A, 0xE2E7EA, 0x95A3AC,
-                        0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0x243742, 0x46391F};
+const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830,
+                         0x62727C, 0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE6F1F5, 0xFCEFD9};
+const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA,
+                        0x95A3AC, 0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0x243742, 0x46391F};
 
 bool g_dark = false;
 
@@ -22,9 +22,7 @@ bool SystemIsDark(const QApplication& application) {
   return dark;
 }
 
-void SetAllGroups(QPalette& palette, QPalette::ColorRole role, const QColor& color) {
-  palette.setColor(role, color);
-}
+void SetAllGroups(QPalette& palette, QPalette::ColorRole role, const QColor& color) { palette.setColor(role, color); }
 
 QPalette PaletteOf(const ThemeColors& colors) {
   QPalette palette(colors.text, colors.window, colors.panel.lighter(g_dark ? 160 : 100), colors.border.darker(120),
@@ -52,10 +50,11 @@ QString StyleSheetOf(const ThemeColors& colors) {
   if (!file.open(QIODevice::ReadOnly)) return {};
   QString sheet = QString::fromUtf8(file.readAll());
   const std::pair<const char*, QColor> names[] = {
-      {"@window", colors.window},     {"@panel", colors.panel}, {"@surround", colors.surround},
-      {"@border", colors.border},     {"@text", colors.text},   {"@muted", colors.muted},
-      {"@hover", colors.hover},       {"@notice", colors.notice}, {"@warning", colors.warning},
-      {"@pressed", colors.pressed}, {"@onAccent", colors.onAccent}, {"@accent", colors.accent}};
+      {"@window", colors.window},   {"@panel", colors.panel},       {"@surround", colors.surround},
+      {"@border", colors.border},   {"@text", colors.text},         {"@muted", colors.muted},
+      {"@hover", colors.hover},     {"@thumb", colors.fieldBorder}, {"@notice", colors.notice},
+      {"@warning", colors.warning}, {"@pressed", colors.pressed},   {"@onAccent", colors.onAccent},
+      {"@accent", colors.accent}};
   for (const auto& [name, color] : names) sheet.replace(QLatin1String(name), color.name());
   return sheet;
 }
@@ -78,7 +77,7 @@ void StoreThemeChoice(ThemeChoice choice) {
 void ApplyTheme(QApplication& application, ThemeChoice choice) {
   const bool systemIsDark = SystemIsDark(application);
   g_dark = choice == ThemeChoice::Dark || (choice == ThemeChoice::System && systemIsDark);
-  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  application.setStyle(new FieldStyle());
   application.setPalette(PaletteOf(CurrentTheme()));
   application.setStyleSheet(StyleSheetOf(CurrentTheme()));
 }

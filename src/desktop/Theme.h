@@ -14,6 +14,8 @@ struct ThemeColors {
   QColor panel;     // lists and fields
   QColor surround;  // round the page
   QColor border;
+  QColor field;        // inside of fields and buttons
+  QColor fieldBorder;  // round them
   QColor text;
   QColor muted;  // captions
   QColor hover;

@@ -29,7 +29,8 @@ std::optional<int> ReadArguments(int argc, char** argv, Arguments& arguments) {
   program.add_option("--config", arguments.config, "Folder of reports and styles")->type_name("DIR");
   program.add_option("--images", arguments.images, "Folder of the image store")->type_name("DIR");
   program.add_option("--language", arguments.language, "Language of the texts (en, es)");
-  program.add_option("--theme", arguments.theme, "light, dark or system")->check(CLI::IsMember({"light", "dark", "system"}));
+  program.add_option("--theme", arguments.theme, "light, dark or system")
+      ->check(CLI::IsMember({"light", "dark", "system"}));
   program.add_option("report", arguments.report, "Report to open, by name or file")->type_name("REPORT");
   program.footer("Example: xrpt-editor --config examples/config --images examples/images Consumo_mensual");
   try {

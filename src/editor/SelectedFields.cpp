@@ -19,14 +19,16 @@ std::vector<const FieldRow*> CommonRows(const std::vector<const RVCardControl*>&
   for (const RVCardControl* card : cards) {
     std::vector<const FieldRow*> rows;
     ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.push_back(&row); });
-    std::erase_if(common, [&rows](const FieldRow* row) { return std::find(rows.begin(), rows.end(), row) == rows.end(); });
+    std::erase_if(common,
+                  [&rows](const FieldRow* row) { return std::find(rows.begin(), rows.end(), row) == rows.end(); });
   }
   return common;
 }
 
 std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<const RVCardControl*>& cards) {
   std::wstring text = row.text(cards.front());
-  const bool same = std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
+  const bool same =
+      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
@@ -45,7 +47,8 @@ int SelectedFields::KindTextId() const {
   const auto cards = Cards();
   if (cards.empty()) return 0;
   const CardClass& kind = cards.front()->GetRuntimeClass();
-  const bool same = std::all_of(cards.begin(), cards.end(), [&](auto* card) { return &card->GetRuntimeClass() == &kind; });
+  const bool same =
+      std::all_of(cards.begin(), cards.end(), [&](auto* card) { return &card->GetRuntimeClass() == &kind; });
   return same ? kind.textId : 0;
 }
 
