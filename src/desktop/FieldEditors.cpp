@@ -101,8 +101,6 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
     control_->setDecimals(isInteger ? 0 : 2);
     control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
     if (row.panel.editor == FieldEditor::Angle) AsAngle();
-    if (row.panel.editor == FieldEditor::Decimal && row.panel.group == FieldGroup::Geometry)
-      control_->setSuffix(QStringLiteral(" mm"));
     QObject::connect(control_, &QDoubleSpinBox::valueChanged, control_, [this, isInteger](double value) {
       if (!control_->IsMixed()) Tell(FormatFixed(value, isInteger ? 0 : 2));
     });

@@ -44,7 +44,7 @@ FontGroup::FontGroup(SelectedFields& fields, QWidget* parent) : QWidget(parent),
 void FontGroup::AddFace(QBoxLayout& row) {
   face_ = new QFontComboBox(this);
   face_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  face_->setMinimumContentsLength(14);
+  face_->setMinimumContentsLength(10);
   face_->setAccessibleName(Translated(text::kFontFace));
   face_->setToolTip(Translated(text::kFontFace));
   connect(face_, &QComboBox::textActivated, this,
@@ -56,6 +56,7 @@ void FontGroup::AddSize(QBoxLayout& row) {
   size_ = new MixedSpinBox(this);
   size_->setRange(0.5, 500.0);
   size_->setDecimals(1);
+  size_->setMinimumWidth(72);
   size_->setAccessibleName(Translated(text::kFontSize));
   size_->setToolTip(Translated(text::kFontSize));
   connect(size_, &QDoubleSpinBox::valueChanged, this, [this](double size) {

@@ -22,7 +22,6 @@ QByteArray ReadDrawing(const QString& name) {
 QColor PaletteColor(QIcon::Mode mode) {
   const QPalette palette = QGuiApplication::palette();
   if (mode == QIcon::Disabled) return palette.color(QPalette::Disabled, QPalette::ButtonText);
-  if (mode == QIcon::Selected) return palette.color(QPalette::HighlightedText);
   return palette.color(QPalette::ButtonText);
 }
 

@@ -41,7 +41,7 @@ bool MainWindow::RunCommand(const char* name) {
 
 // The switches of the view, which the frame knows nothing of.
 void MainWindow::ShowSwitches() {
-  const std::pair<const char*, bool> rows[] = {{"SmartGuides", frame_->CurrentPage().SmartGuides()},
+  const std::pair<const char*, bool> rows[] = {{"SmartGuides", frame_->CurrentPage().HasSmartGuides()},
                                                {"Rulers", pages_->HasRulers()},
                                                {"DarkTheme", IsDarkTheme()}};
   for (const auto& [name, on] : rows) {
@@ -54,7 +54,7 @@ void MainWindow::ShowSwitches() {
 // --- Switches ---
 
 void MainWindow::ToggleSmartGuides() {
-  const bool on = !frame_->CurrentPage().SmartGuides();
+  const bool on = !frame_->CurrentPage().HasSmartGuides();
   for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSmartGuides(on);
 }
 
@@ -67,12 +67,15 @@ void MainWindow::ToggleDarkTheme() {
   ApplySurround();
 }
 
-// What lies round the page belongs to the window, not to the report.
+// What lies round a page follows the theme, unless the user gave the page a colour of its own.
 void MainWindow::ApplySurround() {
   if (!frame_) return;
   const Color surround = CurrentHost().screen->ButtonFace();
-  for (std::size_t page = 0; page < frame_->PageCount(); ++page)
-    frame_->Page(page).Page().properties.backcolor = surround;
+  const auto known = {ThemeSurround(true), ThemeSurround(false)};
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) {
+    Color& color = frame_->Page(page).Page().properties.backcolor;
+    if (std::find(known.begin(), known.end(), color) != known.end()) color = surround;
+  }
   pages_->View().RepaintPage();
 }
 

@@ -19,7 +19,8 @@ QString CardIconName(const char* tag) {
     if (letter.isUpper()) name += QLatin1Char('-');
     name += letter.toLower();
   }
-  return name;
+  // A kind of image without a drawing of its own has that of all images.
+  return HasIcon(name) ? name : name.mid(name.lastIndexOf(QLatin1Char('-')) + 1);
 }
 
 // --- Pages ---

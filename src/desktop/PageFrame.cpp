@@ -36,7 +36,7 @@ void PageFrame::Refresh() {
   if (!frame_ || frame_->PageCount() == 0) return;
   RVEditTemplateWnd& window = frame_->CurrentPage();
   const RVGlobalProperties& page = window.Page().properties;
-  const Placement placement = window.GetPlacement();
+  const PagePlacement placement = window.Placement();
   if (!(page.width > 0.0) || !(page.height > 0.0)) return;
   across_->SetScale({placement.offsetX, placement.pageWidthPx / page.width}, page.width);
   down_->SetScale({placement.offsetY, placement.pageHeightPx / page.height}, page.height);
@@ -50,7 +50,7 @@ void PageFrame::MovePointer(std::optional<QPoint> at) {
   across_->SetPointer(at ? std::optional(at->x()) : std::nullopt);
   down_->SetPointer(at ? std::optional(at->y()) : std::nullopt);
   if (!pointerMoved || !frame_ || frame_->PageCount() == 0) return;
-  const Placement placement = frame_->CurrentPage().GetPlacement();
+  const PagePlacement placement = frame_->CurrentPage().Placement();
   const RVGlobalProperties& page = frame_->CurrentPage().Page().properties;
   if (!at || !(placement.pageWidthPx > 0.0) || !(placement.pageHeightPx > 0.0)) return pointerMoved(std::nullopt);
   pointerMoved(PointD{(at->x() - placement.offsetX) * page.width / placement.pageWidthPx,

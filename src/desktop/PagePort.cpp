@@ -41,8 +41,8 @@ void PagePort::SetTimer(int id, int milliseconds) {
   std::unique_ptr<QTimer>& timer = timers_[id];
   if (!timer) {
     timer = std::make_unique<QTimer>();
-    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this, id] {
-      if (window_) window_->OnTimer(id);
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this] {
+      if (window_) window_->OnTimer();
     });
   }
   timer->start(milliseconds);

@@ -27,13 +27,22 @@ MouseFlags FlagsOf(Qt::KeyboardModifiers modifiers) {
   return flags;
 }
 
+DragModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
+  DragModifiers drag;
+  drag.alt = modifiers.testFlag(Qt::AltModifier);
+  drag.shift = modifiers.testFlag(Qt::ShiftModifier);
+  return drag;
+}
+
+constexpr Point kNowhere{-1, -1};
+
 }  // namespace
 
 // --- Mouse ---
 
 void PageView::mousePressEvent(QMouseEvent* event) {
   if (!Window() || StartPanning(*event) || event->button() != Qt::LeftButton) return;
-  Window()->OnLButtonDown(FlagsOf(event->modifiers()), PositionOf(*event));
+  Window()->OnLButtonDown(PositionOf(*event), FlagsOf(event->modifiers()));
 }
 
 void PageView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -41,26 +50,28 @@ void PageView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event
 void PageView::mouseMoveEvent(QMouseEvent* event) {
   if (pointerMoved) pointerMoved(event->position().toPoint());
   if (panFrom_) return Pan(event->position().toPoint());
-  if (Window() && !spaceHeld_) Window()->OnMouseMove(FlagsOf(event->modifiers()), PositionOf(*event));
+  if (Window() && !spaceHeld_) Window()->OnMouseMove(PositionOf(*event), ModifiersOf(event->modifiers()));
 }
 
 void PageView::mouseReleaseEvent(QMouseEvent* event) {
   if (panFrom_) return StopPanning();
   if (!Window()) return;
-  if (event->button() == Qt::LeftButton) Window()->OnLButtonUp(FlagsOf(event->modifiers()), PositionOf(*event));
-  if (event->button() == Qt::RightButton && !captured_)
-    Window()->OnRButtonUp(FlagsOf(event->modifiers()), PositionOf(*event));
+  if (event->button() == Qt::LeftButton) Window()->OnLButtonUp(PositionOf(*event));
+  if (event->button() == Qt::RightButton && !captured_) Window()->OnRButtonUp(PositionOf(*event));
 }
 
 bool PageView::viewportEvent(QEvent* event) {
-  if (event->type() == QEvent::Leave && pointerMoved) pointerMoved(std::nullopt);
+  if (event->type() == QEvent::Leave) {
+    if (pointerMoved) pointerMoved(std::nullopt);
+    if (Window() && !captured_) Window()->OnMouseMove(kNowhere);  // no card is under the pointer any more
+  }
   return QAbstractScrollArea::viewportEvent(event);
 }
 
 // The mouse's own menu comes with the button's release; this is the keyboard's.
 void PageView::contextMenuEvent(QContextMenuEvent* event) {
   if (event->reason() == QContextMenuEvent::Keyboard && Window())
-    Window()->OnRButtonUp({}, {viewport()->width() / 2, viewport()->height() / 2});
+    Window()->OnRButtonUp({viewport()->width() / 2, viewport()->height() / 2});
 }
 
 void PageView::focusOutEvent(QFocusEvent* event) {
@@ -110,12 +121,12 @@ void PageView::ScrollByWheel(QWheelEvent& event) {
 
 // The page's point under the pixel stays there, as far as there is something to scroll.
 void PageView::ZoomAt(double zoom, QPoint at) {
-  const Placement before = Window()->GetPlacement();
+  const PagePlacement before = Window()->Placement();
   zoom = std::clamp(zoom, RVEditControlWnd::kSmallestZoom, RVEditControlWnd::kLargestZoom);
   const PointD fraction{(at.x() - before.offsetX) / before.pageWidthPx,
                         (at.y() - before.offsetY) / before.pageHeightPx};
   if (!frame_->SetZoom(zoom)) return;
-  const Placement after = Window()->GetPlacement();
+  const PagePlacement after = Window()->Placement();
   horizontalScrollBar()->setValue(roundi(fraction.x * after.pageWidthPx - at.x()));
   verticalScrollBar()->setValue(roundi(fraction.y * after.pageHeightPx - at.y()));
 }
@@ -147,7 +158,7 @@ bool PageView::focusNextPrevChild(bool next) {
 bool PageView::SelectNeighbour(bool next) {
   if (!Window() || !hasFocus()) return false;
   const CardList& cards = Window()->Page().cards;
-  const auto& selected = Window()->Selection().Ids();
+  const std::vector<std::wstring> selected = Window()->Selection().Ids();
   const std::size_t none = next ? cards.Size() : CardList::kNowhere;
   const std::size_t at = selected.empty() ? none : cards.IndexOf(selected.back());
   const std::size_t neighbour = next ? at - 1 : at + 1;

@@ -85,6 +85,7 @@ void PropertyPanel::AddSection(QBoxLayout& column, FieldGroup group, const std::
     if (!grid) {
       auto* title = new QLabel(Translated(GroupTextId(group)), column.parentWidget());
       title->setObjectName(QStringLiteral("sectionTitle"));
+      title->setIndent(0);
       column.addWidget(title);
       grid = new QGridLayout();
       grid->setHorizontalSpacing(8);
@@ -105,6 +106,9 @@ void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) 
   label->setBuddy(editor->Widget());
   label->setMinimumWidth(StandsInPairs(row) ? 0 : 92);
   label->setWordWrap(!StandsInPairs(row));
+  // Fields share the room there is, whatever they would like.
+  editor->Widget()->setMinimumWidth(48);
+  editor->Widget()->setSizePolicy(QSizePolicy::Ignored, editor->Widget()->sizePolicy().verticalPolicy());
   editor->Widget()->setAccessibleName(name);
   editor->Widget()->setObjectName(QString::fromStdString(row.FullName()));
   const int line = StandsInPairs(row) ? index / 2 : grid.rowCount();

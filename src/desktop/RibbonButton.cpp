@@ -16,7 +16,8 @@ QString InTwoLines(const QString& label) {
     if (best < 0 || unevenness(at) < unevenness(best)) best = at;
   }
   QString broken = label;
-  if (best > 0) broken[best] = QLatin1Char('\n');
+  if (best <= 0) return broken + QLatin1Char('\n');
+  broken[best] = QLatin1Char('\n');
   return broken;
 }
 

@@ -22,7 +22,7 @@ class RibbonButton final : public QToolButton {
   ButtonShape shape_;
 };
 
-// Breaks a label of several words into two lines of nearly equal length.
+// Breaks a label of several words into two lines of nearly equal length; the second line of one word is empty.
 QString InTwoLines(const QString& label);
 
 }  // namespace xrpt

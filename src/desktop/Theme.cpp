@@ -10,10 +10,10 @@ namespace xrpt {
 
 namespace {
 
-const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830,
-                         0x62727C, 0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE6F1F5, 0xFCEFD9};
-const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA,
-                        0x95A3AC, 0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0x243742, 0x46391F};
+const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830, 0x62727C,
+                         0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE0218A, 0xE6F1F5, 0xFCEFD9};
+const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA, 0x95A3AC,
+                        0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0xE0218A, 0x243742, 0x46391F};
 
 bool g_dark = false;
 
@@ -62,6 +62,12 @@ QString StyleSheetOf(const ThemeColors& colors) {
 }  // namespace
 
 const ThemeColors& CurrentTheme() { return g_dark ? kDark : kLight; }
+
+Color ThemeSurround(bool isDark) {
+  const QRgb color = (isDark ? kDark : kLight).surround.rgb();
+  return Rgb(static_cast<unsigned>(qRed(color)), static_cast<unsigned>(qGreen(color)),
+             static_cast<unsigned>(qBlue(color)));
+}
 
 bool IsDarkTheme() { return g_dark; }
 

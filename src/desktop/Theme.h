@@ -3,6 +3,8 @@
 
 #include <QColor>
 
+#include "platform/Color.h"
+
 class QApplication;
 
 namespace xrpt {
@@ -22,12 +24,16 @@ struct ThemeColors {
   QColor pressed;
   QColor accent;
   QColor onAccent;
+  QColor guide;    // smart guides
   QColor notice;   // behind a message
   QColor warning;  // behind an alarming one
 };
 
 const ThemeColors& CurrentTheme();
 bool IsDarkTheme();
+
+// What lies round a page in the one theme or the other, as files hold colours.
+Color ThemeSurround(bool isDark);
 
 // What the user chose last, kept in the settings.
 ThemeChoice StoredThemeChoice();

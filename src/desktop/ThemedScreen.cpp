@@ -4,10 +4,6 @@
 
 namespace xrpt {
 
-Color ThemedScreen::ButtonFace() const {
-  const QColor color = CurrentTheme().surround;
-  return Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
-             static_cast<unsigned>(color.blue()));
-}
+Color ThemedScreen::ButtonFace() const { return ThemeSurround(IsDarkTheme()); }
 
 }  // namespace xrpt

@@ -32,6 +32,12 @@ std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<co
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
+// A style's name alone changes nothing to see: the card takes its font, too.
+void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
+  row.assign(&card, text);
+  if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
+}
+
 }  // namespace
 
 std::vector<const RVCardControl*> SelectedFields::Cards() const {
@@ -77,25 +83,20 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
 
 void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   RVEditTemplateWnd& page = frame_.CurrentPage();
-  isOpen_ = true;
   const auto cards = Cards();
-  if (cards.empty()) {
-    row.assign(&page.EditPage(), text);
-    return;
-  }
+  open_ = cards.empty() ? Edit::OfPage : Edit::OfCards;
   std::vector<std::wstring> ids;
   for (const RVCardControl* card : cards) ids.push_back(card->id);
-  for (const std::wstring& id : ids) {
-    RVCardControl* card = page.EditCard(id);
-    row.assign(card, text);
-    if (row.panel.editor == FieldEditor::Style) card->UpdateStyleFromFile();
-  }
+  if (cards.empty()) row.assign(static_cast<RVGlobalProperties::FieldRoot*>(&page.Page().properties), text);
+  for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), row, text);
+  page.RedrawBackground();
+  frame_.SetModified(true);
 }
 
 void SelectedFields::Commit() {
-  if (!isOpen_) return;
-  isOpen_ = false;
-  frame_.CurrentPage().CommitEdit();
+  const Edit ended = std::exchange(open_, Edit::None);
+  if (ended == Edit::OfPage) frame_.CurrentPage().CommitPageEdit();
+  if (ended == Edit::OfCards) frame_.CurrentPage().CommitEdit();
 }
 
 std::wstring CardCaption(const RVCardControl& card) {

@@ -41,8 +41,10 @@ class SelectedFields {
  private:
   std::vector<const RVCardControl*> Cards() const;
 
+  enum class Edit { None, OfPage, OfCards };
+
   RVEditControlWnd& frame_;
-  bool isOpen_ = false;
+  Edit open_ = Edit::None;
 };
 
 // What a list of cards calls one: its kind, and the first of its contents that is not empty.

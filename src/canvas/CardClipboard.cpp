@@ -1,0 +1,56 @@
+#include "canvas/CardClipboard.h"
+
+#include "model/CardRegistry.h"
+#include "model/RVCardConditioned.h"
+#include "platform/Host.h"
+
+namespace xrpt {
+namespace {
+
+constexpr std::string_view kRoot = "controlClipboard";
+
+// The cards inside a conditioned one are cards of their own too.
+void RenewIds(RVCardControl& card) {
+  card.InitializeId();
+  if (auto* conditioned = dynamic_cast<RVCardConditioned*>(&card)) {
+    for (const auto& inner : conditioned->cards) inner->InitializeId();
+  }
+}
+
+}  // namespace
+
+std::string CardsAsText(const std::vector<const RVCardControl*>& cards) {
+  std::string text;
+  XmlWriter out(text);
+  out.Declaration();
+  out.Start(kRoot);
+  for (const RVCardControl* card : cards) card->SaveTemplate(&out, true);
+  out.End(kRoot);
+  return text;
+}
+
+const XmlDocument* ClipboardReader::Document() const {
+  std::string now = CurrentHost().clipboard->GetFromClipboard(kLimit);
+  if (now != text_) {
+    text_ = std::move(now);
+    document_ = std::make_unique<XmlDocument>();
+    if (!document_->Parse(text_) || document_->Root().Tag() != kRoot) document_.reset();
+  }
+  return document_.get();
+}
+
+bool ClipboardReader::Read(RVReportPage& page, std::vector<std::unique_ptr<RVCardControl>>& cards) const {
+  const XmlDocument* document = Document();
+  if (!document) return false;
+  for (const XmlNode& element : document->Root()) {
+    std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
+    if (!card) continue;
+    card->SetParent(&page);
+    card->GetFromXml(element);
+    RenewIds(*card);
+    cards.push_back(std::move(card));
+  }
+  return true;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,34 @@
+// Cards as the text other editors exchange: an XML document whose root is "controlClipboard", the cards as a template
+// holds them.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/RVReportPage.h"
+#include "platform/Xml.h"
+
+namespace xrpt {
+
+std::string CardsAsText(const std::vector<const RVCardControl*>& cards);
+
+// What the clipboard holds, parsed once for as long as it stays the same: menus ask often. Anything that is no text, no
+// XML, has another root or is larger than the limit counts as holding nothing.
+class ClipboardReader {
+ public:
+  static constexpr std::size_t kLimit = 8u << 20;  // bytes
+
+  bool HoldsCards() const { return Document() != nullptr; }
+  // New cards for a page, with fresh ids throughout, in document order; unknown elements are skipped. False when the
+  // clipboard holds no cards document.
+  bool Read(RVReportPage& page, std::vector<std::unique_ptr<RVCardControl>>& cards) const;
+
+ private:
+  const XmlDocument* Document() const;
+
+  mutable std::string text_;
+  mutable std::unique_ptr<XmlDocument> document_;
+};
+
+}  // namespace xrpt

@@ -1,0 +1,94 @@
+// Copy, cut, paste, delete and select all.
+#include "canvas/CardClipboard.h"
+#include "canvas/MouseState.h"
+#include "canvas/RVEditTemplateWnd.h"
+#include "canvas/UndoTexts.h"
+
+namespace xrpt {
+namespace {
+
+constexpr int kPasteOffset = 30;  // pixels, where no grid says otherwise
+
+double PasteShift(double step, double pixelsPerMm, double pixel) {
+  return (IsActive(step) ? roundi(step * pixelsPerMm) : kPasteOffset) * pixel;
+}
+
+// A card that would stick out goes to the page's edge.
+void Shift(double& near, double size, double shift, double page) {
+  near += shift;
+  if (near + size > page) near = 0.0;
+}
+
+}  // namespace
+
+void RVEditTemplateWnd::ControlCopy() {
+  if (selection_.IsEmpty()) return;
+  std::vector<const RVCardControl*> cards;
+  for (const std::size_t index : SelectedIndexes()) {
+    if (index != CardList::kNowhere) cards.push_back(&page_.cards[index]);
+  }
+  ClipboardContent content;
+  content.text = CardsAsText(cards);
+  if (pictureMaker_) pictureMaker_(page_, selection_.Ids(), content);
+  CurrentHost().clipboard->PutToClipboard(content);
+}
+
+void RVEditTemplateWnd::ControlCut() {
+  ControlCopy();
+  DeleteSelectedControls();
+}
+
+bool RVEditTemplateWnd::IsActionPasteEnabled() const { return clipboardReader_.HoldsCards(); }
+
+void RVEditTemplateWnd::ControlPaste() {
+  std::vector<std::unique_ptr<RVCardControl>> cards;
+  if (!clipboardReader_.Read(page_, cards)) return;
+  const PagePlacement place = Placement();
+  const GridSteps grid = GridOf(page_.properties);
+  const double dx = place.IsValid() ? PasteShift(grid.x, place.pixelsPerMm.x, place.PixelWidth()) : 0.0;
+  const double dy = place.IsValid() ? PasteShift(grid.y, place.pixelsPerMm.y, place.PixelHeight()) : 0.0;
+  PauseTimer();
+  ClearSelection();
+  for (auto& card : cards) {
+    Shift(card->x, card->width, dx, page_.properties.width);
+    Shift(card->y, card->height, dy, page_.properties.height);
+    Select(*card, ToPixels(place, RectOf(*card)));
+    page_.cards.PushFront(std::move(card));
+  }
+  if (!cards.empty()) {
+    RedrawBackground();
+    PostChange(false);
+  }
+  AddUndoInfo(false, {text::kPasteCards, static_cast<int>(cards.size())});
+  // The clipboard now holds the shifted cards, so that pasting again lands one step further.
+  ControlCopy();
+  StartTimer();
+}
+
+void RVEditTemplateWnd::DeleteSelectedControls() {
+  if (selection_.IsEmpty()) return;
+  const int count = static_cast<int>(selection_.Size());
+  std::vector<std::size_t> indexes = SelectedIndexes();
+  std::erase(indexes, CardList::kNowhere);
+  for (const std::size_t index : indexes) {
+    parent_.OnMessage({Message::CardAboutToBeDeleted, page_.cards[index].id, 0});
+  }
+  page_.cards.Remove(std::move(indexes));
+  AddUndoInfo(false, {text::kDeleteCards, count});
+  ClearSelection();
+  RedrawBackground();
+  PostChange(false);
+}
+
+void RVEditTemplateWnd::ControlSelectAll() {
+  const PagePlacement place = Placement();
+  if (page_.cards.IsEmpty() || !place.IsValid()) return;
+  PauseTimer();
+  ClearSelection();
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) Select(page_.cards[i], ToPixels(place, RectOf(page_.cards[i])));
+  StartTimer();
+  AddUndoInfo(false, {text::kSelect, 0});
+  port_.Invalidate();
+}
+
+}  // namespace xrpt

@@ -1,0 +1,22 @@
+// The kinds of card an insert tool makes, by the tool's code.
+#pragma once
+
+#include <optional>
+
+#include "model/RVCardControl.h"
+
+namespace xrpt {
+
+struct InsertKindRow {
+  int code;
+  const CardClass& (*kind)();
+  unsigned support;                 // the bit that allows inserting it
+  std::optional<Color> frameColor;  // of a new card; nothing keeps the one of its class
+};
+
+// Null for a code that inserts nothing, the pointer's among them.
+const InsertKindRow* FindInsertKind(int code);
+
+inline constexpr int kPointerTool = 2;
+
+}  // namespace xrpt

@@ -1,0 +1,47 @@
+// One step of the history: the page as it was, and in what it differs from the step before.
+#pragma once
+
+#include "canvas/RVSelection.h"
+#include "model/CardList.h"
+#include "model/RVGlobalProperties.h"
+
+namespace xrpt {
+
+// What an undo step is called: a text that may hold the number of cards.
+struct UndoName {
+  int textId = 0;
+  int count = 0;
+  bool operator==(const UndoName&) const = default;
+};
+
+class RVUndo {
+ public:
+  // Starts as a copy of the newest step, with no differences; empty when there is none.
+  RVUndo() = default;
+  static RVUndo After(const RVUndo& newest);
+
+  // Each compares the step's part with the page window's, takes it over when different, and says whether it was.
+  bool SetChange(const CardList& current);
+  bool SetChange(const RVSelection& current);
+  bool SetChange(const RVGlobalProperties& current);
+
+  bool IsControlListChanged() const { return cardsChanged_; }
+  bool IsSelectionChanged() const { return selectionChanged_; }
+  bool IsGlobalsChanged() const { return pageChanged_; }
+
+  const SharedCards& Cards() const { return cards_; }
+  const RVSelection& Selection() const { return selection_; }
+  const RVGlobalProperties& Page() const { return page_; }
+
+  UndoName name;
+
+ private:
+  SharedCards cards_;
+  RVSelection selection_;
+  RVGlobalProperties page_;
+  bool cardsChanged_ = false;
+  bool selectionChanged_ = false;
+  bool pageChanged_ = false;
+};
+
+}  // namespace xrpt

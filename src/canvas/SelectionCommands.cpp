@@ -1,0 +1,168 @@
+// The page window's cards and selection: inserting, finding, selecting, editing from outside.
+#include "canvas/HitTest.h"
+#include "canvas/InsertKinds.h"
+#include "canvas/MouseState.h"
+#include "canvas/RVEditTemplateWnd.h"
+#include "canvas/UndoTexts.h"
+#include "model/RVCardImage.h"
+#include "model/RVCardLabel.h"
+
+namespace xrpt {
+namespace {
+
+constexpr int kDefaultLabelText = 32426;
+
+Point TopLeft(const Rect& rect) { return {rect.left, rect.top}; }
+
+}  // namespace
+
+void RVEditTemplateWnd::Select(const RVCardControl& card, const Rect& rect) {
+  selection_.AddSelection(rect, TopLeft(rect), card.id, card.Resizable());
+}
+
+void RVEditTemplateWnd::SelectAlone(const std::wstring& id) {
+  ClearSelection();
+  const RVCardControl* card = page_.cards.Find(id);
+  if (card) Select(*card, ToPixels(Placement(), RectOf(*card)));
+}
+
+void RVEditTemplateWnd::SelectControls(const std::vector<std::wstring>& ids) {
+  ClearSelection();
+  const PagePlacement place = Placement();
+  for (const std::wstring& id : ids) {
+    const RVCardControl* card = page_.cards.Find(id);
+    if (card && !selection_.IsSelected(id)) Select(*card, ToPixels(place, RectOf(*card)));
+  }
+  PlayTimer();
+  port_.Invalidate();
+}
+
+void RVEditTemplateWnd::ClearSelection() { selection_.Clear(); }
+
+std::wstring RVEditTemplateWnd::SelectedCardId() const {
+  return selection_.Size() == 1 ? selection_.Entries().front().id : std::wstring();
+}
+
+bool RVEditTemplateWnd::SelectControlById(std::wstring_view id) {
+  pickedId_.clear();
+  const RVCardControl* card = page_.cards.Find(id);
+  if (!card) return false;
+  PauseTimer();
+  SelectAlone(card->id);
+  pickedId_ = card->id;
+  StartTimer();
+  PostChange(true);
+  port_.Invalidate();
+  return true;
+}
+
+// Cards move by align, undo, zoom and scroll while they are selected; a gesture starts where they are now.
+void RVEditTemplateWnd::RefreshRects() {
+  const PagePlacement place = Placement();
+  const std::vector<std::size_t> indexes = SelectedIndexes();
+  for (std::size_t i = 0; i < indexes.size(); ++i) {
+    if (indexes[i] != CardList::kNowhere) {
+      selection_.Entries()[i].rect = ToPixels(place, RectOf(page_.cards[indexes[i]]));
+    }
+  }
+}
+
+void RVEditTemplateWnd::UpdateRect(std::wstring_view id, const Rect& rect) {
+  const int index = selection_.Find(id);
+  if (index >= 0) selection_.Entries()[static_cast<std::size_t>(index)].rect = rect;
+}
+
+// In selection order; kNowhere for an id that no card has any more. One walk over the cards however many are selected.
+std::vector<std::size_t> RVEditTemplateWnd::SelectedIndexes() const {
+  std::unordered_map<std::wstring_view, std::size_t> wanted;
+  const auto& entries = selection_.Entries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (!entries[i].id.empty()) wanted.emplace(entries[i].id, i);
+  }
+  std::vector<std::size_t> indexes(entries.size(), CardList::kNowhere);
+  for (std::size_t card = 0; card < page_.cards.Size() && !wanted.empty(); ++card) {
+    const auto found = wanted.find(page_.cards[card].id);
+    if (found == wanted.end()) continue;
+    indexes[found->second] = card;
+    wanted.erase(found);
+  }
+  return indexes;
+}
+
+// --- Inserting ---
+
+bool RVEditTemplateWnd::Supports(int kind) const {
+  const InsertKindRow* row = FindInsertKind(kind);
+  return row && (support_ & row->support) != 0;
+}
+
+std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
+  const InsertKindRow* row = FindInsertKind(kind);
+  if (!row || !Supports(kind)) return nullptr;
+  std::unique_ptr<RVCardControl> card = row->kind().create();
+  if (row->frameColor) card->color = *row->frameColor;
+  if (&card->GetRuntimeClass() == &RVCardLabel::Class()) {
+    static_cast<RVCardLabel&>(*card).text = HostText(kDefaultLabelText);
+  }
+  return card;
+}
+
+void RVEditTemplateWnd::AddControl(double x, double y, double width, double height) {
+  std::unique_ptr<RVCardControl> card = NewCard(insertKind_);
+  if (!card) return;
+  SetRect(*card, {x, y, width, height});
+  Insert(std::move(card));
+}
+
+void RVEditTemplateWnd::AddControlAtPointer() {
+  double x = 0.0, y = 0.0, width = 0.0, height = 0.0;
+  GetInitialControlDimensions(x, y, width, height);
+  AddControl(x, y, width, height);
+  RedrawBackground();
+  AddUndoInfo(false, {text::kInsert, 1});
+}
+
+void RVEditTemplateWnd::Insert(std::unique_ptr<RVCardControl> card) {
+  card->SetParent(&page_);
+  card->InitializeId();
+  if (mouseState_ != kDrawCardCtrl) ClearSelection();
+  const Rect drawn = selection_.Band().value_or(ToPixels(Placement(), RectOf(*card)));
+  selection_.AddSelection(drawn, selection_.anchor, card->id, card->Resizable());
+  page_.cards.PushFront(std::move(card));
+  StartTimer();
+  queue_.Post(&parent_, {Message::CardInserted, SelectedCardId(), 0});
+}
+
+// --- Changes from outside ---
+
+void RVEditTemplateWnd::CommitEdit(UndoName name) {
+  if (name.textId == 0) name = {text::kChange, static_cast<int>(std::max<std::size_t>(1, selection_.Size()))};
+  RefreshRects();
+  RedrawBackground();
+  AddUndoInfo(false, name);
+  queue_.Post(&parent_, {Message::CardChanged, SelectedCardId(), 0});
+}
+
+void RVEditTemplateWnd::CommitPageEdit() {
+  if (zoom_ < 0.0) SetMode(0);
+  InitializeScrollBars(false);
+  RedrawBackground();
+  AddUndoInfo(false, {text::kChangePage, 0});
+  queue_.Post(&parent_, {Message::CardChanged, {}, 0});
+}
+
+void RVEditTemplateWnd::ImagesManagerModified() {
+  RVCardImage::ReLoadAllOriginalImages();
+  RedrawBackground();
+}
+
+void RVEditTemplateWnd::StylesModified() {
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) page_.cards.Edit(i).UpdateStyleFromFile();
+  RedrawBackground();
+}
+
+void RVEditTemplateWnd::PostChange(bool selectionOnly) {
+  queue_.Post(&parent_, {Message::SelectionOrGeometryChanged, SelectedCardId(), selectionOnly ? 1 : 0});
+}
+
+}  // namespace xrpt

@@ -1,0 +1,25 @@
+// Text ids of undo steps, in the catalogues' range 60400 to 60499. A text with %d is for several cards; the one 50
+// above it is for one card.
+#pragma once
+
+namespace xrpt::text {
+
+inline constexpr int kSelect = 60400;
+inline constexpr int kMove = 60401;
+inline constexpr int kResize = 60402;
+inline constexpr int kInsert = 60403;
+inline constexpr int kDeleteCards = 60404;
+inline constexpr int kPasteCards = 60405;
+inline constexpr int kAlign = 60406;
+inline constexpr int kDistribute = 60407;
+inline constexpr int kCenter = 60408;
+inline constexpr int kSameSizes = 60409;
+inline constexpr int kToFront = 60410;
+inline constexpr int kToBack = 60411;
+inline constexpr int kChange = 60412;
+inline constexpr int kTurnPage = 60413;
+inline constexpr int kChangePage = 60414;
+
+inline constexpr int kOneCardOffset = 50;
+
+}  // namespace xrpt::text
