@@ -4,8 +4,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "desktop/Actions.h"
 #include "desktop/TextIds.h"
 #include "desktop/Texts.h"
+#include "editor/CommandCatalogue.h"
 
 namespace xrpt {
 
@@ -22,6 +24,15 @@ int MatchScore(const QString& label, const QString& typed) {
   }
   return score;
 }
+
+namespace {
+
+// "Align to last card: Left" says more than "Left".
+QString LabelOf(const QAction& action) {
+  return QStringLiteral("%1: %2").arg(Translated(Actions::CommandOf(action).groupTextId), action.text());
+}
+
+}  // namespace
 
 CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* parent)
     : QDialog(parent, Qt::Popup | Qt::FramelessWindowHint), actions_(actions) {
@@ -52,14 +63,15 @@ CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* pa
 void CommandPalette::Fill(const QString& typed) {
   std::vector<std::pair<int, QAction*>> found;
   for (QAction* action : actions_) {
-    if (const int score = MatchScore(action->text(), typed.trimmed())) found.emplace_back(score, action);
+    if (const int score = MatchScore(LabelOf(*action), typed.trimmed())) found.emplace_back(score, action);
   }
   std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
   list_->clear();
   for (const auto& [score, action] : found) {
     const QString key = action->shortcut().toString(QKeySequence::NativeText);
-    auto* item = new QListWidgetItem(
-        action->icon(), key.isEmpty() ? action->text() : action->text() + QStringLiteral("    ") + key, list_);
+    const QString label = LabelOf(*action);
+    auto* item =
+        new QListWidgetItem(action->icon(), key.isEmpty() ? label : label + QStringLiteral("    ") + key, list_);
     item->setData(Qt::UserRole, QVariant::fromValue(static_cast<QObject*>(action)));
     if (!action->isEnabled()) item->setFlags(Qt::NoItemFlags);
   }

@@ -70,6 +70,7 @@ void OpenDialog::Fill(const std::wstring& current) {
     item->setIcon(0, ThemedIcon(QStringLiteral("portrait")));
     if (name == ToQString(current)) list_->setCurrentItem(item);
   }
+  list_->sortItems(0, Qt::AscendingOrder);
   if (!list_->currentItem() && list_->topLevelItemCount() > 0) list_->setCurrentItem(list_->topLevelItem(0));
   Refresh();
 }

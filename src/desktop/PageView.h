@@ -27,6 +27,9 @@ class PageView final : public QAbstractScrollArea {
   // The page's pixels are painted anew, for what the window could not see (the theme).
   void RepaintPage();
 
+  // How often a page was painted afresh.
+  int PagePaintings() const { return image_.Paintings(); }
+
   // --- What a page's window asks ---
   Rect PageArea() const;
   void Repaint();

@@ -22,6 +22,7 @@ RibbonGroup::RibbonGroup(const QString& title, QWidget* parent) : QWidget(parent
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(2);
   grid_->setVerticalSpacing(0);
+  for (int row = 0; row < kRows; ++row) grid_->setRowStretch(row, 1);
   caption_ = new QLabel(title, this);
   caption_->setObjectName(QStringLiteral("ribbonGroupTitle"));
   caption_->setAlignment(Qt::AlignCenter);

@@ -58,6 +58,7 @@ QWidget* ShortcutSheet::MakeColumns(const std::vector<QAction*>& actions) {
   for (int i = 0; i < kColumns; ++i) {
     auto* part = new QVBoxLayout();
     grids.push_back(new QGridLayout());
+    grids.back()->setVerticalSpacing(3);
     part->addLayout(grids.back());
     part->addStretch(1);
     row->addLayout(part, 1);
@@ -89,7 +90,6 @@ void ShortcutSheet::AddSection(QGridLayout& grid, const QString& title) {
 void ShortcutSheet::AddRow(QGridLayout& grid, const QString& label, const QString& keys) {
   const int row = grid.rowCount();
   auto* text = new QLabel(label);
-  text->setWordWrap(true);
   grid.addWidget(text, row, 0);
   auto* cap = new QLabel(keys);
   cap->setObjectName(QStringLiteral("keyCap"));
