@@ -51,9 +51,16 @@ bool RVEditControlWnd::OpenFromList() {
   if (!LetGoOfChanges()) return false;
   const std::optional<std::wstring> chosen = port_.ChooseReport(report_.name);
   if (!chosen || *chosen == report_.name) return false;
-  Setup(*chosen);
+  OpenByName(*chosen);
   CurrentHost().settings->SetRegistryText(L"LastInforme", report_.name);
   return true;
+}
+
+// A report of the list may be stored under its bare name, without an identifier before it.
+LoadResult RVEditControlWnd::OpenByName(const std::wstring& name) {
+  const Path folder = CurrentHost().setup->CfgPath();
+  if (FindNamedFile(folder, name, kReportEnding)) return Setup(name);
+  return Setup(FromUtf8((folder / ToUtf8(name + std::wstring(kReportEnding))).string()));
 }
 
 bool RVEditControlWnd::NewReport() {

@@ -30,6 +30,8 @@ class RVEditControlWnd final : public MessageTarget {
 
   // Opens by name or path; what could not be read opens as a new report, and the result says why.
   LoadResult Setup(const std::wstring& nameOrPath);
+  // The same for a name of the report list.
+  LoadResult OpenByName(const std::wstring& name);
   LoadResult OpenFile(const Path& file, const std::wstring* askedName);
   // Asks about unsaved changes, lets the user choose, opens. False when nothing was opened.
   bool OpenFromList();

@@ -5,10 +5,8 @@
 namespace xrpt {
 namespace {
 
-// Where hyphens stand, and the version and variant that mark a random identifier.
-constexpr std::wstring_view kPattern = L"xxxxxxxx-xxxx-4xxx-Vxxx-xxxxxxxxxxxx";
-
-wchar_t HexDigit(unsigned value) { return L"0123456789ABCDEF"[value & 0xF]; }
+constexpr std::wstring_view kPattern = L"xxxxxxxx-xxxx-4xxx-xxxx-xxxxxxxxxxxx";
+constexpr std::size_t kVariantAt = 19;  // 8 to B marks a random identifier, as the 4 does
 
 std::mt19937_64 Seeded() {
   std::random_device device;
@@ -29,13 +27,14 @@ std::wstring RandomGuids::NewGuidText() {
     bits = {random_(), random_()};
   }
   std::wstring text(kPattern);
-  unsigned taken = 0;
+  std::uint64_t half = bits[0];
+  int taken = 0;
   for (wchar_t& c : text) {
-    if (c != L'x' && c != L'V') continue;
-    const auto four = static_cast<unsigned>(bits[taken / 16] >> (taken % 16 * 4)) & 0xF;
-    c = HexDigit(c == L'V' ? 8 | (four & 3) : four);
-    ++taken;
+    if (c != L'x') continue;
+    c = L"0123456789ABCDEF"[half & 0xF];
+    half = ++taken == 16 ? bits[1] : half >> 4;
   }
+  text[kVariantAt] = L"89AB"[bits[1] >> 62];
   return text;
 }
 

@@ -14,7 +14,23 @@
 namespace xrpt {
 
 using CardPtr = std::shared_ptr<RVCardControl>;
-using SharedCards = std::vector<std::shared_ptr<const RVCardControl>>;
+
+// The cards of a list as a snapshot keeps them, in stretches of a few dozen that snapshots share where nothing changed,
+// so that one more snapshot of a long list costs little more than the cards that changed.
+class SharedCards {
+ public:
+  using Card = std::shared_ptr<const RVCardControl>;
+
+  std::size_t Size() const { return size_; }
+  const Card& operator[](std::size_t index) const { return (*stretches_[index / kStretch])[index % kStretch]; }
+
+ private:
+  friend class CardList;
+  static constexpr std::size_t kStretch = 64;
+  using Stretch = std::vector<Card>;
+  std::vector<std::shared_ptr<const Stretch>> stretches_;
+  std::size_t size_ = 0;
+};
 
 class CardList {
  public:
@@ -34,18 +50,21 @@ class CardList {
 
   RVCardControl& PushFront(std::unique_ptr<RVCardControl> card);
   RVCardControl& PushBack(std::unique_ptr<RVCardControl> card);
-  void Remove(std::size_t index);
+  void Remove(std::vector<std::size_t> indexes);
   void MoveToFront(std::size_t index);
   void MoveToBack(std::size_t index);
   void Clear() { cards_.clear(); }
 
   // What a snapshot keeps, and the way back.
-  SharedCards Share() const { return {cards_.begin(), cards_.end()}; }
+  // What it has in common with the snapshot before, it shares.
+  SharedCards Share(const SharedCards& before = {}) const;
   void Restore(const SharedCards& cards);
   // Same cards in the same order; those held by both lists are not looked into.
   bool Equals(const SharedCards& cards) const;
 
  private:
+  std::shared_ptr<const SharedCards::Stretch> ShareStretch(std::size_t first, const SharedCards& before) const;
+
   std::vector<CardPtr> cards_;
 };
 

@@ -22,9 +22,21 @@ constexpr RegistryRow kRows[] = {
     {&RVAnalogBar::Class, true, false},        {&RVCardPrimitive::Class, true, false},
 };
 
+// The rows' tags made ready, because every element of every page is looked up.
+const std::vector<XmlName>& Tags() {
+  static const std::vector<XmlName> tags = [] {
+    std::vector<XmlName> made;
+    for (const RegistryRow& row : kRows) made.emplace_back(row.kind().tag);
+    return made;
+  }();
+  return tags;
+}
+
 std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place) {
-  for (const RegistryRow& row : kRows) {
-    if (row.*place && tag == row.kind().tag) return row.kind().create();
+  const XmlName name(tag);
+  const std::vector<XmlName>& tags = Tags();
+  for (std::size_t i = 0; i < tags.size(); ++i) {
+    if (kRows[i].*place && name.head == tags[i].head && name.text == tags[i].text) return kRows[i].kind().create();
   }
   return nullptr;
 }

@@ -29,7 +29,7 @@ struct PlainCodec {
 
 struct String {
   static constexpr std::span<const Word> Words() { return {}; }
-  static void Assign(std::wstring& value, std::string_view text) { value = FromUtf8(text); }
+  static void Assign(std::wstring& value, std::string_view text) { AssignUtf8(value, text); }
   static void Write(const std::wstring& value, XmlWriter& out, const char* name) { out.Value(name, value); }
   static std::wstring Text(const std::wstring& value) { return value; }
 };

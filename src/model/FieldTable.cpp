@@ -16,9 +16,9 @@ bool IsWritten(const FieldRow& row, const void* object) {
 
 void ReadRow(const FieldRow& row, void* object, XmlCursor& cursor, const XmlNode& node) {
   if (!row.Applies(object)) return;
-  if (row.readNode) return row.readNode(object, node);
+  if (row.readNode) return row.readNode(object, row.name ? cursor.Find(row.key) : node);
   if (!row.name || !row.assign) return;
-  const XmlNode element = cursor.Find(row.name);
+  const XmlNode element = cursor.Find(row.key);
   std::string joined;
   if (element) {
     row.assign(object, element.WholeText(joined));

@@ -44,6 +44,7 @@ struct ListTable;
 struct FieldRow {
   const char* group = nullptr;    // element that holds this one and its neighbours of the same group ("font")
   const char* name = nullptr;     // element; null for a field that is not in the file
+  XmlName key;                    // the same, made ready
   const char* missing = nullptr;  // what a missing element reads as; null keeps the value the field has
   bool counts = true;             // whether equality looks at it
   FieldPanel panel;
@@ -62,8 +63,9 @@ struct FieldRow {
   std::wstring (*text)(const void* object) = nullptr;
   bool (*equal)(const void* left, const void* right) = nullptr;
 
-  // An irregular row reads the element that would hold it and writes into it, all by itself.
-  void (*readNode)(void* object, const XmlNode& node) = nullptr;
+  // An irregular row reads by itself: its own element when it has a name (a handle on nothing when it is missing), else
+  // the whole element of the object. And it writes into the latter.
+  void (*readNode)(void* object, const XmlNode& element) = nullptr;
   void (*writeNode)(const void* object, XmlWriter& out) = nullptr;
 
   // "font/size", or "x".
@@ -154,6 +156,7 @@ constexpr FieldRow Field(const char* group, const char* name, const char* missin
   FieldRow row;
   row.group = group;
   row.name = name;
+  row.key = name;
   row.missing = missing;
   row.panel = panel;
   row.words = Codec::Words();
@@ -188,8 +191,8 @@ constexpr FieldRow Only(FieldRow row) {
   return row;
 }
 
-// What no codec can say: functions of the class read the node that would hold the element, `void Read(const XmlNode&)`,
-// and write into it, `void Write(XmlWriter&) const`.
+// What no codec can say: functions of the class read the row's own element or, for a row without a name, the object's,
+// `void Read(const XmlNode&)`, and write into the latter, `void Write(XmlWriter&) const`.
 template <class Owner, auto Read>
 constexpr FieldRow ReadBy(FieldRow row) {
   row.readNode = [](void* object, const XmlNode& node) { (detail::As<Owner>(object).*Read)(node); };
@@ -241,10 +244,13 @@ constexpr FieldRow NotCompared(FieldRow row) {
   return row;
 }
 
-// A row for elements that are no single field (pictures, lists of alternatives).
+// A row for elements that are no single field: a picture, or, without a name, a list of alternatives.
 template <class Owner, auto Read, auto Write>
-constexpr FieldRow Irregular() {
-  return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(FieldRow())));
+constexpr FieldRow Irregular(const char* name = nullptr) {
+  FieldRow row;
+  row.name = name;
+  row.key = name;
+  return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(row)));
 }
 
 // Read after the rows before it, which it completes.

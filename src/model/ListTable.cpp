@@ -16,8 +16,8 @@ std::span<const ListRow> GroupFrom(std::span<const ListRow> rows, std::size_t fi
   return rows.subspan(first, end - first);
 }
 
-void ReadEntry(const ListRow& row, void* object, const XmlNode& parent) {
-  const XmlNode element = parent.Node(row.name);
+void ReadEntry(const ListRow& row, void* object, XmlCursor& cursor) {
+  const XmlNode element = cursor.Find(row.name);
   std::string joined;
   if (element) {
     row.append(object, element.WholeText(joined));
@@ -50,9 +50,18 @@ void WriteItem(const ListTable& table, const void* object, std::size_t index, Xm
 
 // Entries of a missing group read as missing ones do: there is nothing to leave alone yet.
 void AppendItem(const ListTable& table, void* object, const XmlNode& element) {
-  for (const ListRow& row : table.rows) {
-    if (row.needs && !element.Node(row.needs)) continue;
-    ReadEntry(row, object, row.group ? element.Node(row.group) : element);
+  XmlCursor cursor(element);
+  for (std::size_t at = 0; at < table.rows.size();) {
+    const std::span<const ListRow> group = GroupFrom(table.rows, at);
+    const ListRow& first = group.front();
+    at += group.size();
+    if (first.needs && !element.Node(first.needs)) continue;
+    if (!first.group) {
+      for (const ListRow& row : group) ReadEntry(row, object, cursor);
+      continue;
+    }
+    XmlCursor inside(cursor.Find(first.group));
+    for (const ListRow& row : group) ReadEntry(row, object, inside);
   }
 }
 

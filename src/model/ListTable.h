@@ -16,7 +16,7 @@ struct ListRow {
   const char* group = nullptr;    // element inside the item's that holds this one and its neighbours of the same group
   const char* name = nullptr;     // element of an entry
   const char* missing = nullptr;  // what a missing element adds; null adds no entry
-  const char* needs = nullptr;    // read only when the item has this element too
+  const char* needs = nullptr;    // a group is read only when the item has this element too
   bool counts = true;             // whether equality looks at the list
   bool removed = true;            // whether the entry goes with its item
   FieldPanel panel;

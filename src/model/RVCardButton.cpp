@@ -61,8 +61,8 @@ RVCardButton::RVCardButton() : text(HostText(kCaptionTextId)) { font.size = kFon
 
 bool RVCardButton::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
 
-void RVCardButton::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(node, styleName)) GetStyleFromFile(styleName);
+void RVCardButton::ReadStyle(const XmlNode& reference) {
+  if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);
 }
 
 void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }

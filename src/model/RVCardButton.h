@@ -63,7 +63,7 @@ class RVCardButton : public RVCardControl {
   bool HasTextPart() const { return IsButton() || IsText(); }
   bool IsAligned() const { return IsImage() || IsText(); }
   bool HasImageId() const { return !imageId.empty(); }
-  void ReadStyle(const XmlNode& node);
+  void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
   void ReadImage(const XmlNode& node);
 

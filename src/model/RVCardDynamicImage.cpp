@@ -63,9 +63,9 @@ const PicturePtr& RVCardDynamicImage::Placeholder() {
   return picture;
 }
 
-void RVCardDynamicImage::ReadVariable(const XmlNode& node) {
+void RVCardDynamicImage::ReadVariable(const XmlNode& element) {
   const VariableNaming& naming = *CurrentHost().variables;
-  const DriverVariable parts = naming.SplitDriverVariable(node.Value("variable/id"));
+  const DriverVariable parts = naming.SplitDriverVariable(element.Value("id"));
   variable = naming.JoinDriverVariable({parts.device, parts.variable, {}, {}});
 }
 

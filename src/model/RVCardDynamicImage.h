@@ -34,7 +34,7 @@ class RVCardDynamicImage : public RVCardControl {
 
  private:
   static std::span<const FieldRow> Rows();
-  void ReadVariable(const XmlNode& node);
+  void ReadVariable(const XmlNode& element);
   void WriteVariable(XmlWriter& out) const;
 
   PicturePtr picture_;

@@ -53,17 +53,13 @@ std::wstring RVCardFormule::ShownText() const {
                       {locale.DecimalSeparator(), locale.ThousandsSeparator()});
 }
 
-void RVCardFormule::ReadLeftPadding(const XmlNode& node) {
-  leftPadding = ParseInteger(node.Node("leftPadding").RawText()) > 0;
-}
+void RVCardFormule::ReadLeftPadding(const XmlNode& count) { leftPadding = ParseInteger(count.RawText()) > 0; }
 
 void RVCardFormule::WriteLeftPadding(XmlWriter& out) const {
   if (leftPadding) out.Plain("leftPadding", codec::Integer::Show(integers));
 }
 
-void RVCardFormule::ReadRightPadding(const XmlNode& node) {
-  rightPadding = ParseInteger(node.Node("rightPadding").RawText()) > 0;
-}
+void RVCardFormule::ReadRightPadding(const XmlNode& count) { rightPadding = ParseInteger(count.RawText()) > 0; }
 
 void RVCardFormule::WriteRightPadding(XmlWriter& out) const {
   if (rightPadding) out.Plain("rightPadding", codec::Integer::Show(decimals));

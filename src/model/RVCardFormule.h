@@ -30,9 +30,9 @@ class RVCardFormule : public RVCardLabel {
  private:
   static std::span<const FieldRow> Rows();
   bool HasVariableDefault() const { return enableVariableDefaultValue; }
-  void ReadLeftPadding(const XmlNode& node);
+  void ReadLeftPadding(const XmlNode& count);
   void WriteLeftPadding(XmlWriter& out) const;
-  void ReadRightPadding(const XmlNode& node);
+  void ReadRightPadding(const XmlNode& count);
   void WriteRightPadding(XmlWriter& out) const;
 };
 

@@ -8,7 +8,7 @@ std::span<const FieldRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.
-      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>()),
+      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image")),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
       ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
@@ -23,7 +23,7 @@ const CardClass& RVCardImage::Class() {
 
 RVCardImage::RVCardImage() {
   color = 0xC06060;
-  backcolor = 0x00FFFF;
+  backcolor = kNewBackColor;
 }
 
 bool RVCardImage::isEqual(const RVCardControl& other) const {
@@ -49,8 +49,7 @@ bool RVCardImage::ReLoadOriginalImage() {
 
 void RVCardImage::ReLoadAllOriginalImages() { CurrentHost().pictureStore.ReloadAll(); }
 
-void RVCardImage::ReadImage(const XmlNode& node) {
-  const XmlNode image = node.Node("image");
+void RVCardImage::ReadImage(const XmlNode& image) {
   if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));
 }
 

@@ -9,6 +9,10 @@ namespace xrpt {
 
 class RVCardImage : public RVCardControl {
  public:
+  // What a new card has, and what a file that names no back colour leaves it: the ground of a card that has no picture
+  // yet, not one to see round a picture.
+  static constexpr Color kNewBackColor = 0x00FFFF;
+
   RVCardImage();
 
   static const CardClass& Class();
@@ -41,7 +45,7 @@ class RVCardImage : public RVCardControl {
 
  private:
   static std::span<const FieldRow> Rows();
-  void ReadImage(const XmlNode& node);
+  void ReadImage(const XmlNode& image);
   void WriteImage(XmlWriter& out) const;
 
   ImageRecordPtr image_;

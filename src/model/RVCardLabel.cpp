@@ -31,8 +31,8 @@ const CardClass& RVCardLabel::Class() {
 
 bool RVCardLabel::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, color); }
 
-void RVCardLabel::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(node, styleName)) GetStyleFromFile(styleName);
+void RVCardLabel::ReadStyle(const XmlNode& reference) {
+  if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);
 }
 
 void RVCardLabel::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }

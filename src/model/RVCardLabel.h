@@ -36,7 +36,7 @@ class RVCardLabel : public RVCardControl {
 
  private:
   static std::span<const FieldRow> Rows();
-  void ReadStyle(const XmlNode& node);
+  void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
 };
 

@@ -4,8 +4,7 @@
 
 namespace xrpt {
 
-bool ReadStyleReference(const XmlNode& node, std::wstring& styleName) {
-  const XmlNode reference = node.Node("style");
+bool ReadStyleReference(const XmlNode& reference, std::wstring& styleName) {
   if (!reference) return false;
   const bool known = CurrentHost().styles->StyleId2Name(reference.Value(), styleName);
   if (!known) styleName.clear();

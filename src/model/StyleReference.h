@@ -10,9 +10,9 @@
 
 namespace xrpt {
 
-// Takes the name of the style whose identifier stands in "style". True when the style is known and should be applied
-// now; an unknown identifier empties the name, and an element that is missing leaves it alone.
-bool ReadStyleReference(const XmlNode& node, std::wstring& styleName);
+// Takes the name of the style whose identifier a "style" element holds. True when the style is known and should be
+// applied now; an unknown identifier empties the name, and an element that is missing leaves it alone.
+bool ReadStyleReference(const XmlNode& reference, std::wstring& styleName);
 
 // Writes "style" when the name is known; a style nobody knows is not written.
 void WriteStyleReference(XmlWriter& out, const std::wstring& styleName);

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace xrpt {
 namespace {
@@ -36,7 +37,29 @@ double OutOfRange(std::string_view text) {
   return tiny ? 0.0 : std::numeric_limits<double>::infinity();
 }
 
+// What our own files hold, "12.50": few enough digits that both numbers are exact and their quotient is rounded as the
+// library would round it. Nothing for all else.
+std::optional<double> ParsePlain(std::string_view text) {
+  static constexpr double kPowers[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+  if (text.empty() || text.size() > 10) return std::nullopt;
+  std::int64_t digits = 0;
+  std::size_t decimals = 0;
+  bool point = false;
+  for (char c : text) {
+    if (c == '.' && !point) {
+      point = true;
+    } else if (c >= '0' && c <= '9') {
+      digits = digits * 10 + (c - '0');
+      decimals += point ? 1 : 0;
+    } else {
+      return std::nullopt;
+    }
+  }
+  return static_cast<double>(digits) / kPowers[decimals];
+}
+
 double ParseMagnitude(std::string_view text) {
+  if (const std::optional<double> plain = ParsePlain(text)) return *plain;
   if (!text.empty() && (text[0] == '-' || text[0] == '+')) return 0.0;
   const auto format = TakeHexPrefix(text) ? std::chars_format::hex : std::chars_format::general;
   double value = 0.0;
@@ -57,9 +80,13 @@ std::string AsciiHead(std::wstring_view text) {
 
 int DigitOf(char c, int base) {
   int digit = base;
-  if (c >= '0' && c <= '9') digit = c - '0';
-  if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
+  if (c >= '0' && c <= '9') {
+    digit = c - '0';
+  } else if (c >= 'A' && c <= 'F') {
+    digit = c - 'A' + 10;
+  } else if (c >= 'a' && c <= 'f') {
+    digit = c - 'a' + 10;
+  }
   return digit < base ? digit : -1;
 }
 
@@ -69,7 +96,8 @@ std::int64_t ParseDigits(std::string_view text, int base, std::int64_t limit) {
   for (char c : text) {
     const int digit = DigitOf(c, base);
     if (digit < 0) break;
-    value = std::min(value * base + digit, limit);
+    value = value * base + digit;
+    if (value > limit) value = limit;
   }
   return value;
 }

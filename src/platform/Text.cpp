@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace xrpt {
 namespace {
@@ -48,17 +49,12 @@ Decoded DecodeOne(std::string_view bytes, std::size_t at) {
   return {valid ? code : kReplacement, used, valid};
 }
 
-// Bytes from `at` on that are plain ASCII, eight at a time.
-std::size_t AsciiRun(std::string_view bytes, std::size_t at) {
-  std::size_t end = at;
-  while (end + 8 <= bytes.size()) {
-    std::uint64_t word = 0;
-    bytes.copy(reinterpret_cast<char*>(&word), 8, end);
-    if (word & 0x8080808080808080ull) break;
-    end += 8;
-  }
-  while (end < bytes.size() && static_cast<unsigned char>(bytes[end]) < 0x80) ++end;
-  return end - at;
+// Whether the eight bytes from `at` on are all there and plain ASCII.
+bool IsAsciiWord(std::string_view bytes, std::size_t at) {
+  if (at + 8 > bytes.size()) return false;
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes.data() + at, 8);
+  return (word & 0x8080808080808080ull) == 0;
 }
 
 bool IsSafeCharacter(wchar_t c) { return c >= 0x20 && c != L'/' && c != L'\\' && c != L':' && c != 0x7F; }
@@ -85,17 +81,25 @@ void AppendUtf8(std::string& out, char32_t code) {
 
 std::wstring FromUtf8(std::string_view utf8) {
   std::wstring out;
-  out.reserve(utf8.size());
+  AssignUtf8(out, utf8);
+  return out;
+}
+
+void AssignUtf8(std::wstring& out, std::string_view utf8) {
+  out.resize(utf8.size());  // no text has more characters than bytes
+  wchar_t* to = out.data();
   for (std::size_t at = 0; at < utf8.size();) {
-    const std::size_t run = AsciiRun(utf8, at);
-    for (std::size_t i = 0; i < run; ++i) out += static_cast<wchar_t>(utf8[at + i]);
-    at += run;
-    if (at >= utf8.size()) break;
+    if (IsAsciiWord(utf8, at)) {
+      for (std::size_t i = 0; i < 8; ++i) to[i] = static_cast<wchar_t>(utf8[at + i]);
+      to += 8;
+      at += 8;
+      continue;
+    }
     const Decoded one = DecodeOne(utf8, at);
-    out += static_cast<wchar_t>(one.code);
+    *to++ = static_cast<wchar_t>(one.code);
     at += one.length;
   }
-  return out;
+  out.resize(static_cast<std::size_t>(to - out.data()));
 }
 
 std::string ToUtf8(std::wstring_view text) {
@@ -110,8 +114,10 @@ std::string ToUtf8(std::wstring_view text) {
 
 std::size_t FindInvalidUtf8(std::string_view bytes) {
   for (std::size_t at = 0; at < bytes.size();) {
-    at += AsciiRun(bytes, at);
-    if (at >= bytes.size()) break;
+    if (IsAsciiWord(bytes, at)) {
+      at += 8;
+      continue;
+    }
     const Decoded one = DecodeOne(bytes, at);
     if (!one.valid) return at;
     at += one.length;

@@ -9,6 +9,8 @@ namespace xrpt {
 
 // Malformed sequences, surrogates and code points above U+10FFFF each become U+FFFD; nothing is ever dropped silently.
 std::wstring FromUtf8(std::string_view utf8);
+// The same into a string whose room is used again.
+void AssignUtf8(std::wstring& out, std::string_view utf8);
 std::string ToUtf8(std::wstring_view text);
 void AppendUtf8(std::string& out, char32_t code);
 

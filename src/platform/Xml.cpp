@@ -3,6 +3,8 @@
 #include "platform/Xml.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 #include <pugixml.hpp>
 
 #include "platform/Host.h"
@@ -20,40 +22,56 @@ bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_el
 
 bool IsText(const pugi::xml_node& node) { return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata; }
 
+// The parser's calls are all out of line, so what is asked for every node is asked once.
 pugi::xml_node SkipToElement(pugi::xml_node node) {
-  while (node && !IsElement(node)) node = node.next_sibling();
-  return node;
+  for (;;) {
+    const pugi::xml_node_type type = node.type();
+    if (type == pugi::node_element || type == pugi::node_null) return node;
+    node = node.next_sibling();
+  }
+}
+
+bool HasName(const pugi::xml_node& node, std::string_view tag) {
+  const char* name = node.name();
+  return std::strncmp(name, tag.data(), tag.size()) == 0 && name[tag.size()] == '\0';
 }
 
 pugi::xml_node ElementNamed(const pugi::xml_node& parent, std::string_view tag) {
   pugi::xml_node child = SkipToElement(parent.first_child());
-  while (child && tag != child.name()) child = SkipToElement(child.next_sibling());
+  while (child && !HasName(child, tag)) child = SkipToElement(child.next_sibling());
   return child;
 }
 
-// The next node of a walk over a whole tree, without recursion; `depth` follows.
-pugi::xml_node NextInTree(pugi::xml_node node, const pugi::xml_node& top, int& depth) {
-  if (node.first_child()) {
-    ++depth;
-    return node.first_child();
-  }
-  while (node != top && !node.next_sibling()) {
-    node = node.parent();
-    --depth;
-  }
-  return node == top ? pugi::xml_node() : node.next_sibling();
+// Walks without recursion, and stops at the first node that is too deep.
+class DepthCheck final : public pugi::xml_tree_walker {
+ public:
+  bool for_each(pugi::xml_node&) override { return depth() < XmlDocument::kMaxDepth; }
+};
+
+bool IsTooDeep(pugi::xml_document& document) {
+  DepthCheck check;
+  return !document.traverse(check);
 }
 
-bool IsTooDeep(const pugi::xml_node& top) {
-  int depth = 0;
-  for (pugi::xml_node node = top; node; node = NextInTree(node, top, depth)) {
-    if (depth > XmlDocument::kMaxDepth) return true;
+// Eight bytes at a time.
+std::size_t CountBrackets(std::string_view text) {
+  constexpr std::uint64_t kLow = 0x7F7F7F7F7F7F7F7Full;
+  constexpr std::uint64_t kBrackets = 0x3C3C3C3C3C3C3C3Cull;
+  std::size_t count = 0;
+  std::size_t at = 0;
+  for (; at + 8 <= text.size(); at += 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + at, 8);
+    word ^= kBrackets;
+    const std::uint64_t zeros = ~(((word & kLow) + kLow) | word | kLow);  // the top bit of each byte that was one
+    count += static_cast<std::size_t>(std::popcount(zeros));
   }
-  return false;
+  return count + static_cast<std::size_t>(std::count(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), '<'));
 }
 
-std::size_t CountElements(std::string_view text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '<'));
+// An element takes four bytes at least, so that most texts need not be counted.
+bool HasTooManyElements(std::string_view text) {
+  return text.size() / 4 > XmlDocument::kMaxElements && CountBrackets(text) > 2 * XmlDocument::kMaxElements;
 }
 
 // A UTF-16 or UTF-32 byte order mark; the parser converts such texts itself.
@@ -68,13 +86,13 @@ bool DeclaresLatin1(std::string_view text) {
 
 XmlError CheckBytes(std::string_view text) {
   if (text.size() > XmlDocument::kMaxBytes) return {"the document is too large", XmlDocument::kMaxBytes};
-  if (CountElements(text) > 2 * XmlDocument::kMaxElements) return {"the document has too many elements", 0};
+  if (HasTooManyElements(text)) return {"the document has too many elements", 0};
   if (HasWideMark(text) || DeclaresLatin1(text)) return {};
   const std::size_t bad = FindInvalidUtf8(text);
   return bad == std::string_view::npos ? XmlError{} : XmlError{"a byte that is not UTF-8", bad};
 }
 
-XmlError CheckTree(const pugi::xml_document& document) {
+XmlError CheckTree(pugi::xml_document& document) {
   int roots = 0;
   for (const pugi::xml_node& node : document.children()) roots += IsElement(node) ? 1 : 0;
   if (roots == 0) return {"no root element", 0};
@@ -83,8 +101,18 @@ XmlError CheckTree(const pugi::xml_document& document) {
   return {};
 }
 
-// The parser frees a deep tree without recursion only as a whole, which is what dropping the document does.
-constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_ws_pcdata_single;
+// Up to four bytes of a name, the rest zero.
+std::uint32_t HeadOf(const char* name) {
+  std::uint32_t head = 0;
+  for (std::size_t i = 0; i < 4 && name[i] != '\0'; ++i) {
+    head |= static_cast<std::uint32_t>(static_cast<unsigned char>(name[i])) << (8 * i);
+  }
+  return head;
+}
+
+// The parser frees a deep tree without recursion only as a whole, which is what dropping the document does. An
+// element's first text is kept in the element itself, which halves the nodes of our files.
+constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
 
 }  // namespace
 
@@ -123,10 +151,12 @@ std::wstring XmlNode::Value(std::string_view path, std::wstring_view missing) co
 std::string_view XmlNode::RawText() const { return Wrap(node_).child_value(); }
 
 std::string_view XmlNode::WholeText(std::string& joined) const {
-  const pugi::xml_node first = Wrap(node_).first_child();
-  if (!first) return {};
-  if (!first.next_sibling() && IsText(first)) return first.value();
-  joined.clear();
+  const pugi::xml_node node = Wrap(node_);
+  const char* own = node.value();
+  const pugi::xml_node first = node.first_child();
+  if (!first) return own;
+  if (*own == '\0' && IsText(first) && !first.next_sibling()) return first.value();
+  joined = own;
   for (pugi::xml_node piece = first; piece; piece = piece.next_sibling()) {
     if (IsText(piece)) joined += piece.value();
   }
@@ -147,7 +177,7 @@ void XmlNode::SetText(std::wstring_view text) {
     if (IsText(piece)) node.remove_child(piece);
     piece = next;
   }
-  if (!text.empty()) node.append_child(pugi::node_pcdata).set_value(ToUtf8(text).c_str());
+  if (!text.empty() || *node.value() != '\0') node.text().set(ToUtf8(text).c_str());
 }
 
 XmlNode XmlNode::NewChild(std::string_view tag) {
@@ -159,6 +189,7 @@ XmlNode XmlNode::NewChild(std::string_view tag) {
 bool XmlNode::Remove(XmlNode child) { return Wrap(node_).remove_child(Wrap(child.node_)); }
 
 void XmlNode::Clear() {
+  SetText({});
   while (Wrap(node_).remove_child(Wrap(node_).first_child())) {
   }
 }
@@ -168,6 +199,7 @@ void XmlNode::Assign(const XmlNode& other) {
   pugi::xml_node node = Wrap(node_);
   node.remove_attributes();
   for (const pugi::xml_attribute& attribute : Wrap(other.node_).attributes()) node.append_copy(attribute);
+  if (const char* own = Wrap(other.node_).value(); *own != '\0') node.text().set(own);
   for (const pugi::xml_node& child : Wrap(other.node_).children()) node.append_copy(child);
 }
 
@@ -200,12 +232,28 @@ XmlNode::Iterator XmlNode::Iterator::operator++(int) {
   return before;
 }
 
-XmlCursor::XmlCursor(const XmlNode& parent) : next_(parent.FirstChild()) {}
+// Only elements have a name. What lies beyond `count_` is left unset.
+XmlCursor::XmlCursor(const XmlNode& parent) {
+  pugi::xml_node child = Wrap(parent.node_).first_child();
+  for (; count_ < kAtHand; child = child.next_sibling()) {
+    const char* name = child.name();
+    if (*name != '\0') {
+      children_[count_++] = {HeadOf(name), name, child.internal_object()};
+    } else if (!child) {
+      return;
+    }
+  }
+  rest_ = XmlNode(SkipToElement(child).internal_object());
+}
 
-XmlNode XmlCursor::Find(std::string_view tag) {
-  XmlNode child = next_;
-  while (child && child.Tag() != tag) child = child.NextSibling();
-  if (child && child == next_) next_ = child.NextSibling();
+XmlNode XmlCursor::Find(const XmlName& tag) {
+  for (std::size_t i = next_; i < count_; ++i) {
+    if (!tag.Is(children_[i].name, children_[i].head)) continue;
+    if (i == next_) ++next_;
+    return XmlNode(children_[i].node);
+  }
+  XmlNode child = rest_;
+  while (child && !HasName(Wrap(child.node_), tag.text)) child = child.NextSibling();
   return child;
 }
 
@@ -281,19 +329,15 @@ void XmlWriter::Attributes(const XmlNode& node) {
 void XmlWriter::Copy(std::string_view tag, const XmlNode& node) {
   Start(tag);
   Attributes(node);
-  bool text = false;
-  for (const pugi::xml_node& child : Wrap(node.node_).children()) {
-    if (IsText(child)) {
-      CloseTag();
-      Text(child.value());
-      text = true;
-    }
+  std::string joined;
+  const std::string_view text = node.WholeText(joined);
+  if (!text.empty()) {
+    CloseTag();
+    Text(text);
   }
-  if (text && !node.FirstChild()) {
-    EndInline(tag);
-    return;
-  }
-  for (const XmlNode& child : node) Copy(child.Tag(), child);
+  const XmlNode first = node.FirstChild();
+  if (!text.empty() && !first) return EndInline(tag);
+  for (XmlNode child = first; child; child = child.NextSibling()) Copy(child.Tag(), child);
   End(tag);
 }
 

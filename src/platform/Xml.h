@@ -2,7 +2,9 @@
 // Tags and paths are UTF-8; values are wide strings, or UTF-8 views where speed counts.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <iterator>
 #include <memory>
@@ -95,15 +97,46 @@ class XmlNode::Iterator {
   XmlNode at_;
 };
 
-// Looks up the children of one element in the order in which the saver writes them: each look-up starts where the last
-// one ended, so that reading a card costs one pass. Among children of one name the first counts.
+// A name to look for, made ready once: its first four bytes tell most names apart.
+struct XmlName {
+  std::string_view text;
+  std::uint32_t head = 0;
+
+  XmlName() = default;
+  constexpr XmlName(const char* name) : XmlName(std::string_view(name ? name : "")) {}
+  constexpr XmlName(std::string_view name) : text(name) {
+    for (std::size_t i = 0; i < name.size() && i < 4; ++i) {
+      head |= static_cast<std::uint32_t>(static_cast<unsigned char>(name[i])) << (8 * i);
+    }
+  }
+  // Whether this is the given name, which ends with a zero byte and whose first four bytes are `otherHead`.
+  bool Is(const char* other, std::uint32_t otherHead) const {
+    if (head != otherHead) return false;
+    std::size_t at = 4;
+    while (at < text.size() && text[at] == other[at]) ++at;
+    return at > text.size() || (at == text.size() && other[at] == '\0');
+  }
+};
+
+// Looks up the children of one element, which it goes through once. Among children of one name the first counts; names
+// asked for in the order of the file are found at once.
 class XmlCursor {
  public:
   explicit XmlCursor(const XmlNode& parent);
-  XmlNode Find(std::string_view tag);
+  XmlNode Find(const XmlName& tag);
 
  private:
-  XmlNode next_;  // every child before this one was found under another name
+  struct Child {
+    std::uint32_t head;
+    const char* name;
+    void* node;
+  };
+  static constexpr std::size_t kAtHand = 48;
+
+  std::array<Child, kAtHand> children_;  // the first `count_` are set
+  std::size_t count_ = 0;
+  std::size_t next_ = 0;  // every child before this one was found under another name
+  XmlNode rest_;          // the first child that found no place
 };
 
 class XmlDocument {

@@ -11,7 +11,15 @@ bool IsXmlCharacter(char32_t c) {
          (c >= 0x10000 && c <= 0x10FFFF);
 }
 
-bool IsOrdinary(char32_t c) { return c >= 0x20 && c < 0x7F && c != '<' && c != '>' && c != '&' && c != '"'; }
+constexpr bool IsOrdinary(char32_t c) { return c >= 0x20 && c < 0x7F && c != '<' && c != '>' && c != '&' && c != '"'; }
+
+// Length of the run of characters from `at` on that are written as they stand.
+template <class Char>
+std::size_t OrdinaryRun(std::basic_string_view<Char> text, std::size_t at) {
+  std::size_t end = at;
+  while (end < text.size() && IsOrdinary(static_cast<char32_t>(text[end]))) ++end;
+  return end - at;
+}
 
 }  // namespace
 
@@ -65,7 +73,7 @@ void XmlWriter::Value(std::string_view name, std::wstring_view text) {
     return;
   }
   CloseTag();
-  for (wchar_t c : text) Character(static_cast<char32_t>(c));
+  Text(text);
   EndInline(name);
 }
 
@@ -102,8 +110,21 @@ void XmlWriter::Character(char32_t code) {
   }
 }
 
+void XmlWriter::Text(std::wstring_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t run = OrdinaryRun(text, at);
+    const std::size_t before = out_.size();
+    out_.resize(before + run);
+    for (std::size_t i = 0; i < run; ++i) out_[before + i] = static_cast<char>(text[at + i]);
+    at += run;
+    if (at < text.size()) Character(static_cast<char32_t>(text[at]));
+  }
+}
+
 void XmlWriter::Text(std::string_view utf8) {
-  for (wchar_t c : FromUtf8(utf8)) Character(static_cast<char32_t>(c));
+  const std::size_t run = OrdinaryRun(utf8, 0);
+  out_ += utf8.substr(0, run);
+  if (run < utf8.size()) Text(std::wstring_view(FromUtf8(utf8.substr(run))));
 }
 
 }  // namespace xrpt

@@ -33,6 +33,7 @@ class XmlWriter {
   // Closes the start tag that is still open, when there is one.
   void CloseTag();
   void Attributes(const XmlNode& node);
+  void Text(std::wstring_view text);
   void Text(std::string_view utf8);
   void Character(char32_t code);
 

@@ -3,11 +3,29 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "editor/RVEditControlWnd.h"
 #include "host/DefaultHost.h"
 #include "platform/NamedFiles.h"
 #include "platform/Text.h"
 
 namespace xrpt {
+namespace {
+
+// The file itself, or the one of that name in the configuration folder.
+Path FileOf(const CommonOptions& options) {
+  const Path file = options.report;
+  if (CurrentHost().files->Stamp(file).exists) return file;
+  return FindNamedFile(ConfigFolderOf(options), FromUtf8(options.report), kReportEnding).value_or(file);
+}
+
+bool IsLoaded(const LoadResult& result) {
+  if (result.loaded) return true;
+  const std::string place = result.error.offset ? " at byte " + std::to_string(result.error.offset) : "";
+  PrintError(result.file.string(), result.error.message + place);
+  return false;
+}
+
+}  // namespace
 
 void CommonOptions::AddReport(CLI::App& command) {
   command.add_option("REPORT", report, "A report file, or a report's name in the configuration folder")->required();
@@ -54,17 +72,12 @@ HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), f
 HostSession::~HostSession() { InstallHost(former_); }
 
 bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report) {
-  Path file = options.report;
-  if (!CurrentHost().files->Stamp(file).exists) {
-    const auto named = FindNamedFile(ConfigFolderOf(options), FromUtf8(options.report), kReportEnding);
-    if (named) file = *named;
-  }
   const std::wstring asked = FromUtf8(name);
-  const LoadResult result = report.LoadFile(file, name.empty() ? nullptr : &asked);
-  if (result.loaded) return true;
-  PrintError(file.string(),
-             result.error.message + (result.error.offset ? " at byte " + std::to_string(result.error.offset) : ""));
-  return false;
+  return IsLoaded(report.LoadFile(FileOf(options), name.empty() ? nullptr : &asked));
+}
+
+bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options) {
+  return IsLoaded(frame.OpenFile(FileOf(options), nullptr));
 }
 
 void PrintError(const std::string& file, const std::string& reason) {

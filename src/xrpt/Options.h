@@ -13,6 +13,8 @@ class App;
 
 namespace xrpt {
 
+class RVEditControlWnd;
+
 // The exit status of every subcommand.
 enum ExitStatus { kNothingToReport = 0, kFindings = 1, kCouldNotRun = 2 };
 
@@ -52,6 +54,8 @@ Path ImagesFolderOf(const CommonOptions& options);
 // Opens the report of the options; under `name` when one is given. False, and a line on standard error, when there is
 // no such file or it cannot be read.
 bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report);
+// The same in an editor's frame, under the stored name.
+bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options);
 
 // "xrpt: FILE: REASON" on standard error.
 void PrintError(const std::string& file, const std::string& reason);

@@ -17,6 +17,7 @@ int Run(int argc, char** argv) {
       "\"xrpt COMMAND --help\" shows a command's options and examples.");
   int status = xrpt::kNothingToReport;
   xrpt::AddResave(program, status);
+  xrpt::AddEdit(program, status);
   xrpt::AddRender(program, status);
   try {
     program.parse(argc, argv);

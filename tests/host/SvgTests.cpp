@@ -5,6 +5,7 @@
 
 #include "host/PngEncoder.h"
 #include "host/SvgGraphics.h"
+#include "platform/Base64.h"
 #include "platform/Xml.h"
 #include "support/TestHost.h"
 

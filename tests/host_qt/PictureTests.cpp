@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include "host/PngEncoder.h"
+#include "platform/Base64.h"
 #include "host/qt/QtHost.h"
 #include "host/qt/QtPictures.h"
 

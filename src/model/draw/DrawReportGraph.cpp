@@ -1,4 +1,6 @@
 // Report graphs: the ground, the legend, and the plots in what is left.
+#include <algorithm>
+
 #include "model/RVCardReportGraph.h"
 #include "model/draw/GraphLegend.h"
 
@@ -9,7 +11,9 @@ constexpr double kMargin = 4.0;
 constexpr double kLegendShare = 0.34;   // of the height, at most
 constexpr double kLegendBeside = 0.45;  // of the width, at most
 constexpr double kPlotGap = 4.0;
-constexpr double kWide = 1.25;  // a frame that is this much wider than high has its legend beside the pie
+constexpr double kLowest = 3.4;      // lines of text high, a plot can be read
+constexpr double kNarrowest = 12.0;  // and so many wide
+constexpr double kWide = 1.25;       // a frame that is this much wider than high has its legend beside the pie
 
 class GraphPainter {
  public:
@@ -84,29 +88,78 @@ class GraphPainter {
 
   // Plots against time one under the other, pies side by side in a row below them.
   void PaintPlots() {
-    const auto pies =
-        static_cast<double>(std::count_if(plots_.begin(), plots_.end(), [](const Plot& p) { return p.isPie; }));
-    const double rows = static_cast<double>(plots_.size()) - pies + (pies > 0.0 ? 1.0 : 0.0);
-    const double height = (frame_.Height() - kPlotGap * (rows - 1.0)) / rows;
-    const double width = pies > 0.0 ? frame_.Width() / pies : 0.0;
-    double row = 0.0;
-    double pie = 0.0;
-    for (const Plot& plot : plots_) {
-      const double top = frame_.top + (plot.isPie ? rows - 1.0 : row) * (height + kPlotGap);
-      if (plot.isPie) {
-        const double left = frame_.left + width * pie++;
-        DrawPie(canvas_, SlicesOf(plot, series_, canvas_.periods), {left, top, left + width, top + height});
-      } else {
-        PaintTimePlot(plot, {frame_.left, top, frame_.right, top + height});
-        row += 1.0;
-      }
+    const auto pies = static_cast<std::size_t>(
+        std::count_if(plots_.begin(), plots_.end(), [](const Plot& plot) { return plot.isPie; }));
+    const std::size_t timePlots = plots_.size() - pies;
+    const double rows = static_cast<double>(timePlots) + (pies > 0 ? 1.0 : 0.0);
+    RectD timeFrame = frame_;
+    timeFrame.bottom -= pies > 0 ? (frame_.Height() + kPlotGap) / rows : 0.0;
+    if (timePlots > 0) PaintTimePlots(timeFrame, timePlots);
+    if (pies > 0) {
+      PaintPies(
+          {frame_.left, frame_.bottom - (frame_.Height() + kPlotGap) / rows + kPlotGap, frame_.right, frame_.bottom},
+          pies);
     }
   }
 
-  void PaintTimePlot(const Plot& plot, const RectD& frame) const {
+  // Plots too low to be read go into columns, as long as they stay wide enough.
+  std::size_t ColumnsFor(const RectD& frame, std::size_t count) const {
+    std::size_t columns = 1;
+    const auto rows = [count](std::size_t n) { return static_cast<double>((count + n - 1) / n); };
+    while (columns < count && frame.Height() / rows(columns) < kLowest * canvas_.lineHeight &&
+           frame.Width() / static_cast<double>(columns + 1) > kNarrowest * canvas_.lineHeight) {
+      ++columns;
+    }
+    return columns;
+  }
+
+  // The names of the periods stand once, under the last plot of a column, which is so much higher.
+  std::vector<TimePlotFrame> TimeFrames(const RectD& frame, std::size_t count) const {
+    const std::size_t columns = ColumnsFor(frame, count);
+    const std::size_t rows = (count + columns - 1) / columns;
+    const double names = canvas_.card.hideXAxisLabels ? 0.0 : canvas_.lineHeight;
+    const double height = (frame.Height() - names + kPlotGap) / static_cast<double>(rows);
+    const double width = (frame.Width() + kPlotGap) / static_cast<double>(columns);
+    std::vector<TimePlotFrame> frames;
+    for (std::size_t i = 0; i < count; ++i) {
+      const double left = frame.left + static_cast<double>(i / rows) * width;
+      const double top = frame.top + static_cast<double>(i % rows) * height;
+      const bool last = (i + 1) % rows == 0 || i + 1 == count;
+      const double bottom = top + height - kPlotGap + (last ? names : 0.0);
+      frames.push_back({{left, top, left + width - kPlotGap, bottom}, last, 0.0});
+    }
+    return frames;
+  }
+
+  void PaintTimePlots(const RectD& frame, std::size_t count) const {
+    std::vector<TimePlotFrame> frames = TimeFrames(frame, count);
+    std::vector<std::vector<const GraphSeries*>> series;
+    double axis = 0.0;
+    for (const Plot& plot : plots_) {
+      if (plot.isPie) continue;
+      series.push_back(SeriesIn(plot));
+      axis = std::max(axis, LeftAxisWidth(canvas_, series.back(), frames[series.size() - 1]));
+    }
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+      frames[i].leastAxis = axis;
+      DrawTimePlot(canvas_, series[i], frames[i]);
+    }
+  }
+
+  std::vector<const GraphSeries*> SeriesIn(const Plot& plot) const {
     std::vector<const GraphSeries*> shown;
     for (std::size_t i : plot.series) shown.push_back(&series_[i]);
-    DrawTimePlot(canvas_, shown, frame);
+    return shown;
+  }
+
+  void PaintPies(const RectD& frame, std::size_t count) const {
+    const double width = frame.Width() / static_cast<double>(count);
+    double left = frame.left;
+    for (const Plot& plot : plots_) {
+      if (!plot.isPie) continue;
+      DrawPie(canvas_, SlicesOf(plot, series_, canvas_.periods), {left, frame.top, left + width, frame.bottom});
+      left += width;
+    }
   }
 
   const GraphCanvas& canvas_;

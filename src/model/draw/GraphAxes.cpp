@@ -1,67 +1,82 @@
 #include "model/draw/GraphAxes.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace xrpt {
 namespace {
 
 // A series that fills less of an axis than this reads better on one of its own.
 constexpr double kFairPart = 0.3;
+// Series this many times smaller than their neighbours would lie flat on the ground.
+constexpr double kComparable = 10.0;
 // Values that start within this part of their height above 0 are shown from 0.
 constexpr double kNearZero = 0.4;
 
 struct Group {
+  bool isFixed = false;  // both ends stand
   std::optional<double> fixedLow;
   std::optional<double> fixedHigh;
   double low = 0.0;
   double high = 0.0;
   bool used = false;
   bool fromZero = false;  // has bars, which stand on 0
-
-  bool IsFixed() const { return fixedLow && fixedHigh; }
-  void Take(const GraphSeries& series) {
-    const auto [least, most] = std::minmax_element(series.values.begin(), series.values.end());
-    low = used ? std::min(low, *least) : *least;
-    high = used ? std::max(high, *most) : *most;
-    used = true;
-    fromZero = fromZero || series.type == SeriesType::Bar;
-  }
 };
 
-bool HasEndsOf(const Group& group, const GraphSeries& series) {
-  return group.fixedLow == series.low && group.fixedHigh == series.high;
+std::pair<double, double> ExtentOf(const GraphSeries& series) {
+  const auto [least, most] = std::minmax_element(series.values.begin(), series.values.end());
+  return {*least, *most};
+}
+
+double Magnitude(double low, double high) { return std::max(std::abs(low), std::abs(high)); }
+
+// An end that one series fixes stands for all that share the axis, if none of them goes beyond it.
+void Take(Group& group, const GraphSeries& series) {
+  const auto [least, most] = ExtentOf(series);
+  group.low = group.used ? std::min(group.low, least) : least;
+  group.high = group.used ? std::max(group.high, most) : most;
+  if (series.low) group.fixedLow = std::min(*series.low, group.fixedLow.value_or(*series.low));
+  if (series.high) group.fixedHigh = std::max(*series.high, group.fixedHigh.value_or(*series.high));
+  group.used = true;
+  group.fromZero = group.fromZero || series.type == SeriesType::Bar;
 }
 
 bool FillsFairly(const GraphSeries& series, const Group& group) {
-  if (!group.IsFixed() || series.low || series.high) return false;
-  const auto [least, most] = std::minmax_element(series.values.begin(), series.values.end());
+  if (series.low || series.high) return false;
+  const auto [least, most] = ExtentOf(series);
   const double height = *group.fixedHigh - *group.fixedLow;
-  return *least >= *group.fixedLow && *most <= *group.fixedHigh && *most - *group.fixedLow >= height * kFairPart;
+  return least >= *group.fixedLow && most <= *group.fixedHigh && most - *group.fixedLow >= height * kFairPart;
+}
+
+bool Suits(const GraphSeries& series, const Group& group) {
+  const bool isFixed = series.low && series.high;
+  if (group.isFixed && isFixed) return group.fixedLow == series.low && group.fixedHigh == series.high;
+  if (group.isFixed) return FillsFairly(series, group);
+  const auto [least, most] = ExtentOf(series);
+  const double own = Magnitude(least, most);
+  const double theirs = Magnitude(group.low, group.high);
+  return !isFixed && own <= theirs * kComparable && theirs <= own * kComparable;
 }
 
 std::size_t GroupFor(std::vector<Group>& groups, const GraphSeries& series) {
   for (std::size_t i = 0; i < groups.size(); ++i) {
-    if (HasEndsOf(groups[i], series) || FillsFairly(series, groups[i])) return i;
+    if (Suits(series, groups[i])) return i;
   }
   if (groups.size() < 2) {
-    groups.push_back({series.low, series.high});
+    groups.emplace_back().isFixed = series.low && series.high;
     return groups.size() - 1;
   }
-  // The second axis now serves strangers, so none of them fixes it.
-  for (double end : {groups[1].fixedLow.value_or(0.0), groups[1].fixedHigh.value_or(0.0)}) {
-    groups[1].low = std::min(groups[1].low, end);
-    groups[1].high = std::max(groups[1].high, end);
-  }
-  groups[1].fixedLow = groups[1].fixedHigh = std::nullopt;
+  groups[1].isFixed = false;
   return 1;
 }
 
 AxisScale ScaleOf(const Group& group, int mostTicks) {
-  const double height = group.high - std::min(group.low, 0.0);
-  const bool toZero = group.low > 0.0 && (group.fromZero || group.low < height * kNearZero);
-  const double low = group.fixedLow.value_or(toZero ? 0.0 : group.low);
-  const double high = group.fixedHigh.value_or(group.high);
-  return MakeAxisScale(low, high, mostTicks, group.fixedLow.has_value(), group.fixedHigh.has_value());
+  const bool lowStands = group.fixedLow && (group.isFixed || *group.fixedLow <= group.low);
+  const bool highStands = group.fixedHigh && (group.isFixed || *group.fixedHigh >= group.high);
+  const bool toZero = group.low > 0.0 && (group.fromZero || group.low < group.high * kNearZero);
+  const double low = lowStands ? *group.fixedLow : (toZero ? 0.0 : group.low);
+  const double high = highStands ? *group.fixedHigh : group.high;
+  return MakeAxisScale(low, high, mostTicks, lowStands, highStands);
 }
 
 }  // namespace
@@ -77,9 +92,9 @@ GraphAxes AxesOf(const std::vector<const GraphSeries*>& series, int mostTicks) {
   axes.axisOf.resize(series.size());
   for (std::size_t i : order) {
     axes.axisOf[i] = GroupFor(groups, *series[i]);
-    groups[axes.axisOf[i]].Take(*series[i]);
+    Take(groups[axes.axisOf[i]], *series[i]);
   }
-  if (groups.empty()) groups.push_back({0.0, 1.0});
+  if (groups.empty()) groups.emplace_back();
   for (const Group& group : groups) axes.scales.push_back(ScaleOf(group, mostTicks));
   // The first series' axis stands on the left.
   if (axes.scales.size() == 2 && axes.axisOf[0] == 1) {

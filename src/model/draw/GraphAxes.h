@@ -13,8 +13,8 @@ struct GraphAxes {
   std::vector<std::size_t> axisOf;  // of each series
 };
 
-// Series without ends of their own share an axis, and so do series with the same fixed ends. Free ones use a fixed axis
-// when they fill a fair part of it. What would need a third axis shares the second, which then covers both.
+// Series with the same two fixed ends share an axis, and so do all others of comparable size. Free ones use a fixed
+// axis when they fill a fair part of it. What would need a third axis shares the second, which then covers both.
 GraphAxes AxesOf(const std::vector<const GraphSeries*>& series, int mostTicks);
 
 }  // namespace xrpt

@@ -33,4 +33,16 @@ void GraphCanvas::Text(std::wstring_view text, double left, double middle, Color
   DrawTextLine(graphics, area, font, color, line);
 }
 
+void GraphCanvas::UpwardText(std::wstring_view text, PointD middle) const {
+  const GraphicsState state(graphics);
+  const PointD center = area.ToDevice(middle);
+  graphics.Translate(center.x, center.y);
+  graphics.Rotate(90.0);
+  CardArea origin = area;
+  origin.device = {};
+  const double width = Width(text);
+  const TextLine line{std::wstring(text), -width * 0.5, ascent - lineHeight * 0.5, width};
+  DrawTextLine(graphics, origin, font, card.fontColor, line);
+}
+
 }  // namespace xrpt

@@ -18,6 +18,9 @@ struct GraphCanvas {
   void Text(std::wstring_view text, double left, double middle, Color color) const;
   void Text(std::wstring_view text, double left, double middle) const { Text(text, left, middle, card.fontColor); }
 
+  // A line of text turned to read upwards, its middle given.
+  void UpwardText(std::wstring_view text, PointD middle) const;
+
   Graphics& graphics;
   const RVCardReportGraph& card;
   const CardArea& area;
@@ -35,8 +38,17 @@ void DrawMarker(const GraphCanvas& canvas, const GraphSeries& series, std::int32
 // A stretch of a series' line with its sign, for the legend: `length` long from the left end.
 void DrawLineKey(const GraphCanvas& canvas, const GraphSeries& series, PointD left, double length);
 
-// Lines, bars and points against time inside the frame.
-void DrawTimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series, const RectD& frame);
+// Lines, bars and points against time inside the frame. Of plots one under the other the last names the periods, and
+// all make as much room for their left axis.
+struct TimePlotFrame {
+  RectD rect;
+  bool namesPeriods = true;
+  double leastAxis = 0.0;
+};
+void DrawTimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series, const TimePlotFrame& frame);
+// What its left axis takes by itself.
+double LeftAxisWidth(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series,
+                     const TimePlotFrame& frame);
 
 // A pie in the middle of the frame.
 void DrawPie(const GraphCanvas& canvas, const std::vector<PieSlice>& slices, const RectD& frame);

@@ -11,7 +11,7 @@ struct LegendEntry {
   const GraphSeries* series = nullptr;  // shown by its line or sign; without one by a block of colour
 };
 
-// Entries flow into rows as wide as the frame; those that find no room are left out, and long ones shortened.
+// Rows of as many columns as fit; entries that find no room are left out, and long ones shortened.
 class Legend {
  public:
   Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, SizeD most);
@@ -29,6 +29,7 @@ class Legend {
 
   const GraphCanvas& canvas_;
   std::vector<Placed> placed_;
+  double key_ = 0.0;  // length of a key
   double width_ = 0.0;
   double height_ = 0.0;
 };

@@ -6,10 +6,7 @@ namespace {
 
 enum Marker { kPoint, kCircle5, kBox5, kDiamond5, kCross5, kPlus5, kCross3, kPlus3 };
 
-double SizeOf(std::int32_t marker) {
-  if (marker == kPoint) return 2.0;
-  return marker == kCross3 || marker == kPlus3 ? 3.0 : 5.0;
-}
+double SizeOf(std::int32_t marker) { return marker == kPoint || marker == kCross3 || marker == kPlus3 ? 3.0 : 5.0; }
 
 void DrawCross(const GraphCanvas& canvas, const RectD& box, const Pen& pen) {
   canvas.graphics.DrawLine({box.left, box.top}, {box.right, box.bottom}, pen);

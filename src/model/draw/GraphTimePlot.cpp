@@ -34,17 +34,22 @@ bool Overlap(const RectD& a, const RectD& b) {
 
 class TimePlot {
  public:
-  TimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series, const RectD& frame)
-      : canvas_(canvas), series_(series), frame_(frame), count_(canvas.periods.size()) {
+  TimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series, const TimePlotFrame& frame)
+      : canvas_(canvas),
+        series_(series),
+        frame_(frame.rect),
+        leastAxis_(frame.leastAxis),
+        namesPeriods_(frame.namesPeriods && !canvas.card.hideXAxisLabels),
+        count_(canvas.periods.size()) {
     PlaceRows();
-    axes_ = AxesOf(series, static_cast<int>(plot_.Height() / (canvas.lineHeight * 1.7)) + 1);
+    axes_ = AxesOf(series, static_cast<int>(plot_.Height() / (canvas.lineHeight * 2.1)) + 1);
     PlaceColumns();
   }
 
   void Draw() {
     DrawGrid();
     for (std::size_t axis = 0; axis < axes_.scales.size(); ++axis) DrawAxisLabels(axis);
-    if (!canvas_.card.hideXAxisLabels) DrawPeriodLabels();
+    if (namesPeriods_) DrawPeriodLabels();
     {
       const GraphicsState state(canvas_.graphics);
       canvas_.graphics.ClipRect(canvas_.area.ToDevice(
@@ -59,17 +64,18 @@ class TimePlot {
  private:
   // Room above and below: half a label of the topmost tick, value texts, the periods.
   void PlaceRows() {
-    const bool small = frame_.Height() < canvas_.lineHeight * 4.0;
+    const double periods = namesPeriods_ ? canvas_.lineHeight : 0.0;
+    const bool small = frame_.Height() < canvas_.lineHeight * 1.8 + periods;
     labelled_ = !small && frame_.Width() > canvas_.lineHeight * 5.0;
     plot_ = frame_;
     plot_.top += canvas_.card.viewTexts ? canvas_.lineHeight : canvas_.lineHeight * 0.5;
-    plot_.bottom -= labelled_ && !canvas_.card.hideXAxisLabels ? canvas_.lineHeight + kTick + 1.0 : kTick;
+    plot_.bottom -= labelled_ && namesPeriods_ ? canvas_.lineHeight + kTick + 1.0 : kTick;
     if (labelled_) plot_.bottom = std::min(plot_.bottom, frame_.bottom - canvas_.lineHeight * 0.5);
     plot_.bottom = std::max(plot_.bottom, plot_.top + 1.0);
   }
 
   void PlaceColumns() {
-    plot_.left += AxisWidth(0);
+    plot_.left += std::max(AxisWidth(0), leastAxis_);
     plot_.right -= axes_.scales.size() > 1 ? AxisWidth(1) : kGap;
     const bool squeezed = plot_.Width() < frame_.Width() * 0.4;
     if (!squeezed) return;
@@ -78,12 +84,15 @@ class TimePlot {
     plot_.right = std::max(frame_.right - kTick, plot_.left + 1.0);
   }
 
+ public:
   double AxisWidth(std::size_t axis) const {
     if (!labelled_) return kTick;
     double width = 0.0;
     for (double tick : axes_.scales[axis].Ticks()) width = std::max(width, canvas_.Width(TickText(axis, tick)));
     return width + kTick + kGap;
   }
+
+ private:
   std::wstring TickText(std::size_t axis, double tick) const {
     return canvas_.Number(tick, axes_.scales[axis].decimals);
   }
@@ -123,10 +132,12 @@ class TimePlot {
     const Pen pen = canvas_.PenOf(canvas_.card.foregroundColor, 0.5);
     const double edge = axis == 0 ? plot_.left : plot_.right;
     const double out = axis == 0 ? -1.0 : 1.0;
+    double free = frame_.bottom + 1.0;  // above it nothing is written yet
     for (double tick : axes_.scales[axis].Ticks()) {
       const double y = Y(axis, tick);
       Line(std::min(edge, edge + out * kTick), y, std::max(edge, edge + out * kTick), y, pen);
-      if (!labelled_) continue;
+      if (!labelled_ || y + canvas_.lineHeight * 0.45 > free) continue;
+      free = y - canvas_.lineHeight * 0.45;
       const std::wstring text = TickText(axis, tick);
       const double width = axis == 0 ? canvas_.Width(text) : 0.0;
       canvas_.Text(text, edge + out * (kTick + 1.0) - width, y, AxisColor(axis));
@@ -204,30 +215,36 @@ class TimePlot {
     for (std::size_t period = 0; period < count_; ++period) DrawMarker(canvas_, *series_[i], marker, At(i, period));
   }
 
-  // Above each point, every so many periods, and never over another value's text.
+  // Above each point, and never over another value's text. Bars too narrow for theirs have them written upwards.
   void DrawTexts() const {
     std::vector<RectD> placed;
     std::size_t order = 0;
     for (std::size_t i = 0; i < series_.size(); ++i) {
       const bool bar = series_[i]->type == SeriesType::Bar;
-      DrawTextsOf(i, bar ? static_cast<std::ptrdiff_t>(order) : -1, placed);
+      for (std::size_t period = 0; period < count_ && placed.size() < kMostTexts; ++period) {
+        const PointD at = bar ? PointD{BarLeft(order, period) + BarWidth() * 0.46, At(i, period).y} : At(i, period);
+        DrawValueText(ValueText(i, period), at, bar, placed);
+      }
       if (bar) ++order;
     }
   }
-  void DrawTextsOf(std::size_t i, std::ptrdiff_t barOrder, std::vector<RectD>& placed) const {
+  std::wstring ValueText(std::size_t i, std::size_t period) const {
     const int decimals = axes_.scales[axes_.axisOf[i]].decimals + (series_[i]->values[0] < 100.0 ? 1 : 0);
-    for (std::size_t period = 0; period < count_ && placed.size() < kMostTexts; ++period) {
-      const std::wstring text = canvas_.Number(series_[i]->values[period], decimals);
-      const double width = canvas_.Width(text);
-      PointD at = At(i, period);
-      if (barOrder >= 0) at.x = BarLeft(static_cast<std::size_t>(barOrder), period) + BarWidth() * 0.46;
-      const double bottom = std::max(at.y - 2.0, plot_.top);
-      const RectD box(at.x - width * 0.5, bottom - canvas_.lineHeight, at.x + width * 0.5, bottom);
-      if (box.left < frame_.left || box.right > frame_.right || box.top < frame_.top || at.y > plot_.bottom) continue;
-      const RectD apart(box.left - 1.0, box.top, box.right + 1.0, box.bottom);
-      if (std::any_of(placed.begin(), placed.end(), [&](const RectD& other) { return Overlap(other, apart); }))
-        continue;
-      placed.push_back(box);
+    return canvas_.Number(series_[i]->values[period], decimals);
+  }
+  void DrawValueText(const std::wstring& text, PointD at, bool bar, std::vector<RectD>& placed) const {
+    const double width = canvas_.Width(text);
+    const bool upwards = bar && width > BarWidth();
+    if (at.y > plot_.bottom || (upwards && BarWidth() < canvas_.lineHeight * 0.7)) return;
+    const SizeD size = upwards ? SizeD{canvas_.lineHeight * 0.8, width} : SizeD{width, canvas_.lineHeight};
+    const double bottom = std::max(at.y, plot_.top) - 2.0;
+    const RectD box(at.x - size.width * 0.5, bottom - size.height, at.x + size.width * 0.5, bottom);
+    if (box.left < frame_.left || box.right > frame_.right || box.top < frame_.top) return;
+    if (std::any_of(placed.begin(), placed.end(), [&box](const RectD& other) { return Overlap(other, box); })) return;
+    placed.push_back(box);
+    if (upwards) {
+      canvas_.UpwardText(text, box.Center());
+    } else {
       canvas_.Text(text, box.left, box.Center().y);
     }
   }
@@ -236,6 +253,8 @@ class TimePlot {
   const std::vector<const GraphSeries*>& series_;
   RectD frame_;
   RectD plot_;
+  double leastAxis_;
+  bool namesPeriods_;
   std::size_t count_;
   GraphAxes axes_;
   bool labelled_ = true;
@@ -249,8 +268,14 @@ void DrawLineKey(const GraphCanvas& canvas, const GraphSeries& series, PointD le
   if (series.style >= 5) DrawMarker(canvas, series, series.style, {left.x + length * 0.5, left.y});
 }
 
-void DrawTimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series, const RectD& frame) {
-  if (frame.Width() > 4.0 && frame.Height() > 4.0) TimePlot(canvas, series, frame).Draw();
+void DrawTimePlot(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series,
+                  const TimePlotFrame& frame) {
+  if (frame.rect.Width() > 4.0 && frame.rect.Height() > 4.0) TimePlot(canvas, series, frame).Draw();
+}
+
+double LeftAxisWidth(const GraphCanvas& canvas, const std::vector<const GraphSeries*>& series,
+                     const TimePlotFrame& frame) {
+  return TimePlot(canvas, series, frame).AxisWidth(0);
 }
 
 }  // namespace xrpt

@@ -1,0 +1,82 @@
+// xrpt edit: drives the page window by the lines of a file, without a screen, and saves.
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <sstream>
+
+#include "xrpt/Commands.h"
+#include "xrpt/Options.h"
+#include "xrpt/ScriptRunner.h"
+
+namespace xrpt {
+namespace {
+
+struct EditOptions : CommonOptions {
+  std::string output;
+  std::string actions;
+};
+
+std::optional<std::string> ReadScript(const std::string& file) {
+  std::ostringstream text;
+  if (file == "-") {
+    text << std::cin.rdbuf();
+    return text.str();
+  }
+  const std::ifstream stream(file, std::ios::binary);
+  if (!stream) return std::nullopt;
+  text << stream.rdbuf();
+  return text.str();
+}
+
+std::string AtLine(const std::string& file, int line) { return file + ":" + std::to_string(line); }
+
+int Edit(const EditOptions& options) {
+  const std::optional<std::string> text = ReadScript(options.actions);
+  if (!text) {
+    PrintError(options.actions, "could not be read");
+    return kCouldNotRun;
+  }
+  ScriptError error;
+  const std::optional<std::vector<Action>> actions = ParseScript(*text, error);
+  if (!actions) {
+    PrintError(AtLine(options.actions, error.line), error.message);
+    return kCouldNotRun;
+  }
+  const HostSession session(options);
+  ScriptRunner runner;
+  if (!OpenIn(runner.Frame(), options)) return kCouldNotRun;
+  for (const Action& action : *actions) {
+    const std::string fault = runner.Run(action);
+    if (fault.empty()) continue;
+    PrintError(AtLine(options.actions, action.line), fault);
+    return kCouldNotRun;
+  }
+  return WriteOutput(options.output, runner.Frame().Report().TemplateText()) ? kNothingToReport : kCouldNotRun;
+}
+
+}  // namespace
+
+void AddEdit(CLI::App& program, int& status) {
+  CLI::App* command = program.add_subcommand("edit", "Drive the page window by a file of actions, then save");
+  const auto options = std::make_shared<EditOptions>();
+  options->AddReport(*command);
+  command->add_option("-o,--output", options->output, "Where to write")->required()->type_name("OUT");
+  command->add_option("--actions", options->actions, "The action file (-: standard input)")
+      ->required()
+      ->type_name("FILE");
+  options->AddFolders(*command);
+  options->AddDpi(*command);
+  command->footer(
+      "One action a line, # starts a comment; points are pixels of the client area:\n"
+      "  client W H | dpi X Y | zoom 1|1.5|fit|width | scroll X Y | page N | grid X Y\n"
+      "  tool label|image|date|formule|conditioned|reportGraph|analogBar|primitive|pointer\n"
+      "  press X Y [ctrl] [shift] | move X Y | release X Y | lose-capture\n"
+      "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
+      "  set ID FIELD VALUE | print\n"
+      "Examples:\n  xrpt edit report.xrpt -o out.xrpt --actions move-logo.txt\n"
+      "  echo 'command SelectAll' | xrpt edit report.xrpt -o out.xrpt --actions -");
+  command->callback([options, &status] { status = Edit(*options); });
+}
+
+}  // namespace xrpt

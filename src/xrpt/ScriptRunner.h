@@ -1,0 +1,59 @@
+// Carries out the actions of a file on an editor without a screen.
+#pragma once
+
+#include <string>
+
+#include "editor/RVEditControlWnd.h"
+#include "xrpt/ActionScript.h"
+#include "xrpt/ScriptPorts.h"
+
+namespace xrpt {
+
+class ScriptRunner {
+ public:
+  ScriptRunner() : editor_(screen_), frame_(editor_) {}
+
+  RVEditControlWnd& Frame() { return frame_; }
+  // Empty when done; otherwise why the action cannot be carried out (no such card, no such field).
+  std::string Run(const Action& action);
+
+ private:
+  using Arguments = const std::vector<std::string>&;
+  using Step = std::string (ScriptRunner::*)(Arguments);
+  struct Row {
+    std::string_view name;
+    Step step;
+  };
+  static const std::vector<Row>& Steps();
+
+  std::string Client(Arguments arguments);
+  std::string Dpi(Arguments arguments);
+  std::string Zoom(Arguments arguments);
+  std::string Scroll(Arguments arguments);
+  std::string ShowPage(Arguments arguments);
+  std::string Grid(Arguments arguments);
+  std::string Tool(Arguments arguments);
+  std::string Press(Arguments arguments);
+  std::string Move(Arguments arguments);
+  std::string Release(Arguments arguments);
+  std::string LoseCapture(Arguments arguments);
+  std::string PressKey(Arguments arguments);
+  std::string Select(Arguments arguments);
+  std::string RunCommand(Arguments arguments);
+  std::string Tick(Arguments arguments);
+  std::string Set(Arguments arguments);
+  std::string Print(Arguments arguments);
+
+  RVEditTemplateWnd& Page() { return frame_.CurrentPage(); }
+  Point PointOf(Arguments arguments);
+  MouseFlags FlagsOf(Arguments arguments, std::size_t from);
+
+  ScriptScreen screen_;
+  ScriptEditor editor_;
+  RVEditControlWnd frame_;
+};
+
+// The state of the current page as one JSON object on one line.
+std::string StateAsJson(RVEditControlWnd& frame);
+
+}  // namespace xrpt
