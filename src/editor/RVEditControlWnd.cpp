@@ -229,6 +229,7 @@ bool RVEditControlWnd::Fit(int mode, bool width) {
   pages_[current_].fitsWidth = width;
   const bool changed = CurrentPage().SetMode(mode);
   CurrentPage().InitializeScrollBars(false);
+  CurrentPage().RedrawBackground();
   port_.StateChanged();
   return changed;
 }
