@@ -112,6 +112,7 @@ RVEditControlWnd::PageWindow& RVEditControlWnd::AttachWindow(RVReportPage& page)
   added.window->SetDpi(CurrentHost().screen->DpiX(), CurrentHost().screen->DpiY());
   added.window->SetFontFactor(page.fontFactor);
   added.window->SetInsertKind(tool_);
+  added.window->InitializeScrollBars(false);
   port_.PageWindowReady(*added.port, *added.window);
   return added;
 }
