@@ -71,7 +71,38 @@ std::wstring GroupThousands(const std::wstring& integer, const std::wstring& sep
   return out;
 }
 
+// Takes digits off the front and says how many there were.
+std::size_t TakeDigits(std::wstring_view& text) {
+  const std::size_t count = std::min(text.find_first_not_of(L"0123456789"), text.size());
+  text.remove_prefix(count);
+  return count;
+}
+
+bool TakeOne(std::wstring_view& text, std::wstring_view characters) {
+  const bool found = !text.empty() && characters.find(text.front()) != characters.npos;
+  if (found) text.remove_prefix(1);
+  return found;
+}
+
+bool IsWholeNumber(std::wstring_view text) {
+  TakeOne(text, L"+-");
+  std::size_t digits = TakeDigits(text);
+  if (TakeOne(text, L".")) digits += TakeDigits(text);
+  if (digits == 0) return false;
+  if (!TakeOne(text, L"eE")) return text.empty();
+  TakeOne(text, L"+-");
+  return TakeDigits(text) > 0 && text.empty();
+}
+
 }  // namespace
+
+std::optional<double> ReadWholeNumber(std::wstring_view text) {
+  constexpr const wchar_t* kBlanks = L" \t\r\n";
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
+  if (!IsWholeNumber(text)) return std::nullopt;
+  return ParseDecimal(text);
+}
 
 NumberFormat ParseNumberFormat(std::wstring_view format) {
   NumberFormat out;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,5 +27,8 @@ struct NumberSeparators {
 
 // "#" for what is no number, a mask of "*" for one that does not fit its integer digits (a minus sign takes one).
 std::wstring FormatDouble(double value, const NumberFormat& format, const NumberSeparators& separators);
+
+// A text that is a number from end to end, blanks round it aside; nothing for an expression or a name.
+std::optional<double> ReadWholeNumber(std::wstring_view text);
 
 }  // namespace xrpt

@@ -24,6 +24,7 @@ class RVAnalogBar : public RVCardControl {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVAnalogBar>(*this); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
   bool IsVertical() const { return orientation == BarOrientation::Vertical; }
 
   VariableKind typeVar = VariableKind::Normal;

@@ -33,6 +33,8 @@ class RVCardButton : public RVCardControl {
   bool GetStyleFromFile(const std::wstring& name) override;
   bool UpdateStyleFromFile() override { return GetStyleFromFile(styleName); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+
   // Takes the picture that id and path name. One that cannot be read leaves the card the picture it has.
   void LoadImage();
   // Null without one.

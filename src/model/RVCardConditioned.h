@@ -20,6 +20,7 @@ class RVCardConditioned : public RVCardControl {
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardConditioned>(*this); }
   bool isEqual(const RVCardControl& other) const override;
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
   void SetParent(RVReportPage* page) override;
   bool UpdateStyleFromFile() override;
 

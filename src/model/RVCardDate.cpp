@@ -2,9 +2,21 @@
 
 #include <ctime>
 
+#include "model/DateFormat.h"
+#include "model/MomentText.h"
 #include "platform/Host.h"
 
 namespace xrpt {
+namespace {
+
+std::tm Now() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return local;
+}
+
+}  // namespace
 
 std::span<const FieldRow> RVCardDate::Rows() {
   using Date = RVCardDate;
@@ -22,11 +34,12 @@ const CardClass& RVCardDate::Class() {
   return kind;
 }
 
-RVCardDate::RVCardDate() {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  value = CurrentHost().locale->DateTimeText(local);
+RVCardDate::RVCardDate() { value = CurrentHost().locale->DateTimeText(Now()); }
+
+std::wstring RVCardDate::ShownText() const {
+  const LocaleService& locale = *CurrentHost().locale;
+  const auto moment = ReadMoment(value, locale);
+  return ParseDate(pattern, moment ? *moment : Now(), locale);
 }
 
 }  // namespace xrpt

@@ -13,6 +13,9 @@ class RVCardDate : public RVCardLabel {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardDate>(*this); }
 
+  // The sample value by the pattern; this moment when the value names none.
+  std::wstring ShownText() const override;
+
   std::wstring pattern = L"dd/MM/yyyy HH:mm:ss";
   std::wstring value;  // sample shown while editing: the moment the card was made, as the user writes dates
 

@@ -16,6 +16,8 @@ class RVCardDynamicImage : public RVCardControl {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardDynamicImage>(*this); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+
   // Replaces the picture by the one in the node's "image64"; without a node the placeholder shows again. 0, or 1 for
   // bytes that are no picture, which leave the card without one.
   int refreshImage(const XmlNode& node);

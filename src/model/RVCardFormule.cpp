@@ -1,6 +1,8 @@
 #include "model/RVCardFormule.h"
 
 #include "model/NumberFormat.h"
+#include "platform/Host.h"
+#include "platform/Numbers.h"
 
 namespace xrpt {
 
@@ -41,6 +43,14 @@ void RVCardFormule::ParseFormat(std::wstring_view format, std::int32_t& integers
   decimals = parsed.decimals;
   leftPadding = parsed.leftPadding;
   rightPadding = parsed.rightPadding;
+}
+
+std::wstring RVCardFormule::ShownText() const {
+  const auto number = ReadWholeNumber(value);
+  if (!number) return value;
+  const LocaleService& locale = *CurrentHost().locale;
+  return FormatDouble(*number, {integers, decimals, thousandSeparator, leftPadding, rightPadding},
+                      {locale.DecimalSeparator(), locale.ThousandsSeparator()});
 }
 
 void RVCardFormule::ReadLeftPadding(const XmlNode& count) { leftPadding = ParseInteger(count.RawText()) > 0; }

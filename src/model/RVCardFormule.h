@@ -16,6 +16,9 @@ class RVCardFormule : public RVCardLabel {
   static void ParseFormat(std::wstring_view format, std::int32_t& integers, std::int32_t& decimals, bool& leftPadding,
                           bool& rightPadding);
 
+  // The value by the number format when it reads as a number, else as it stands.
+  std::wstring ShownText() const override;
+
   std::wstring value;  // the expression; the canvas shows it, as a number when it reads as one
   bool thousandSeparator = false;
   bool leftPadding = false;

@@ -23,7 +23,7 @@ const CardClass& RVCardImage::Class() {
 
 RVCardImage::RVCardImage() {
   color = 0xC06060;
-  backcolor = 0x00FFFF;
+  backcolor = kNewBackColor;
 }
 
 bool RVCardImage::isEqual(const RVCardControl& other) const {

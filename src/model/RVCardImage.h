@@ -9,12 +9,18 @@ namespace xrpt {
 
 class RVCardImage : public RVCardControl {
  public:
+  // What a new card has, and what a file that names no back colour leaves it: the ground of a card that has no picture
+  // yet, not one to see round a picture.
+  static constexpr Color kNewBackColor = 0x00FFFF;
+
   RVCardImage();
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardImage>(*this); }
   bool isEqual(const RVCardControl& other) const override;
+
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
 
   // Attaches the card to a picture of the store, shared with all cards that show it. A picture that cannot be read
   // leaves the card without one, and its id and path as they are.

@@ -20,6 +20,10 @@ class RVCardLabel : public RVCardControl {
   bool GetStyleFromFile(const std::wstring& name) override;
   bool UpdateStyleFromFile() override { return GetStyleFromFile(styleName); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+  // What the canvas shows.
+  virtual std::wstring ShownText() const { return text; }
+
   bool IsAnimated() const { return animation.behavior != Behavior::None; }
 
   Font font;                 // size in points, scaled by the page's font factor when drawn

@@ -21,8 +21,10 @@ class RVCardPrimitive : public RVCardControl {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardPrimitive>(*this); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+
   PrimitiveType type = PrimitiveType::Line;
-  double size = 10.0;  // of the contour
+  double size = 10.0;  // thickness of the contour, millimetres; 0 is the thinnest line there is
   ContourType contourType = ContourType::Solid;
   double orientation = 0.0;  // degrees
   bool isBackTransparent = false;

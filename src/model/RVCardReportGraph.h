@@ -38,6 +38,8 @@ class RVCardReportGraph : public RVCardControl {
   bool GetStyleFromFile(const std::wstring& name) override;
   bool UpdateStyleFromFile() override { return GetStyleFromFile(styleName); }
 
+  void Draw(Graphics& graphics, const tagDraw& draw) const override;
+
   // Removes one series; false for an index that names none.
   bool DeleteVariable(std::int32_t index);
   // Removes all series.

@@ -20,7 +20,7 @@ struct tagDraw {
   double zoom = 1.0;          // as stored: negative follows the window; cards use its absolute value
   double pixelsPerMmX = 0.0;  // at zoom 1
   double pixelsPerMmY = 0.0;
-  std::int32_t flag1 = 1;
+  std::int32_t flag1 = 1;  // 0 leaves out what helps editing only, such as the mark of a conditioned card
   std::int32_t flag2 = 1;
   double fontFactor = 1.0;
   std::int32_t reserved1 = 0;
@@ -36,8 +36,8 @@ inline Rect CardPixelRect(const tagDraw& draw, double x, double y, double width,
   const double top = std::round(draw.offsetY) + draw.pageHeightPx * y / draw.pageHeight;
   const int l = roundi(left);
   const int t = roundi(top);
-  return {l, t, l + roundi(draw.pageWidthPx * width / draw.pageWidth),
-          t + roundi(draw.pageHeightPx * height / draw.pageHeight)};
+  return {l, t, roundi(static_cast<double>(l) + roundi(draw.pageWidthPx * width / draw.pageWidth)),
+          roundi(static_cast<double>(t) + roundi(draw.pageHeightPx * height / draw.pageHeight))};
 }
 
 }  // namespace xrpt

@@ -19,25 +19,31 @@ struct PixelBuffer {
   std::ptrdiff_t stride = 0;  // device pixels from one row to the next
   double scale = 1.0;
 
-  void SetPixel(int x, int y, Color color) {
+  void SetPixel(int x, int y, Color color) { Fill({x, y, x + 1, y + 1}, color); }
+  // All pixels of a rectangle.
+  void Fill(const Rect& rect, Color color) {
     const std::uint32_t value =
         0xFF000000u | std::uint32_t{RedOf(color)} << 16 | std::uint32_t{GreenOf(color)} << 8 | BlueOf(color);
-    ForBlock(x, y, [value](std::uint32_t& pixel) { pixel = value; });
+    ForBlock(rect, [value](std::uint32_t& pixel) { pixel = value; });
   }
   // Drawing the same pixel twice gives back what was there.
   void XorPixel(int x, int y, Color color) {
     const std::uint32_t value = std::uint32_t{RedOf(color)} << 16 | std::uint32_t{GreenOf(color)} << 8 | BlueOf(color);
-    ForBlock(x, y, [value](std::uint32_t& pixel) { pixel ^= value; });
+    ForBlock({x, y, x + 1, y + 1}, [value](std::uint32_t& pixel) { pixel ^= value; });
   }
+  // Canvas pixels, the last one perhaps cut.
+  int CanvasWidth() const { return static_cast<int>(std::ceil(width / scale)); }
+  int CanvasHeight() const { return static_cast<int>(std::ceil(height / scale)); }
 
  private:
   template <class Change>
-  void ForBlock(int x, int y, const Change& change) {
-    const int left = Device(x, width);
-    const int right = Device(x + 1, width);
-    const int bottom = Device(y + 1, height);
-    for (int row = Device(y, height); row < bottom; ++row) {
-      for (int column = left; column < right; ++column) change(bits[row * stride + column]);
+  void ForBlock(const Rect& rect, const Change& change) {
+    const int left = Device(rect.left, width);
+    const int right = Device(rect.right, width);
+    const int bottom = Device(rect.bottom, height);
+    for (int row = Device(rect.top, height); row < bottom; ++row) {
+      std::uint32_t* pixels = bits + row * stride;
+      for (int column = left; column < right; ++column) change(pixels[column]);
     }
   }
   int Device(int canvas, int limit) const { return std::clamp(trunci(canvas * scale), 0, limit); }

@@ -57,14 +57,15 @@ Path ImagesFolderOf(const CommonOptions& options) {
   return options.images.empty() ? ConfigFolderOf(options) / "images" : Path(options.images);
 }
 
-HostSession::HostSession(const CommonOptions& options) : former_(nullptr) {
+HostOptions HostOptionsOf(const CommonOptions& options) {
   HostOptions where;
   where.cfgFolder = ConfigFolderOf(options);
   where.imagesFolder = ImagesFolderOf(options);
   where.dpi = options.dpi;
-  host_ = MakeDefaultHost(where);
-  former_ = InstallHost(host_.get());
+  return where;
 }
+
+HostSession::HostSession(const CommonOptions& options) : HostSession(MakeDefaultHost(HostOptionsOf(options))) {}
 
 HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), former_(InstallHost(host_.get())) {}
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "host/DefaultHost.h"
 #include "model/RVReport.h"
 
 namespace CLI {
@@ -42,6 +43,9 @@ class HostSession {
   std::unique_ptr<Host> host_;
   Host* former_;
 };
+
+// Where a host finds things by these options.
+HostOptions HostOptionsOf(const CommonOptions& options);
 
 // The configuration folder that the options mean.
 Path ConfigFolderOf(const CommonOptions& options);

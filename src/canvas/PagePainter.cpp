@@ -1,0 +1,101 @@
+#include "canvas/PagePainter.h"
+
+#include "model/RVCardImage.h"
+
+namespace xrpt {
+namespace {
+
+RectD PageRect(const tagDraw& draw) {
+  return RectD(Rect{trunci(draw.offsetX), trunci(draw.offsetY), trunci(draw.offsetX + draw.pageWidthPx),
+                    trunci(draw.offsetY + draw.pageHeightPx)});
+}
+
+void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, bool surround) {
+  const Color behind = page.properties.backcolor;
+  if (surround && behind != kNoColor) graphics.FillRect(RectD(draw.clip), behind);
+  const RectD paper = PageRect(draw);
+  const bool rounded = draw.roundedPxX > 0.0 && draw.roundedPxY > 0.0;
+  if (rounded) {
+    graphics.FillRoundRect(paper, draw.roundedPxX, draw.roundedPxY, kWhite);
+  } else {
+    graphics.FillRect(paper, kWhite);
+  }
+  if (!page.properties.ThereAreBackground()) return;
+  const GraphicsState state(graphics);
+  if (rounded) graphics.ClipRoundRect(paper, draw.roundedPxX, draw.roundedPxY);
+  PaintCard(graphics, page.properties.Background(), draw);
+}
+
+void DrawFailure(Graphics& graphics, const Rect& card) {
+  constexpr Color kAlarm = Rgb(0xC8, 0x28, 0x28);
+  constexpr Color kGround = Rgb(0xFD, 0xEC, 0xEA);
+  const RectD box(card);
+  const GraphicsState state(graphics);
+  graphics.ClipRect(box);
+  graphics.FillRect(box, kGround);
+  graphics.DrawLine({box.left, box.top}, {box.right, box.bottom}, {kAlarm, 1.0});
+  graphics.DrawLine({box.left, box.bottom}, {box.right, box.top}, {kAlarm, 1.0});
+  graphics.DrawRect({box.left, box.top, box.right - 1.0, box.bottom - 1.0}, {kAlarm, 1.0});
+}
+
+// The grid crossings of one axis that lie inside the clip, in pixels.
+struct GridAxis {
+  double step;    // millimetres
+  double extent;  // of the page, millimetres
+  double pixels;  // of the page
+  double offset;  // of the page, pixels
+  int clipFrom;
+  int clipTo;
+
+  bool IsVisible() const { return step > 0.0 && step * pixels / extent >= 1.0; }
+  template <class Visit>
+  void ForEach(const Visit& visit) const {
+    double i = std::max(0.0, std::floor((clipFrom - offset) * extent / pixels / step) - 1.0);
+    // At least a pixel apart, so there are no more of them than pixels.
+    for (int left = clipTo - clipFrom + 3; left > 0 && i * step < extent; --left, ++i) {
+      const int at = roundi(i * step * pixels / extent + offset);
+      if (at >= clipTo) return;
+      if (at >= clipFrom) visit(at);
+    }
+  }
+};
+
+}  // namespace
+
+bool Touches(const Rect& a, const Rect& b) {
+  return b.bottom >= a.top && b.top <= a.bottom && b.right >= a.left && b.left <= a.right;
+}
+
+void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw) {
+  const int right = std::min(draw.clip.right, buffer.CanvasWidth());
+  const int bottom = std::min(draw.clip.bottom, buffer.CanvasHeight());
+  const GridAxis columns{page.xgrid, draw.pageWidth, draw.pageWidthPx, draw.offsetX, std::max(0, draw.clip.left),
+                         right};
+  const GridAxis rows{page.ygrid, draw.pageHeight, draw.pageHeightPx, draw.offsetY, std::max(0, draw.clip.top), bottom};
+  if (!columns.IsVisible() || !rows.IsVisible()) return;
+  rows.ForEach([&](int y) { columns.ForEach([&](int x) { buffer.XorPixel(x, y, kWhite); }); });
+}
+
+void PaintCard(Graphics& graphics, const RVCardControl& card, const tagDraw& draw) {
+  const Rect rect = CardPixelRect(draw, card.x, card.y, card.width, card.height);
+  if (!Touches(draw.clip, rect)) return;
+  const GraphicsState state(graphics);
+  try {
+    card.Draw(graphics, draw);
+  } catch (...) {
+    // Whatever went wrong in one card, the others are still worth seeing.
+    DrawFailure(graphics, rect);
+  }
+}
+
+void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw) {
+  for (std::size_t i = cards.Size(); i-- > 0;) PaintCard(graphics, cards[i], draw);
+}
+
+void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
+  DrawBackground(graphics, page, draw, how.surround);
+  if (how.grid) DrawGrid(*how.grid, page.properties, draw);
+  PaintCards(graphics, page.cards, draw);
+}
+
+}  // namespace xrpt

@@ -1,0 +1,30 @@
+// The full pass over a page: what stands behind it, the page, its background picture, the grid and the cards. Screen,
+// PNG, SVG, PDF and print all come through here.
+#pragma once
+
+#include "model/RVReportPage.h"
+#include "model/tagDraw.h"
+#include "platform/Graphics.h"
+#include "platform/PixelBuffer.h"
+
+namespace xrpt {
+
+struct PagePaint {
+  bool surround = true;         // fill what lies round the page with the page's back colour
+  PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
+};
+
+void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how = {});
+
+// The cards alone, back to front; those outside the clip are skipped. One that fails to draw leaves a marked box.
+void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw);
+void PaintCard(Graphics& graphics, const RVCardControl& card, const tagDraw& draw);
+
+// True for rectangles that meet, be it at an edge.
+bool Touches(const Rect& a, const Rect& b);
+
+// White dots at the grid's crossings, by exclusive or; none unless both steps are active. A grid finer than a pixel is
+// no grid to look at and is left out.
+void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw);
+
+}  // namespace xrpt

@@ -1,0 +1,148 @@
+#include "model/MomentText.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <vector>
+
+namespace xrpt {
+namespace {
+
+struct Part {
+  int number = 0;
+  std::size_t digits = 0;
+  bool isMonth = false;  // read from a name
+};
+
+constexpr std::size_t kMostParts = 6;
+constexpr std::size_t kMostDigits = 6;
+
+bool StartsLike(std::wstring_view text, std::wstring_view start) {
+  const auto same = [](wchar_t a, wchar_t b) { return std::towlower(a) == std::towlower(b); };
+  return !start.empty() && text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), same);
+}
+
+// 1 to 12, or 0 for a word that is no month of the locale.
+int MonthOf(std::wstring_view word, const LocaleService& locale) {
+  for (int month = 1; month <= 12; ++month) {
+    if (word.size() >= 3 && StartsLike(locale.MonthName(month), word)) return month;
+  }
+  return 0;
+}
+
+std::size_t RunEnd(std::wstring_view text, std::size_t at, int (*belongs)(std::wint_t)) {
+  while (at < text.size() && belongs(static_cast<std::wint_t>(text[at]))) ++at;
+  return at;
+}
+
+Part NumberOf(std::wstring_view digits) {
+  Part part{0, digits.size(), false};
+  for (wchar_t c : digits.substr(0, kMostDigits)) part.number = part.number * 10 + (c - L'0');
+  return part;
+}
+
+struct Parts {
+  std::vector<Part> list;
+  bool afternoon = false;
+  bool morning = false;
+};
+
+void TakeWord(std::wstring_view word, const LocaleService& locale, Parts& parts) {
+  parts.afternoon = parts.afternoon || StartsLike(word, L"pm");
+  parts.morning = parts.morning || StartsLike(word, L"am");
+  const int month = MonthOf(word, locale);
+  if (month > 0) parts.list.push_back({month, 0, true});
+}
+
+Parts Split(std::wstring_view text, const LocaleService& locale) {
+  Parts parts;
+  for (std::size_t at = 0; at < text.size() && parts.list.size() < kMostParts;) {
+    const wchar_t c = text[at];
+    if (c >= L'0' && c <= L'9') {
+      const std::size_t end = std::min(text.find_first_not_of(L"0123456789", at), text.size());
+      parts.list.push_back(NumberOf(text.substr(at, end - at)));
+      at = end;
+    } else if (std::iswalpha(static_cast<std::wint_t>(c))) {
+      const std::size_t end = RunEnd(text, at, std::iswalpha);
+      TakeWord(text.substr(at, end - at), locale, parts);
+      at = end;
+    } else {
+      ++at;
+    }
+  }
+  return parts;
+}
+
+// Where year, month and day stand among the first three numbers.
+struct DateOrder {
+  std::size_t year = 2;
+  std::size_t month = 1;
+  std::size_t day = 0;
+};
+
+// As the locale writes a date whose three numbers can be told apart.
+DateOrder OrderOf(const LocaleService& locale) {
+  std::tm probe{};
+  probe.tm_year = 2033 - 1900;
+  probe.tm_mon = 10;
+  probe.tm_mday = 22;
+  const Parts parts = Split(locale.DateTimeText(probe), locale);
+  DateOrder order;
+  for (std::size_t i = 0; i < std::min<std::size_t>(parts.list.size(), 3); ++i) {
+    const int number = parts.list[i].number;
+    if (number == 22) order.day = i;
+    if (number == 11) order.month = i;
+    if (number == 33 || number == 2033) order.year = i;
+  }
+  return order;
+}
+
+DateOrder OrderOf(const std::vector<Part>& parts, const LocaleService& locale) {
+  if (parts[0].digits == 4) return {0, 1, 2};
+  if (parts[0].isMonth) return {2, 0, 1};
+  if (parts[1].isMonth) return {2, 1, 0};
+  const DateOrder order = OrderOf(locale);
+  return order.year == 0 && parts[2].digits == 4 ? DateOrder{} : order;
+}
+
+int FullYear(const Part& part) {
+  return part.digits > 2 ? part.number : part.number + (part.number < 70 ? 2000 : 1900);
+}
+
+int HourOf(int hour, const Parts& parts) {
+  if (parts.afternoon && hour < 12) return hour + 12;
+  return parts.morning && hour == 12 ? 0 : hour;
+}
+
+// False for a day or an hour no calendar has.
+bool Normalised(std::tm& moment) {
+  const std::tm asked = moment;
+  if (asked.tm_year < 1 - 1900 || asked.tm_year > 9999 - 1900) return false;
+  moment.tm_isdst = -1;
+  std::tm midday = moment;  // away from the hours that clocks skip
+  midday.tm_hour = 12;
+  if (std::mktime(&midday) == -1) return false;
+  moment.tm_wday = midday.tm_wday;
+  moment.tm_yday = midday.tm_yday;
+  return midday.tm_mday == asked.tm_mday && midday.tm_mon == asked.tm_mon && asked.tm_hour < 24 && asked.tm_min < 60 &&
+         asked.tm_sec <= 60;
+}
+
+}  // namespace
+
+std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale) {
+  const Parts parts = Split(text, locale);
+  if (parts.list.size() < 3) return std::nullopt;
+  const DateOrder order = OrderOf(parts.list, locale);
+  const auto time = [&parts](std::size_t i) { return i < parts.list.size() ? parts.list[i].number : 0; };
+  std::tm moment{};
+  moment.tm_year = FullYear(parts.list[order.year]) - 1900;
+  moment.tm_mon = parts.list[order.month].number - 1;
+  moment.tm_mday = parts.list[order.day].number;
+  moment.tm_hour = HourOf(time(3), parts);
+  moment.tm_min = time(4);
+  moment.tm_sec = time(5);
+  if (!Normalised(moment)) return std::nullopt;
+  return moment;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,161 @@
+#include "model/draw/TextLayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace xrpt {
+namespace {
+
+// A card shows a page of text at most; what files hold may be megabytes.
+constexpr std::size_t kMostCharacters = 20000;
+constexpr std::size_t kMostLines = 1000;
+// Rounding must not decide a line break.
+constexpr double kTolerance = 1e-6;
+
+class LineBreaker {
+ public:
+  LineBreaker(FontService& fonts, const Font& font, double width) : fonts_(fonts), font_(font), width_(width) {}
+
+  void Paragraph(std::wstring_view text, bool wrap) {
+    if (!wrap) return Add(text);
+    while (lines_.size() < kMostLines) {
+      const std::size_t end = LineEnd(text);
+      Add(TrimRight(text.substr(0, end)));
+      text.remove_prefix(end);
+      text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
+      if (text.empty()) return;
+    }
+  }
+  std::vector<TextLine> Take() { return std::move(lines_); }
+
+ private:
+  void Add(std::wstring_view text) {
+    if (lines_.size() < kMostLines) lines_.push_back({std::wstring(text), 0.0, 0.0, fonts_.Width(font_, text)});
+  }
+  bool Fits(std::wstring_view text) { return fonts_.Width(font_, text) <= width_ * (1.0 + kTolerance); }
+
+  static std::wstring_view TrimRight(std::wstring_view text) { return text.substr(0, text.find_last_not_of(L' ') + 1); }
+
+  // How many characters the next line takes; at least one.
+  std::size_t LineEnd(std::wstring_view text) {
+    if (text.size() < 2) return text.size();
+    const std::size_t room = CharactersThatFit(text);
+    if (room == text.size() || text[room] == L' ') return room;
+    const std::size_t space = text.rfind(L' ', room);
+    return space == text.npos || space == 0 ? room : space;
+  }
+
+  std::size_t CharactersThatFit(std::wstring_view text) {
+    std::size_t fits = 1;
+    std::size_t tooMany = std::min<std::size_t>(16, text.size());
+    while (Fits(text.substr(0, tooMany))) {
+      fits = tooMany;
+      if (fits == text.size()) return fits;
+      tooMany = std::min(tooMany * 2, text.size());
+    }
+    while (tooMany > fits + 1) {
+      const std::size_t middle = (fits + tooMany) / 2;
+      (Fits(text.substr(0, middle)) ? fits : tooMany) = middle;
+    }
+    return fits;
+  }
+
+  FontService& fonts_;
+  const Font& font_;
+  double width_;
+  std::vector<TextLine> lines_;
+};
+
+// Line ends of every system become one; other control characters are blanks.
+std::wstring Cleaned(std::wstring_view text) {
+  std::wstring out;
+  for (std::size_t i = 0; i < std::min(text.size(), kMostCharacters); ++i) {
+    const wchar_t c = text[i];
+    if (c == L'\r' && i + 1 < text.size() && text[i + 1] == L'\n') continue;
+    if (c == L'\r' || c == L'\n') {
+      out += L'\n';
+    } else {
+      out += c < L' ' ? L' ' : c;
+    }
+  }
+  return out;
+}
+
+std::vector<TextLine> BreakLines(FontService& fonts, const Font& font, std::wstring_view text, double width,
+                                 bool wrap) {
+  LineBreaker breaker(fonts, font, width);
+  const std::wstring cleaned = Cleaned(text);
+  std::wstring_view rest = cleaned;
+  for (;;) {
+    const std::size_t end = rest.find(L'\n');
+    breaker.Paragraph(rest.substr(0, end), wrap);
+    if (end == rest.npos) return breaker.Take();
+    rest.remove_prefix(end + 1);
+  }
+}
+
+// Where something `length` long begins in a box of `room`.
+double Aligned(double room, double length, int align, int endCode, bool keepStart) {
+  if (keepStart && length > room) return 0.0;
+  if (align == endCode) return room - length;
+  return align == kAlignCenter ? (room - length) * 0.5 : 0.0;
+}
+
+RectD BoundsOf(const std::vector<TextLine>& lines, double top, double height) {
+  RectD bounds(lines.front().left, top, lines.front().left, top + height);
+  for (const TextLine& line : lines) {
+    bounds.left = std::min(bounds.left, line.left);
+    bounds.right = std::max(bounds.right, line.left + line.width);
+  }
+  return bounds;
+}
+
+}  // namespace
+
+TextLayout LayOutText(FontService& fonts, const Font& font, std::wstring_view text, const TextBox& box) {
+  TextLayout out;
+  if (text.empty()) return out;
+  const FontMetrics metrics = fonts.Metrics(font);
+  const double oneLine = metrics.ascent + metrics.descent;
+  const bool wrap = box.wrap && box.size.height * (1.0 + kTolerance) >= oneLine + metrics.lineSpacing;
+  out.lines = BreakLines(fonts, font, text, box.size.width, wrap);
+  const double height = oneLine + metrics.lineSpacing * static_cast<double>(out.lines.size() - 1);
+  const double top = Aligned(box.size.height, height, box.verticalAlign, kAlignBottom, out.lines.size() > 1);
+  double baseline = top + metrics.ascent;
+  for (TextLine& line : out.lines) {
+    line.left = Aligned(box.size.width, line.width, box.horizontalAlign, kAlignRight, true);
+    line.baseline = baseline;
+    baseline += metrics.lineSpacing;
+  }
+  out.bounds = BoundsOf(out.lines, top, height);
+  return out;
+}
+
+std::wstring FitText(FontService& fonts, const Font& font, std::wstring_view text, double width) {
+  text = text.substr(0, kMostCharacters);
+  if (fonts.Width(font, text) <= width) return std::wstring(text);
+  std::size_t fits = 0;
+  std::size_t tooMany = text.size();
+  while (tooMany > fits + 1) {
+    const std::size_t middle = (fits + tooMany) / 2;
+    const std::wstring cut = std::wstring(text.substr(0, middle)) + L'\x2026';
+    (fonts.Width(font, cut) <= width ? fits : tooMany) = middle;
+  }
+  return fits == 0 ? std::wstring() : std::wstring(text.substr(0, fits)) + L'\x2026';
+}
+
+SizeD TurnedBox(SizeD card, double degrees, double lineHeight) {
+  const double angle = std::isfinite(degrees) ? degrees * std::numbers::pi / 180.0 : 0.0;
+  const double along = std::abs(std::cos(angle));
+  const double across = std::abs(std::sin(angle));
+  constexpr double kFlat = 1e-9;
+  if (across < kFlat) return card;
+  if (along < kFlat) return {card.height, card.width};
+  const double height = std::min(card.width / across, card.height / along);
+  const double thickness = std::min(lineHeight, height * 0.5);
+  const double width = std::min((card.width - thickness * across) / along, (card.height - thickness * along) / across);
+  return {std::max(width, 0.0), height};
+}
+
+}  // namespace xrpt

@@ -1,0 +1,44 @@
+// Breaking a text into lines and placing them in a box: pure rules over the font service, in page points.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Words.h"
+#include "platform/Fonts.h"
+#include "platform/Geometry.h"
+
+namespace xrpt {
+
+struct TextLine {
+  std::wstring text;
+  double left = 0.0;      // from the box's left edge
+  double baseline = 0.0;  // from its top edge
+  double width = 0.0;
+};
+
+struct TextLayout {
+  std::vector<TextLine> lines;
+  RectD bounds;  // of all lines with their ascents and descents
+};
+
+struct TextBox {
+  SizeD size;
+  int horizontalAlign = kAlignCenter;
+  int verticalAlign = kAlignCenter;
+  bool wrap = true;
+};
+
+// Lines end at line breaks and, where a line is wider than the box, at the last word that fits; a word wider than the
+// box is broken. A box with no room for a second line keeps its text on one: half a line is worse than a cut one.
+// What is larger than the box keeps its beginning in sight, whatever the alignment.
+TextLayout LayOutText(FontService& fonts, const Font& font, std::wstring_view text, const TextBox& box);
+
+// The text shortened to the width, ending with an ellipsis when something was cut; empty when not even that fits.
+std::wstring FitText(FontService& fonts, const Font& font, std::wstring_view text, double width);
+
+// The box a text turned by `degrees` about the centre of `card` has: a line of `lineHeight` fits along it.
+SizeD TurnedBox(SizeD card, double degrees, double lineHeight);
+
+}  // namespace xrpt
