@@ -18,7 +18,7 @@ class LineBreaker {
   LineBreaker(FontService& fonts, const Font& font, double width) : fonts_(fonts), font_(font), width_(width) {}
 
   void Paragraph(std::wstring_view text, bool wrap) {
-    if (!wrap) return Add(text);
+    if (!wrap || Fits(text)) return Add(text);
     while (lines_.size() < kMostLines) {
       const std::size_t end = LineEnd(text);
       Add(TrimRight(text.substr(0, end)));
