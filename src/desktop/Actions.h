@@ -1,0 +1,42 @@
+// One toolkit action a command of the catalogue: what ribbon, menus, palette and shortcut sheet show and trigger.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+class QAction;
+class QWidget;
+
+namespace xrpt {
+
+class RVEditControlWnd;
+struct Command;
+
+class Actions {
+ public:
+  // Shortcuts of one plain key belong to the page alone, so that they never act while the user types elsewhere.
+  Actions(RVEditControlWnd& frame, QWidget& window, QWidget& page);
+
+  // In the catalogue's order.
+  const std::vector<QAction*>& All() const { return actions_; }
+  // Null for a name the catalogue does not have.
+  QAction* Find(std::string_view name) const;
+  static const Command& CommandOf(const QAction& action);
+
+  // Asks every command whether it is enabled and checked.
+  void Refresh();
+
+  // Called before a command runs: what is half done ends first.
+  std::function<void()> beforeRun;
+
+ private:
+  QAction* MakeAction(const Command& command, QWidget& window, QWidget& page);
+  void RefreshOne(QAction& action) const;
+
+  RVEditControlWnd& frame_;
+  std::vector<QAction*> actions_;  // owned by the window
+};
+
+}  // namespace xrpt

@@ -1,0 +1,30 @@
+// One small widget a field of a card or page, chosen by the field's row. Values travel as the field's text, the way
+// files hold it; nothing (no text) stands for several cards that differ.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "model/FieldTable.h"
+
+class QWidget;
+
+namespace xrpt {
+
+class FieldEditorWidget {
+ public:
+  using Edited = std::function<void(std::string)>;
+
+  virtual ~FieldEditorWidget() = default;
+  virtual QWidget* Widget() = 0;
+  // Filling never counts as an edit.
+  virtual void Show(const std::optional<std::wstring>& text) = 0;
+};
+
+// `edited` hears every change the user makes, with the field's new text. The widget belongs to `parent`.
+std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
+                                                   QWidget* parent);
+
+}  // namespace xrpt

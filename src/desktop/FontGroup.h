@@ -1,0 +1,56 @@
+// Font, alignment and colour of the selected cards, on the ribbon. It edits the same fields as the property panel.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QBoxLayout;
+class QFontComboBox;
+class QToolButton;
+
+namespace xrpt {
+
+class ColorButton;
+class MixedSpinBox;
+class SelectedFields;
+struct FieldRow;
+
+class FontGroup final : public QWidget {
+ public:
+  explicit FontGroup(SelectedFields& fields, QWidget* parent = nullptr);
+
+  void Refresh();
+  std::function<void()> edited;
+
+ private:
+  // A button that stands for one word of a field, pressed while the cards hold it.
+  struct WordButton {
+    QToolButton* button;
+    const char* field;
+    const char* word;
+  };
+
+  void AddFace(QBoxLayout& row);
+  void AddSize(QBoxLayout& row);
+  void AddStyleButton(QBoxLayout& row, QToolButton*& button, const char* icon, int textId);
+  void AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word);
+  void AddColor(QBoxLayout& row);
+  QToolButton* MakeButton(const char* icon, int textId);
+  void Assign(const char* field, const std::string& text);
+  void AssignStyle();
+  std::optional<std::wstring> TextOf(const char* field, bool& isThere) const;
+
+  SelectedFields& fields_;
+  QFontComboBox* face_;
+  MixedSpinBox* size_;
+  QToolButton* bold_;
+  QToolButton* italic_;
+  ColorButton* color_;
+  std::vector<WordButton> words_;
+};
+
+}  // namespace xrpt

@@ -1,0 +1,216 @@
+#include "desktop/MainWindow.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "desktop/Actions.h"
+#include "desktop/CornerBar.h"
+#include "desktop/FontGroup.h"
+#include "desktop/MessageBar.h"
+#include "desktop/OpenDialog.h"
+#include "desktop/Outline.h"
+#include "desktop/PageFrame.h"
+#include "desktop/PagePort.h"
+#include "desktop/PageView.h"
+#include "desktop/ProblemsDock.h"
+#include "desktop/PropertyPanel.h"
+#include "desktop/StatusBar.h"
+#include "desktop/TextIds.h"
+#include "desktop/Texts.h"
+#include "desktop/WatchedLogger.h"
+#include "editor/CommandTexts.h"
+#include "editor/RVEditControlWnd.h"
+
+namespace xrpt {
+
+namespace {
+constexpr int kSaveChangesText = 32472;
+constexpr wchar_t kLastReport[] = L"LastInforme";
+}  // namespace
+
+MainWindow::MainWindow() {
+  setObjectName(QStringLiteral("editor"));
+  BuildCentre();
+  frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this));
+  fields_ = std::make_unique<SelectedFields>(*frame_);
+  actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
+  actions_->beforeRun = [this] { properties_->Commit(); };
+  pages_->Connect(*frame_);
+  pages_->View().Connect(*frame_, *actions_);
+  BuildDocks();
+  BuildRibbon();
+  BuildStatusBar();
+  BuildKeys();
+  WatchLog();
+  RestoreLayout();
+  ApplySurround();
+  // What pages have posted is delivered before the program falls asleep.
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [this] { frame_->Queue().Drain(); });
+  pagesAreDue_ = true;
+  Refresh();
+  pages_->View().setFocus();
+}
+
+MainWindow::~MainWindow() {
+  WatchedLogger::Remove(CurrentHost());
+  frame_.reset();
+}
+
+// --- Opening ---
+
+void MainWindow::Open(const std::wstring& nameOrPath) {
+  properties_->Commit();
+  ShowLoadProblem(frame_->Setup(nameOrPath));
+}
+
+void MainWindow::OpenLast() {
+  const std::wstring name = CurrentHost().settings->RegistryText(kLastReport);
+  if (!name.empty()) Open(name);
+}
+
+void MainWindow::ShowLoadProblem(const LoadResult& result) {
+  messages_->Dismiss();
+  if (result.loaded) return;
+  const QString file = ToQString(result.file.filename().wstring());
+  const QString reason = QString::fromStdString(result.error.message);
+  const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
+  messages_->Show(message, true);
+  problems_->Add({ProblemSeverity::Error, message, {}});
+}
+
+std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
+  return OpenDialog::Choose(current, this);
+}
+
+// --- Pages ---
+
+std::unique_ptr<WindowPort> MainWindow::NewPageWindow() { return std::make_unique<PagePort>(pages_->View()); }
+
+void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
+  static_cast<PagePort&>(port).Attach(&window);
+}
+
+void MainWindow::PageWindowGone(WindowPort& port) {
+  auto& page = static_cast<PagePort&>(port);
+  page.StopTimers();
+  pages_->View().Forget(page);
+  page.Attach(nullptr);
+}
+
+void MainWindow::PagesChanged() {
+  pagesAreDue_ = true;
+  if (frame_ && frame_->PageCount() > 0)
+    pages_->View().ShowPage(static_cast<PagePort&>(frame_->PagePort(frame_->CurrentPageIndex())));
+  RefreshSoon();
+}
+
+// --- Showing what changed ---
+
+void MainWindow::StateChanged() { RefreshSoon(); }
+
+// However many things change at once, they are shown once.
+void MainWindow::RefreshSoon() {
+  if (std::exchange(refreshIsDue_, true)) return;
+  QTimer::singleShot(0, this, [this] { Refresh(); });
+}
+
+void MainWindow::Refresh() {
+  refreshIsDue_ = false;
+  if (!frame_ || frame_->PageCount() == 0) return;
+  if (std::exchange(pagesAreDue_, false)) {
+    ApplySurround();
+    pages_->View().ShowPage(static_cast<PagePort&>(frame_->PagePort(frame_->CurrentPageIndex())));
+    outline_->RefreshPages();
+    corner_->Refresh();
+  }
+  actions_->Refresh();
+  ShowSwitches();
+  properties_->Refresh();
+  font_->Refresh();
+  outline_->RefreshCards();
+  corner_->Refresh();
+  status_->SetZoom(std::abs(frame_->CurrentPage().Zoom()));
+  ShowSelectionGeometry();
+  ShowCaption();
+  pages_->Refresh();
+}
+
+void MainWindow::ShowCaption() {
+  setWindowTitle(ToQString(frame_->Caption()) + QStringLiteral("[*] — ") + Translated(text::kProgramName));
+  setWindowModified(frame_->IsModified());
+}
+
+void MainWindow::ShowSelectionGeometry() {
+  const RVEditTemplateWnd& page = frame_->CurrentPage();
+  RectD area;
+  int count = 0;
+  for (const std::wstring& id : page.Selection().Ids()) {
+    const RVCardControl* card = page.Page().cards.Find(id);
+    if (!card) continue;
+    const RectD own(card->x, card->y, card->x + card->width, card->y + card->height);
+    area = count++ == 0 ? own
+                        : RectD(std::min(area.left, own.left), std::min(area.top, own.top),
+                                std::max(area.right, own.right), std::max(area.bottom, own.bottom));
+  }
+  status_->SetSelection(count, area);
+}
+
+// A fitted zoom follows the window.
+void MainWindow::RefitZoom() {
+  if (frame_ && frame_->PageCount() > 0 && frame_->CurrentPage().Zoom() < 0.0)
+    frame_->SetZoomEntry(frame_->ZoomEntry());
+}
+
+// --- Questions and messages ---
+
+Answer MainWindow::Ask(int textId) {
+  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(textId),
+                  QMessageBox::Yes | QMessageBox::No, this);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
+
+void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
+
+// A failed write is logged by whoever wrote; what could not be written waits in a recovery file.
+void MainWindow::OnLogged(int severity, const QString& message) {
+  constexpr int kWarning = 3;
+  constexpr int kError = 4;
+  if (severity < kWarning) return;
+  problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
+  if (severity < kError) return;
+  writeFailed_ = true;
+  messages_->Show(message, true, {{Translated(text::kSaveAs), [this] { SaveAs(); }}});
+}
+
+bool MainWindow::MayClose() {
+  properties_->Commit();
+  if (!frame_->IsModified()) return true;
+  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(kSaveChangesText),
+                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, this);
+  box.setDefaultButton(QMessageBox::Yes);
+  const int answer = box.exec();
+  if (answer != QMessageBox::Yes) return answer == QMessageBox::No;
+  writeFailed_ = false;
+  return frame_->Save() && !writeFailed_;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!MayClose()) return event->ignore();
+  StoreLayout();
+  event->accept();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && ribbon_) ApplySurround();
+}
+
+}  // namespace xrpt

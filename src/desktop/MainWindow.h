@@ -1,0 +1,118 @@
+// The editor's window: ribbon, page view, docks and status bar round one frame. It answers what the frame asks of an
+// application and shows what the frame says has changed.
+#pragma once
+
+#include <QMainWindow>
+
+#include "editor/EditorPort.h"
+#include "editor/SelectedFields.h"
+#include "model/RVReport.h"
+
+class QDockWidget;
+
+namespace xrpt {
+
+class Actions;
+class CornerBar;
+class FontGroup;
+class MessageBar;
+class Outline;
+class PageFrame;
+class PagePort;
+class ProblemsList;
+class PropertyPanel;
+class Ribbon;
+class RVEditControlWnd;
+class StatusBar;
+
+class MainWindow final : public QMainWindow, private EditorPort {
+ public:
+  // A host must be installed.
+  MainWindow();
+  ~MainWindow() override;
+
+  RVEditControlWnd& Frame() { return *frame_; }
+  const Actions& AllActions() const { return *actions_; }
+  PageFrame& Pages() { return *pages_; }
+  PropertyPanel& Properties() { return *properties_; }
+  MessageBar& Messages() { return *messages_; }
+  ProblemsList& Problems() { return *problems_; }
+  Ribbon& Tabs() { return *ribbon_; }
+
+  // Opens by name or path. What cannot be opened says why, above the page.
+  void Open(const std::wstring& nameOrPath);
+  // The report that was open last, when there is one.
+  void OpenLast();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // EditorPort
+  std::unique_ptr<WindowPort> NewPageWindow() override;
+  void PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) override;
+  void PageWindowGone(WindowPort& port) override;
+  void PagesChanged() override;
+  void StateChanged() override;
+  bool RunCommand(const char* name) override;
+  Answer Ask(int textId) override;
+  void Tell(int textId) override;
+  std::optional<std::wstring> ChooseReport(const std::wstring& current) override;
+
+  // Construction
+  void BuildCentre();
+  void BuildRibbon();
+  void BuildDocks();
+  QDockWidget* AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
+  void BuildStatusBar();
+  void BuildKeys();
+  void WatchLog();
+  void RestoreLayout();
+  void StoreLayout();
+
+  // Showing what changed
+  void RefreshSoon();
+  void Refresh();
+  void ShowCaption();
+  void ShowSelectionGeometry();
+  void RefitZoom();
+  void ShowLoadProblem(const LoadResult& result);
+  void OnLogged(int severity, const QString& message);
+  void Announce(const QString& message);
+
+  // Commands that need a window
+  void SaveAs();
+  bool AskForName(QString& name);
+  void ToggleSmartGuides();
+  void ToggleRulers();
+  void ToggleDarkTheme();
+  void ApplySurround();
+  void OpenPalette();
+  void OpenShortcutSheet();
+  void ExportPdf();
+  void ExportImages();
+  void Print();
+  void ShowSwitches();
+  void FocusNextArea(bool forward);
+  bool MayClose();
+
+  PageFrame* pages_ = nullptr;
+  MessageBar* messages_ = nullptr;
+  std::unique_ptr<RVEditControlWnd> frame_;
+  std::unique_ptr<SelectedFields> fields_;
+  std::unique_ptr<Actions> actions_;
+  Ribbon* ribbon_ = nullptr;
+  CornerBar* corner_ = nullptr;
+  FontGroup* font_ = nullptr;
+  Outline* outline_ = nullptr;
+  PropertyPanel* properties_ = nullptr;
+  ProblemsList* problems_ = nullptr;
+  StatusBar* status_ = nullptr;
+  std::vector<QDockWidget*> docks_;
+  bool refreshIsDue_ = false;
+  bool pagesAreDue_ = false;
+  bool writeFailed_ = false;
+};
+
+}  // namespace xrpt

@@ -1,0 +1,116 @@
+// The commands of the catalogue that need a window: switches of the view, sheets, saving under a name.
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "desktop/Actions.h"
+#include "desktop/CommandPalette.h"
+#include "desktop/MainWindow.h"
+#include "desktop/PageFrame.h"
+#include "desktop/PageView.h"
+#include "desktop/ShortcutSheet.h"
+#include "desktop/TextIds.h"
+#include "desktop/Texts.h"
+#include "desktop/Theme.h"
+#include "editor/CommandTexts.h"
+#include "editor/RVEditControlWnd.h"
+#include "platform/NamedFiles.h"
+#include "platform/Text.h"
+
+namespace xrpt {
+
+bool MainWindow::RunCommand(const char* name) {
+  static constexpr std::pair<const char*, void (MainWindow::*)()> kRows[] = {
+      {"SmartGuides", &MainWindow::ToggleSmartGuides},
+      {"Rulers", &MainWindow::ToggleRulers},
+      {"DarkTheme", &MainWindow::ToggleDarkTheme},
+      {"CommandPalette", &MainWindow::OpenPalette},
+      {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
+      {"SaveAs", &MainWindow::SaveAs},
+      {"ExportPdf", &MainWindow::ExportPdf},
+      {"ExportImages", &MainWindow::ExportImages},
+      {"Print", &MainWindow::Print}};
+  for (const auto& [known, run] : kRows) {
+    if (std::string_view(known) != name) continue;
+    (this->*run)();
+    ShowSwitches();
+    return true;
+  }
+  return false;
+}
+
+// The switches of the view, which the frame knows nothing of.
+void MainWindow::ShowSwitches() {
+  const std::pair<const char*, bool> rows[] = {{"SmartGuides", frame_->CurrentPage().HasSmartGuides()},
+                                               {"Rulers", pages_->HasRulers()},
+                                               {"DarkTheme", IsDarkTheme()}};
+  for (const auto& [name, on] : rows) {
+    QAction* action = actions_->Find(name);
+    action->setCheckable(true);
+    action->setChecked(on);
+  }
+}
+
+// --- Switches ---
+
+void MainWindow::ToggleSmartGuides() {
+  const bool on = !frame_->CurrentPage().HasSmartGuides();
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSmartGuides(on);
+}
+
+void MainWindow::ToggleRulers() { pages_->ShowRulers(!pages_->HasRulers()); }
+
+void MainWindow::ToggleDarkTheme() {
+  const ThemeChoice choice = IsDarkTheme() ? ThemeChoice::Light : ThemeChoice::Dark;
+  StoreThemeChoice(choice);
+  ApplyTheme(*qApp, choice);
+  ApplySurround();
+}
+
+// What lies round a page follows the theme, unless the user gave the page a colour of its own.
+void MainWindow::ApplySurround() {
+  if (!frame_) return;
+  const Color surround = CurrentHost().screen->ButtonFace();
+  const auto known = {ThemeSurround(true), ThemeSurround(false)};
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) {
+    Color& color = frame_->Page(page).Page().properties.backcolor;
+    if (std::find(known.begin(), known.end(), color) != known.end()) color = surround;
+  }
+  pages_->View().RepaintPage();
+}
+
+// --- Sheets ---
+
+void MainWindow::OpenPalette() { (new CommandPalette(actions_->All(), this))->show(); }
+
+void MainWindow::OpenShortcutSheet() { (new ShortcutSheet(actions_->All(), this))->open(); }
+
+// --- Saving under a name ---
+
+void MainWindow::SaveAs() {
+  QString name = ToQString(frame_->Report().name);
+  while (AskForName(name)) {
+    const std::wstring wanted = name.trimmed().toStdWString();
+    const Path folder = CurrentHost().setup->CfgPath();
+    int problem = 0;
+    if (!IsSafeFileName(wanted)) {
+      problem = text::kBadName;
+    } else if (FindNamedFile(folder, wanted, kReportEnding)) {
+      problem = text::kNameIsTaken;
+    }
+    if (problem == 0) {
+      frame_->SaveAs(wanted);
+      return;
+    }
+    QMessageBox::warning(this, Translated(text::kProgramName), Translated(problem));
+  }
+}
+
+bool MainWindow::AskForName(QString& name) {
+  bool accepted = false;
+  name = QInputDialog::getText(this, Translated(text::kSaveAs), Translated(text::kReportName), QLineEdit::Normal, name,
+                               &accepted);
+  return accepted;
+}
+
+}  // namespace xrpt

@@ -1,0 +1,159 @@
+// What the main window is made of, and how it looked when it was closed last.
+#include <QDockWidget>
+#include <QShortcut>
+
+#include "desktop/Actions.h"
+#include "desktop/CornerBar.h"
+#include "desktop/DockTitle.h"
+#include "desktop/FontGroup.h"
+#include "desktop/Icons.h"
+#include "desktop/MainWindow.h"
+#include "desktop/MessageBar.h"
+#include "desktop/Outline.h"
+#include "desktop/PageFrame.h"
+#include "desktop/PageView.h"
+#include "desktop/ProblemsDock.h"
+#include "desktop/PropertyPanel.h"
+#include "desktop/Ribbon.h"
+#include "desktop/RibbonGroup.h"
+#include "desktop/StatusBar.h"
+#include "desktop/TextIds.h"
+#include "desktop/Texts.h"
+#include "desktop/WatchedLogger.h"
+#include "editor/RVEditControlWnd.h"
+
+namespace xrpt {
+
+namespace {
+constexpr wchar_t kSection[] = L"Desktop";
+constexpr int kLayoutVersion = 1;
+}  // namespace
+
+void MainWindow::BuildCentre() {
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  messages_ = new MessageBar(centre);
+  pages_ = new PageFrame(centre);
+  column->addWidget(messages_);
+  column->addWidget(pages_, 1);
+  setCentralWidget(centre);
+}
+
+void MainWindow::BuildRibbon() {
+  ribbon_ = new Ribbon(*actions_, this);
+  font_ = new FontGroup(*fields_, this);
+  font_->edited = [this] { RefreshSoon(); };
+  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_);
+  corner_ = new CornerBar(*frame_, *actions_, this);
+  ribbon_->AddCorner(corner_);
+  setMenuWidget(ribbon_);
+}
+
+QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area) {
+  auto* dock = new QDockWidget(Translated(titleId), this);
+  dock->setObjectName(QLatin1String(name));
+  dock->setWidget(content);
+  GiveTitle(*dock);
+  addDockWidget(area, dock);
+  docks_.push_back(dock);
+  return dock;
+}
+
+void MainWindow::BuildDocks() {
+  setDockNestingEnabled(true);
+  setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+  setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+  outline_ = new Outline(*frame_, this);
+  outline_->pageChosen = [this](std::size_t page) {
+    properties_->Commit();
+    frame_->ShowPage(page);
+  };
+  outline_->cardChosen = [this](const std::wstring& id) {
+    properties_->Commit();
+    frame_->CurrentPage().SelectControlById(id);
+    RefreshSoon();
+  };
+  properties_ = new PropertyPanel(*fields_, this);
+  properties_->edited = [this] { RefreshSoon(); };
+  problems_ = new ProblemsList(this);
+  problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
+  QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
+  QDockWidget* right = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
+  QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
+  resizeDocks({below}, {110}, Qt::Vertical);
+  below->hide();
+  problems_->countChanged = [below](int count) {
+    if (count > 0) below->show();
+  };
+}
+
+void MainWindow::BuildStatusBar() {
+  status_ = new StatusBar(this);
+  setStatusBar(status_);
+  status_->zoomChosen = [this](double zoom) {
+    const QSize size = pages_->View().viewport()->size();
+    pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
+  };
+  pages_->pointerMoved = [this](std::optional<PointD> position) { status_->SetPointer(position); };
+  pages_->View().resized = [this] { RefitZoom(); };
+}
+
+// F6 walks the areas of the window, F10 and the ribbon's own letters go to its tabs.
+void MainWindow::BuildKeys() {
+  const auto on = [this](const QKeySequence& key, auto run) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, run);
+  };
+  on(QKeySequence(Qt::Key_F6), [this] { FocusNextArea(true); });
+  on(QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { FocusNextArea(false); });
+  on(QKeySequence(Qt::Key_F10), [this] { ribbon_->FocusTabs(); });
+}
+
+void MainWindow::FocusNextArea(bool forward) {
+  const std::vector<QWidget*> areas = {&pages_->View(), properties_, problems_, outline_, ribbon_};
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < areas.size(); ++i) {
+    if (areas[i]->isAncestorOf(focusWidget()) || areas[i] == focusWidget()) at = i;
+  }
+  for (std::size_t step = 1; step < areas.size(); ++step) {
+    QWidget* area = areas[(at + (forward ? step : areas.size() - step)) % areas.size()];
+    if (!area->isVisible()) continue;
+    if (area == properties_) return properties_->FocusFirst();
+    if (area == outline_) return outline_->FocusCards();
+    if (area == ribbon_) return ribbon_->FocusTabs();
+    return area->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+// The log may be written from other threads.
+void MainWindow::WatchLog() {
+  WatchedLogger::Install(CurrentHost(), [this](int severity, const std::wstring& message) {
+    if (severity >= 4) writeFailed_ = true;
+    QMetaObject::invokeMethod(
+        this, [this, severity, text = ToQString(message)] { OnLogged(severity, text); }, Qt::QueuedConnection);
+  });
+}
+
+void MainWindow::StoreLayout() {
+  SettingsService& settings = *CurrentHost().settings;
+  const auto store = [&settings](const wchar_t* name, const QByteArray& bytes) {
+    settings.SetProfileText(kSection, name, QString::fromLatin1(bytes.toBase64()).toStdWString());
+  };
+  store(L"geometry", saveGeometry());
+  store(L"docks", saveState(kLayoutVersion));
+  settings.SetProfileInt(kSection, L"rulers", pages_->HasRulers() ? 1 : 0);
+}
+
+void MainWindow::RestoreLayout() {
+  const SettingsService& settings = *CurrentHost().settings;
+  const auto stored = [&settings](const wchar_t* name) {
+    return QByteArray::fromBase64(ToQString(settings.ProfileText(kSection, name)).toLatin1());
+  };
+  if (!restoreGeometry(stored(L"geometry"))) resize(1400, 900);
+  restoreState(stored(L"docks"), kLayoutVersion);
+  pages_->ShowRulers(settings.ProfileInt(kSection, L"rulers", 1) != 0);
+}
+
+}  // namespace xrpt

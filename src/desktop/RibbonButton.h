@@ -1,0 +1,28 @@
+// A button of the ribbon: shows an action large (icon above a label of up to two lines) or small (icon beside its
+// label, or icon alone where room is short).
+#pragma once
+
+#include <QToolButton>
+
+class QAction;
+
+namespace xrpt {
+
+enum class ButtonShape { Large, Small, IconOnly };
+
+class RibbonButton final : public QToolButton {
+ public:
+  RibbonButton(QAction& action, ButtonShape shape, QWidget* parent = nullptr);
+  void SetShape(ButtonShape shape);
+
+ private:
+  void TakeFromAction();
+
+  QAction& action_;
+  ButtonShape shape_;
+};
+
+// Breaks a label of several words into two lines of nearly equal length; the second line of one word is empty.
+QString InTwoLines(const QString& label);
+
+}  // namespace xrpt

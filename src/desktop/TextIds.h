@@ -1,0 +1,89 @@
+// Text ids of the windows, in the catalogues' range 60500 to 61199.
+#pragma once
+
+namespace xrpt::text {
+
+inline constexpr int kProgramName = 60500;
+inline constexpr int kRibbon = 60501;
+inline constexpr int kPageView = 60502;
+inline constexpr int kHorizontalRuler = 60503;
+inline constexpr int kVerticalRuler = 60504;
+inline constexpr int kScrollAcross = 60505;
+inline constexpr int kScrollDown = 60506;
+inline constexpr int kPagesAndCards = 60507;
+inline constexpr int kPages = 60508;
+inline constexpr int kCards = 60509;
+inline constexpr int kProperties = 60510;
+inline constexpr int kProblems = 60511;
+inline constexpr int kNoProblems = 60512;
+inline constexpr int kHidePanel = 60513;
+inline constexpr int kPageTitle = 60514;
+inline constexpr int kPageNumber = 60515;
+inline constexpr int kPageSelector = 60516;
+inline constexpr int kZoom = 60517;
+inline constexpr int kPointerPosition = 60518;
+inline constexpr int kSelectionGeometry = 60519;
+inline constexpr int kSelectedCards = 60520;
+inline constexpr int kMixed = 60521;
+inline constexpr int kNoColor = 60522;
+inline constexpr int kOtherColor = 60523;
+inline constexpr int kNoStyle = 60524;
+inline constexpr int kFontGroup = 60525;
+inline constexpr int kBold = 60526;
+inline constexpr int kItalic = 60527;
+inline constexpr int kTextLeft = 60528;
+inline constexpr int kTextCenter = 60529;
+inline constexpr int kTextRight = 60530;
+inline constexpr int kTextTop = 60531;
+inline constexpr int kTextMiddle = 60532;
+inline constexpr int kTextBottom = 60533;
+inline constexpr int kFindCommand = 60534;
+inline constexpr int kCommands = 60535;
+inline constexpr int kShortcuts = 60536;
+inline constexpr int kGestures = 60537;
+inline constexpr int kGestureMove = 60538;
+inline constexpr int kGestureMoveKeys = 60539;
+inline constexpr int kGestureMoveFar = 60540;
+inline constexpr int kGestureMoveFarKeys = 60541;
+inline constexpr int kGestureZoom = 60542;
+inline constexpr int kGestureZoomKeys = 60543;
+inline constexpr int kGesturePan = 60544;
+inline constexpr int kGesturePanKeys = 60545;
+inline constexpr int kGestureAdd = 60546;
+inline constexpr int kGestureAddKeys = 60547;
+inline constexpr int kGestureToggle = 60548;
+inline constexpr int kGestureToggleKeys = 60549;
+inline constexpr int kGestureNextCard = 60550;
+inline constexpr int kGestureNextCardKeys = 60551;
+inline constexpr int kGestureNextArea = 60552;
+inline constexpr int kGestureNextAreaKeys = 60553;
+inline constexpr int kOpenReport = 60554;
+inline constexpr int kReports = 60555;
+inline constexpr int kReportName = 60556;
+inline constexpr int kChangedOn = 60557;
+inline constexpr int kFilterReports = 60558;
+inline constexpr int kBrowse = 60559;
+inline constexpr int kCannotOpen = 60560;
+inline constexpr int kBadName = 60561;
+inline constexpr int kNameIsTaken = 60562;
+inline constexpr int kDismiss = 60563;
+inline constexpr int kExported = 60564;
+inline constexpr int kCannotPrint = 60565;
+inline constexpr int kGroupGeometry = 60566;
+inline constexpr int kGroupContent = 60567;
+inline constexpr int kGroupFont = 60568;
+inline constexpr int kGroupAlignment = 60569;
+inline constexpr int kGroupColors = 60570;
+inline constexpr int kGroupFormat = 60571;
+inline constexpr int kGroupAnimation = 60572;
+inline constexpr int kGroupScale = 60573;
+inline constexpr int kGroupSeries = 60574;
+inline constexpr int kGroupPage = 60575;
+
+// Titles of the property panel's sections, in the order of `FieldGroup`.
+inline constexpr int kFirstFieldGroup = kGroupGeometry;
+
+// The system's own.
+inline constexpr int kCancel = 380;
+
+}  // namespace xrpt::text

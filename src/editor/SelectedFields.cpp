@@ -1,0 +1,112 @@
+#include "editor/SelectedFields.h"
+
+#include <algorithm>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "editor/RVEditControlWnd.h"
+#include "platform/Host.h"
+
+namespace xrpt {
+
+namespace {
+
+// Rows of the first card's tables that the others' tables have too: kinds share the rows of the kind they derive from.
+std::vector<const FieldRow*> CommonRows(const std::vector<const RVCardControl*>& cards) {
+  std::vector<const FieldRow*> common;
+  ForEachField(cards.front()->GetRuntimeClass().table, [&common](const FieldRow& row) {
+    if (row.panel.textId != 0) common.push_back(&row);
+  });
+  for (const RVCardControl* card : cards) {
+    std::vector<const FieldRow*> rows;
+    ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.push_back(&row); });
+    std::erase_if(common,
+                  [&rows](const FieldRow* row) { return std::find(rows.begin(), rows.end(), row) == rows.end(); });
+  }
+  return common;
+}
+
+std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<const RVCardControl*>& cards) {
+  std::wstring text = row.text(cards.front());
+  const bool same =
+      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
+  return same ? std::optional(std::move(text)) : std::nullopt;
+}
+
+// A style's name alone changes nothing to see: the card takes its font, too.
+void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
+  row.assign(&card, text);
+  if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
+}
+
+}  // namespace
+
+std::vector<const RVCardControl*> SelectedFields::Cards() const {
+  const RVEditTemplateWnd& page = frame_.CurrentPage();
+  std::vector<const RVCardControl*> cards;
+  for (const std::wstring& id : page.Selection().Ids()) {
+    if (const RVCardControl* card = page.Page().cards.Find(id)) cards.push_back(card);
+  }
+  return cards;
+}
+
+int SelectedFields::KindTextId() const {
+  const auto cards = Cards();
+  if (cards.empty()) return 0;
+  const CardClass& kind = cards.front()->GetRuntimeClass();
+  const bool same =
+      std::all_of(cards.begin(), cards.end(), [&](auto* card) { return &card->GetRuntimeClass() == &kind; });
+  return same ? kind.textId : 0;
+}
+
+std::vector<FieldState> SelectedFields::Fields() const {
+  std::vector<FieldState> fields;
+  const auto cards = Cards();
+  if (cards.empty()) {
+    const RVGlobalProperties& page = frame_.CurrentPage().Page().properties;
+    ForEachField(RVGlobalProperties::Table(), [&](const FieldRow& row) {
+      if (row.panel.textId != 0) fields.push_back({&row, row.text(&page)});
+    });
+    return fields;
+  }
+  for (const FieldRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
+  return fields;
+}
+
+std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
+  const auto cards = Cards();
+  if (cards.empty()) return std::nullopt;
+  for (const FieldRow* row : CommonRows(cards)) {
+    if (row->FullName() == name) return FieldState{row, CommonText(*row, cards)};
+  }
+  return std::nullopt;
+}
+
+void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
+  RVEditTemplateWnd& page = frame_.CurrentPage();
+  const auto cards = Cards();
+  open_ = cards.empty() ? Edit::OfPage : Edit::OfCards;
+  std::vector<std::wstring> ids;
+  for (const RVCardControl* card : cards) ids.push_back(card->id);
+  if (cards.empty()) row.assign(static_cast<RVGlobalProperties::FieldRoot*>(&page.Page().properties), text);
+  for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), row, text);
+  page.RedrawBackground();
+  frame_.SetModified(true);
+}
+
+void SelectedFields::Commit() {
+  const Edit ended = std::exchange(open_, Edit::None);
+  if (ended == Edit::OfPage) frame_.CurrentPage().CommitPageEdit();
+  if (ended == Edit::OfCards) frame_.CurrentPage().CommitEdit();
+}
+
+std::wstring CardCaption(const RVCardControl& card) {
+  std::wstring content;
+  ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
+    if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content) content = row.text(&card);
+  });
+  std::replace(content.begin(), content.end(), L'\n', L' ');
+  const std::wstring kind = HostText(card.GetRuntimeClass().textId);
+  return content.empty() ? kind : kind + L" · " + content.substr(0, 80);
+}
+
+}  // namespace xrpt

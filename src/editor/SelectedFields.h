@@ -1,0 +1,53 @@
+// What a property panel shows and changes: the fields that all selected cards have in common, or those of the page when
+// none is selected.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/FieldTable.h"
+
+namespace xrpt {
+
+class RVCardControl;
+class RVEditControlWnd;
+
+struct FieldState {
+  const FieldRow* row;
+  std::optional<std::wstring> text;  // nothing: the cards differ
+};
+
+class SelectedFields {
+ public:
+  explicit SelectedFields(RVEditControlWnd& frame) : frame_(frame) {}
+
+  // How many cards are meant; 0: the page is.
+  std::size_t Count() const { return Cards().size(); }
+  // The cards' kind when all are of one, else 0 (0 for the page, too).
+  int KindTextId() const;
+  // Those that a panel shows, in the tables' order.
+  std::vector<FieldState> Fields() const;
+  // One field by its full name ("font/size"), when all have it.
+  std::optional<FieldState> Find(std::string_view name) const;
+
+  // Writes the text into every card meant, or into the page. Part of an edit that `Commit` ends.
+  void Assign(const FieldRow& row, std::string_view text);
+  // The assignments since the last one become one step of the history.
+  void Commit();
+
+ private:
+  std::vector<const RVCardControl*> Cards() const;
+
+  enum class Edit { None, OfPage, OfCards };
+
+  RVEditControlWnd& frame_;
+  Edit open_ = Edit::None;
+};
+
+// What a list of cards calls one: its kind, and the first of its contents that is not empty.
+std::wstring CardCaption(const RVCardControl& card);
+
+}  // namespace xrpt
