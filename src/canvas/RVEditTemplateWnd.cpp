@@ -95,7 +95,9 @@ void RVEditTemplateWnd::OnVScroll(ScrollCommand command, int thumb) {
   Scroll(scrollY_, ScrollAxis::Vertical, command, thumb);
 }
 
+// An axis on which the page fits has nothing to scroll.
 void RVEditTemplateWnd::Scroll(ScrollInfo& info, ScrollAxis axis, ScrollCommand command, int thumb) {
+  if (!info.visible) return;
   const int first = info.minimum;
   const int last = info.maximum - info.page + 1;
   int& at = info.position;

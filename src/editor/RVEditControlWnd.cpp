@@ -112,6 +112,7 @@ RVEditControlWnd::PageWindow& RVEditControlWnd::AttachWindow(RVReportPage& page)
   added.window->SetDpi(CurrentHost().screen->DpiX(), CurrentHost().screen->DpiY());
   added.window->SetFontFactor(page.fontFactor);
   added.window->SetInsertKind(tool_);
+  added.window->InitializeScrollBars(false);
   port_.PageWindowReady(*added.port, *added.window);
   return added;
 }
@@ -229,6 +230,7 @@ bool RVEditControlWnd::Fit(int mode, bool width) {
   pages_[current_].fitsWidth = width;
   const bool changed = CurrentPage().SetMode(mode);
   CurrentPage().InitializeScrollBars(false);
+  CurrentPage().RedrawBackground();
   port_.StateChanged();
   return changed;
 }

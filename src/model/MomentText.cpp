@@ -116,6 +116,7 @@ int HourOf(int hour, const Parts& parts) {
 // False for a day or an hour no calendar has.
 bool Normalised(std::tm& moment) {
   const std::tm asked = moment;
+  if (asked.tm_year < 1 - 1900 || asked.tm_year > 9999 - 1900) return false;
   moment.tm_isdst = -1;
   std::tm midday = moment;  // away from the hours that clocks skip
   midday.tm_hour = 12;

@@ -24,9 +24,10 @@ std::span<const FieldRow> RVCardButton::Rows() {
       Field<Button, VisualizationCodec, &Button::visualization>(
           nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
       Only<Button, &Button::IsButton>(Constant(nullptr, [](const void*, XmlWriter& out) { out.Bool("button", true); })),
-      Only<Button, &Button::HasTextPart>(
-          WhenNotEmpty<Button, &Button::text>(Field<Button, codec::String, &Button::text>(
-              "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines}))),
+      // A missing caption reads as none, not as a new button's.
+      Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadText>(
+          WriteBy<Button, &Button::WriteText>(Field<Button, codec::String, &Button::text>(
+              nullptr, "text", nullptr, {text::kText, FieldGroup::Content, FieldEditor::Lines})))),
       Only<Button, &Button::HasTextPart>(FontNameRow<Button, &Button::font>()),
       Only<Button, &Button::HasTextPart>(FontStyleRow<Button, &Button::font>()),
       Only<Button, &Button::HasTextPart>(FontSizeRow<Button, &Button::font>()),
@@ -60,6 +61,14 @@ const CardClass& RVCardButton::Class() {
 RVCardButton::RVCardButton() : text(HostText(kCaptionTextId)) { font.size = kFontSize; }
 
 bool RVCardButton::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
+
+void RVCardButton::ReadText(const XmlNode& element) { text = element.Value("textStr"); }
+
+void RVCardButton::WriteText(XmlWriter& out) const {
+  if (text.empty()) return;
+  const XmlElement element(out, "text");
+  out.Value("textStr", text);
+}
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
   if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);

@@ -63,6 +63,8 @@ class RVCardButton : public RVCardControl {
   bool HasTextPart() const { return IsButton() || IsText(); }
   bool IsAligned() const { return IsImage() || IsText(); }
   bool HasImageId() const { return !imageId.empty(); }
+  void ReadText(const XmlNode& element);
+  void WriteText(XmlWriter& out) const;
   void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
   void ReadImage(const XmlNode& node);

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstring>
 #include <pugixml.hpp>
+#include <utility>
 
 #include "platform/Host.h"
 #include "platform/Text.h"
@@ -337,8 +338,11 @@ void XmlWriter::Copy(std::string_view tag, const XmlNode& node) {
   }
   const XmlNode first = node.FirstChild();
   if (!text.empty() && !first) return EndInline(tag);
+  const bool outer = std::exchange(compact_, compact_ || !text.empty());
   for (XmlNode child = first; child; child = child.NextSibling()) Copy(child.Tag(), child);
-  End(tag);
+  compact_ = outer;
+  if (text.empty()) return End(tag);
+  EndInline(tag);
 }
 
 }  // namespace xrpt

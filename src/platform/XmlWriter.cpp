@@ -25,7 +25,13 @@ std::size_t OrdinaryRun(std::basic_string_view<Char> text, std::size_t at) {
 
 void XmlWriter::Declaration() { out_ += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"; }
 
-void XmlWriter::Indent() { out_.append(static_cast<std::size_t>(2 * depth_), ' '); }
+void XmlWriter::Indent() {
+  if (!compact_) out_.append(static_cast<std::size_t>(2 * depth_), ' ');
+}
+
+void XmlWriter::NewLine() {
+  if (!compact_) out_ += '\n';
+}
 
 void XmlWriter::CloseTag() {
   if (open_) out_ += '>';
@@ -35,7 +41,7 @@ void XmlWriter::CloseTag() {
 void XmlWriter::Start(std::string_view tag) {
   if (open_) {
     CloseTag();
-    out_ += '\n';
+    NewLine();
   }
   Indent();
   out_ += '<';
@@ -47,7 +53,8 @@ void XmlWriter::Start(std::string_view tag) {
 void XmlWriter::End(std::string_view tag) {
   --depth_;
   if (open_) {
-    out_ += "/>\n";
+    out_ += "/>";
+    NewLine();
     open_ = false;
     return;
   }
@@ -63,7 +70,8 @@ void XmlWriter::EndInline(std::string_view tag) {
 void XmlWriter::EndTag(std::string_view tag) {
   out_ += "</";
   out_ += tag;
-  out_ += ">\n";
+  out_ += '>';
+  NewLine();
 }
 
 void XmlWriter::Value(std::string_view name, std::wstring_view text) {

@@ -27,6 +27,7 @@ class XmlWriter {
 
  private:
   void Indent();
+  void NewLine();
   // Ends an element that holds text: its end tag stands on the same line.
   void EndInline(std::string_view tag);
   void EndTag(std::string_view tag);
@@ -40,6 +41,7 @@ class XmlWriter {
   std::string& out_;
   int depth_;
   bool open_ = false;
+  bool compact_ = false;  // inside an element that has text of its own, where space would become part of it
 };
 
 // Writes one element for as long as it lives.

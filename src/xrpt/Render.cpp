@@ -50,6 +50,24 @@ std::string RenderPng(const RVReportPage&, double) { return {}; }
 std::string RenderAllPdf(const RVReport&, int) { return {}; }
 #endif
 
+// The first page takes the name itself, the others their number behind it: report.png, report-2.png ...
+Path PictureOfPage(const Path& output, int page) {
+  if (page == 1) return output;
+  Path numbered = output;
+  numbered.replace_filename(output.stem().string() + "-" + std::to_string(page) + output.extension().string());
+  return numbered;
+}
+
+int RenderOne(const RenderOptions& options, const RVReport& report, const RenderRequest& request) {
+  std::string reason;
+  const std::string bytes = RenderReport(report, request, reason);
+  if (bytes.empty()) {
+    PrintError(options.report, reason);
+    return kCouldNotRun;
+  }
+  return WriteOutput(request.output.string(), bytes) ? kNothingToReport : kCouldNotRun;
+}
+
 int Render(const RenderOptions& options) {
   if (!IsRenderable(options.output)) {
     PrintError(options.output, "the output's name must end in .png, .svg or .pdf");
@@ -58,13 +76,15 @@ int Render(const RenderOptions& options) {
   const HostSession session(MakeRenderHost(HostOptionsOf(options)));
   RVReport report;
   if (!OpenReport(options, {}, report)) return kCouldNotRun;
-  std::string reason;
-  const std::string bytes = RenderReport(report, {options.output, options.page, options.dpi}, reason);
-  if (bytes.empty()) {
-    PrintError(options.report, reason);
-    return kCouldNotRun;
+  const auto pages = static_cast<int>(report.pages.size());
+  if (options.page != 0 || EndingOf(options.output) == ".pdf" || pages == 1) {
+    return RenderOne(options, report, {options.output, options.page, options.dpi});
   }
-  return WriteOutput(options.output, bytes) ? kNothingToReport : kCouldNotRun;
+  for (int page = 1; page <= pages; ++page) {
+    const int status = RenderOne(options, report, {PictureOfPage(options.output, page), page, options.dpi});
+    if (status != kNothingToReport) return status;
+  }
+  return kNothingToReport;
 }
 
 }  // namespace
@@ -105,7 +125,9 @@ void AddRender(CLI::App& program, int& status) {
   command->add_option("-o,--output", options->output, "Where to write: a name ending in .png, .svg or .pdf")
       ->required()
       ->type_name("FILE");
-  command->add_option("--page", options->page, "Only this page (default: all of a PDF, the first of a picture)")
+  command
+      ->add_option("--page", options->page,
+                   "Only this page (default: all; pictures after the first are numbered: report-2.png)")
       ->type_name("N")
       ->check(CLI::Range(1, 1000000));
   command->add_option("--dpi", options->dpi, "Dots per inch of a PNG")

@@ -156,11 +156,13 @@ class TimePlot {
     for (const std::wstring& label : canvas_.periods) widest = std::max(widest, canvas_.Width(label));
     const auto stride = static_cast<std::size_t>(std::max(1.0, std::ceil((widest + 2.0 * kGap) / Slot())));
     const Pen pen = canvas_.PenOf(canvas_.card.foregroundColor, 0.5);
+    double free = frame_.left;  // left of it something is written
     for (std::size_t i = 0; i < count_; i += stride) {
       Line(X(i), plot_.bottom, X(i), plot_.bottom + kTick, pen);
-      if (!labelled_) continue;
       const double width = canvas_.Width(canvas_.periods[i]);
-      const double left = std::clamp(X(i) - width * 0.5, frame_.left, std::max(frame_.left, frame_.right - width));
+      const double left = std::max(frame_.left, std::min(X(i) - width * 0.5, frame_.right - width));
+      if (!labelled_ || left < free) continue;
+      free = left + width + kGap;
       canvas_.Text(canvas_.periods[i], left, plot_.bottom + kTick + 1.0 + canvas_.lineHeight * 0.5);
     }
   }
@@ -237,9 +239,11 @@ class TimePlot {
     const bool upwards = bar && width > BarWidth();
     if (at.y > plot_.bottom || (upwards && BarWidth() < canvas_.lineHeight * 0.7)) return;
     const SizeD size = upwards ? SizeD{canvas_.lineHeight * 0.8, width} : SizeD{width, canvas_.lineHeight};
+    // Beside the axes stand their own labels.
+    at.x = std::max(plot_.left + size.width * 0.5 + 1.0, std::min(at.x, plot_.right - size.width * 0.5 - 1.0));
     const double bottom = std::max(at.y, plot_.top) - 2.0;
     const RectD box(at.x - size.width * 0.5, bottom - size.height, at.x + size.width * 0.5, bottom);
-    if (box.left < frame_.left || box.right > frame_.right || box.top < frame_.top) return;
+    if (box.right > plot_.right || box.top < frame_.top) return;
     if (std::any_of(placed.begin(), placed.end(), [&box](const RectD& other) { return Overlap(other, box); })) return;
     placed.push_back(box);
     if (upwards) {

@@ -1,0 +1,56 @@
+#!/bin/sh
+# What the command line refuses: exit status 2, a reason on standard error that names file or line, and no output file.
+# usage: check_refusals.sh XRPT FOLDER   (FOLDER holds plain.xrpt)
+set -u
+xrpt=$1
+folder=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failed=0
+
+# refuse WHAT-THE-MESSAGE-HOLDS ARGUMENTS...
+refuse() {
+  wanted=$1
+  shift
+  "$xrpt" "$@" >"$work/stdout" 2>"$work/stderr"
+  status=$?
+  if [ $status -ne 2 ] || ! grep -q -- "$wanted" "$work/stderr" || [ -e "$work/out.xrpt" ]; then
+    echo "xrpt $*: status $status, wanted 2 and \"$wanted\", got: $(cat "$work/stderr")"
+    failed=1
+  fi
+  rm -f "$work/out.xrpt"
+}
+
+# script LINE-OF-THE-MISTAKE TEXT
+script() {
+  printf "$2" >"$work/actions"
+  refuse "actions:$1:" edit "$folder/plain.xrpt" -o "$work/out.xrpt" --actions "$work/actions"
+}
+
+script 2 'press 10 10\nfly 1 2\n'
+script 1 'press 10\n'
+script 1 'press 10 ten\n'
+script 1 'press 10 10 alt\n'
+script 3 '# a comment\n\nzoom huge\n'
+script 1 'zoom -1\n'
+script 1 'tool hammer\n'
+script 1 'key Hyper\n'
+script 1 'command Explode\n'
+script 1 'set a text "never closed\n'
+script 1 'move 99999999999 1\n'
+script 1 'print now\n'
+script 1 'page 7\n'
+script 1 'select nobody\n'
+script 2 'select a\nset a shoeSize 44\n'
+script 1 'command Print\n'
+
+printf 'not xml' >"$work/text.xrpt"
+printf '' >"$work/empty.xrpt"
+refuse text.xrpt resave "$work/text.xrpt" -o "$work/out.xrpt"
+refuse empty.xrpt resave "$work/empty.xrpt" -o "$work/out.xrpt"
+refuse "$work" resave "$work" -o "$work/out.xrpt"
+refuse missing.xrpt resave "$work/missing.xrpt" -o "$work/out.xrpt"
+refuse 'required' resave "$folder/plain.xrpt"
+refuse 'dpi' resave "$folder/plain.xrpt" -o "$work/out.xrpt" --dpi 0
+refuse nowhere resave "$folder/plain.xrpt" -o "$work/nowhere/out.xrpt"
+exit $failed
