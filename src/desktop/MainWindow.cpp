@@ -68,7 +68,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::Open(const std::wstring& nameOrPath) {
   properties_->Commit();
-  ShowLoadProblem(frame_->Setup(nameOrPath));
+  frame_->Setup(nameOrPath);
 }
 
 void MainWindow::OpenLast() {
@@ -76,7 +76,7 @@ void MainWindow::OpenLast() {
   if (!name.empty()) Open(name);
 }
 
-void MainWindow::ShowLoadProblem(const LoadResult& result) {
+void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
   if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
