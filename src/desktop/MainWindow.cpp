@@ -8,6 +8,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/Actions.h"
+#include "desktop/ClipboardPictures.h"
 #include "desktop/CornerBar.h"
 #include "desktop/FontGroup.h"
 #include "desktop/MessageBar.h"
@@ -97,6 +98,7 @@ std::unique_ptr<WindowPort> MainWindow::NewPageWindow() { return std::make_uniqu
 void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
+  window.SetPictureMaker(AddPictures);
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {
