@@ -8,6 +8,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/Actions.h"
+#include "desktop/ClipboardPictures.h"
 #include "desktop/CornerBar.h"
 #include "desktop/FontGroup.h"
 #include "desktop/MessageBar.h"
@@ -68,7 +69,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::Open(const std::wstring& nameOrPath) {
   properties_->Commit();
-  ShowLoadProblem(frame_->Setup(nameOrPath));
+  frame_->Setup(nameOrPath);
 }
 
 void MainWindow::OpenLast() {
@@ -76,7 +77,7 @@ void MainWindow::OpenLast() {
   if (!name.empty()) Open(name);
 }
 
-void MainWindow::ShowLoadProblem(const LoadResult& result) {
+void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
   if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
@@ -97,6 +98,7 @@ std::unique_ptr<WindowPort> MainWindow::NewPageWindow() { return std::make_uniqu
 void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
+  window.SetPictureMaker(AddPictures);
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {

@@ -99,7 +99,9 @@ void OpenDialog::Browse() {
       this, Translated(text::kOpenReport), folder,
       QStringLiteral("%1 (*%2)").arg(Translated(text::kReports), ToQString(kReportEnding)));
   if (file.isEmpty()) return;
-  chosen_ = file.toStdWString();
+  // Opening puts the ending on again, as on a name.
+  const QString ending = ToQString(kReportEnding);
+  chosen_ = (file.endsWith(ending) ? file.chopped(ending.size()) : file).toStdWString();
   accept();
 }
 

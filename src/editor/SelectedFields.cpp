@@ -5,6 +5,7 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/Host.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -30,6 +31,15 @@ std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<co
   const bool same =
       std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
   return same ? std::optional(std::move(text)) : std::nullopt;
+}
+
+// What people read: a word of a list in their language.
+std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
+  const std::wstring text = row.text(&card);
+  for (const Word& word : row.words) {
+    if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
+  }
+  return text;
 }
 
 // A style's name alone changes nothing to see: the card takes its font, too.
@@ -102,7 +112,8 @@ void SelectedFields::Commit() {
 std::wstring CardCaption(const RVCardControl& card) {
   std::wstring content;
   ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
-    if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content) content = row.text(&card);
+    if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content)
+      content = ShownText(row, card);
   });
   std::replace(content.begin(), content.end(), L'\n', L' ');
   const std::wstring kind = HostText(card.GetRuntimeClass().textId);
