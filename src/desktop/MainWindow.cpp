@@ -21,6 +21,7 @@
 #include "desktop/StatusBar.h"
 #include "desktop/TextIds.h"
 #include "desktop/Texts.h"
+#include "desktop/ThemedScreen.h"
 #include "desktop/WatchedLogger.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -34,6 +35,7 @@ constexpr wchar_t kLastReport[] = L"LastInforme";
 
 MainWindow::MainWindow() {
   setObjectName(QStringLiteral("editor"));
+  ThemedScreen::Install(CurrentHost());
   BuildCentre();
   frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this));
   fields_ = std::make_unique<SelectedFields>(*frame_);
@@ -58,6 +60,7 @@ MainWindow::MainWindow() {
 
 MainWindow::~MainWindow() {
   WatchedLogger::Remove(CurrentHost());
+  ThemedScreen::Remove(CurrentHost());
   frame_.reset();
 }
 
@@ -75,7 +78,7 @@ void MainWindow::OpenLast() {
 
 void MainWindow::ShowLoadProblem(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return;
+  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
@@ -93,6 +96,7 @@ std::unique_ptr<WindowPort> MainWindow::NewPageWindow() { return std::make_uniqu
 
 void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
+  window.SetSmartGuides(smartGuides_);
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {

@@ -113,6 +113,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
   bool writeFailed_ = false;
+  bool smartGuides_ = false;
 };
 
 }  // namespace xrpt

@@ -41,6 +41,7 @@ void OpenDialog::AddList(QBoxLayout& column) {
   list_->setRootIsDecorated(false);
   list_->setAlternatingRowColors(true);
   list_->setFrameShape(QFrame::StyledPanel);
+  list_->header()->setAccessibleName(Translated(text::kReports));
   list_->header()->setStretchLastSection(false);
   list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);

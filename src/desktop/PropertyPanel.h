@@ -8,7 +8,9 @@
 
 #include "editor/SelectedFields.h"
 
+class QBoxLayout;
 class QGridLayout;
+class QLabel;
 class QTimer;
 
 namespace xrpt {

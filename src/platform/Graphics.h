@@ -29,6 +29,8 @@ struct TextRun {
   double pixelSize = 10.0;
   PointD origin;
   double width = 0.0;
+  // The width over what the text takes by nature; 0 when nobody knows, and the device must measure it again.
+  double stretch = 0.0;
   Color color = kBlack;
 };
 
