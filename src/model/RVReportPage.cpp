@@ -9,14 +9,17 @@ bool RVReportPage::SetTemplate(const XmlNode& page) {
   if (!page) return false;
   properties.DeleteBackground();
   cards.Clear();
-  properties.GetFromXml(page);
+  properties.ReadValues(page);
+  XmlNode background;
   for (const XmlNode& element : page) {
+    if (!background && element.Tag() == RVGlobalProperties::kBackgroundTag) background = element;
     std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
     if (!card) continue;
     card->SetParent(this);
     card->GetFromXml(element);
     cards.PushBack(std::move(card));
   }
+  properties.ReadBackground(background);
   return true;
 }
 
