@@ -27,7 +27,7 @@ double StepsBack(const DragAxis& axis, int far) {
   if (excess < 0.0) return 0.0;
   const double grid = GridPixels(axis);
   double steps = std::max(0.0, std::ceil((excess + 0.5) / grid) - 1.0);
-  while (ToPixel(steps * grid) <= excess) ++steps;
+  while (std::round(steps * grid) <= excess) ++steps;
   return steps;
 }
 

@@ -1,0 +1,544 @@
+// The mouse and the keys: events in; states, cursors, selection and millimetres out.
+#include "canvas/CanvasDriver.h"
+#include "canvas/MouseState.h"
+
+namespace xrpt {
+namespace {
+
+constexpr Point kOnA{300, 250};
+constexpr Point kOnB{700, 250};
+constexpr Point kOnPage{300, 600};
+
+class GestureTest : public HostTest {};
+
+// --- States ---
+
+struct StateRow {
+  const char* name;
+  int tool;
+  std::vector<std::wstring> selected;
+  Point press;
+  MouseFlags flags;
+  int pressed;             // state after the press
+  int dragging;            // and after the first move
+  std::string afterClick;  // what is selected when the press is released where it was
+  bool selectionOnly;      // and whether that says that only the selection changed
+};
+
+const StateRow kStates[] = {
+    {"draw", 0, {L"a"}, kOnPage, kPlain, 1, 11, "", true},
+    {"draw, shift", 0, {L"a"}, kOnPage, kShift, 1, 11, "a", true},
+    {"draw, ctrl", 0, {L"a"}, kOnPage, kCtrl, 2, 12, "a", true},
+    {"card", kPointer, {L"b"}, kOnA, kPlain, 3, 7, "a", true},
+    {"card, ctrl", kPointer, {L"b"}, kOnA, kCtrl, 4, 8, "b a", true},
+    {"selected", kPointer, {L"a", L"b"}, kOnA, kPlain, 5, 9, "a", true},
+    {"selected, ctrl", kPointer, {L"a", L"b"}, kOnA, kCtrl, 6, 10, "b", false},
+    {"band", kPointer, {L"a"}, kOnPage, kPlain, 13, 15, "", true},
+    {"band, ctrl", kPointer, {L"a"}, kOnPage, kCtrl, 14, 16, "a", true},
+    {"band, ctrl and shift", kPointer, {L"a"}, kOnPage, kCtrlShift, 14, 16, "a", true},
+    {"band, shift", kPointer, {L"a"}, kOnPage, kShift, 17, 18, "a", true},
+    {"card, shift", kPointer, {L"b"}, kOnA, kShift, 19, 21, "b a", true},
+    {"card, ctrl and shift", kPointer, {L"b"}, kOnA, kCtrlShift, 4, 8, "b a", true},
+    {"selected, shift", kPointer, {L"a", L"b"}, kOnA, kShift, 20, 22, "a b", false},
+    {"card, insert tool", 0, {}, kOnA, kPlain, 3, 7, "a", true},
+};
+
+// Every state is entered by a press or a first move, and left by release, by loss of the capture and by undo.
+TEST_F(GestureTest, StatesAreEnteredAndLeft) {
+  for (const StateRow& row : kStates) {
+    const auto start = [&](Canvas& canvas) {
+      canvas.AddTwo();
+      canvas.wnd.SetInsertKind(row.tool);
+      canvas.wnd.SelectControls(row.selected);
+      canvas.Posted();
+      canvas.Press(row.press, row.flags);
+      EXPECT_EQ(canvas.wnd.CurrentMouseState(), row.pressed) << row.name;
+      EXPECT_TRUE(canvas.port.captured && canvas.port.focused && canvas.port.timers.empty()) << row.name;
+    };
+    {
+      Canvas canvas;
+      start(canvas);
+      canvas.Release(row.press);
+      EXPECT_EQ(canvas.Selected(), row.afterClick) << row.name;
+      const auto posted = canvas.Posted();
+      ASSERT_EQ(posted.size(), 1u) << row.name;
+      EXPECT_EQ(posted[0].value == 1, row.selectionOnly) << row.name;
+      EXPECT_EQ(canvas.wnd.CurrentMouseState(), 0) << row.name;
+      EXPECT_FALSE(canvas.port.captured) << row.name;
+    }
+    for (const bool loses : {true, false}) {
+      Canvas canvas;
+      start(canvas);
+      const Point to{row.press.x + 40, row.press.y + 30};
+      canvas.Move(to);
+      EXPECT_EQ(canvas.wnd.CurrentMouseState(), row.dragging) << row.name;
+      EXPECT_FALSE(canvas.wnd.DraggingRects().empty()) << row.name;
+      const std::string before = canvas.Saved();
+      if (loses) {
+        canvas.port.ReleaseCapture();
+        EXPECT_EQ(canvas.Selected(), "") << row.name;
+        EXPECT_EQ(canvas.Saved(), before) << row.name;
+      } else {
+        canvas.Release(to);
+      }
+      EXPECT_EQ(canvas.wnd.CurrentMouseState(), 0) << row.name;
+      EXPECT_TRUE(canvas.wnd.DraggingRects().empty()) << row.name;
+      EXPECT_TRUE(canvas.wnd.Selection().IsRectUndefined()) << row.name;
+      EXPECT_EQ(canvas.wnd.Selection().draggingStyle, 0) << row.name;
+      EXPECT_EQ(canvas.port.timers.count(1), 1u) << row.name;
+    }
+  }
+}
+
+TEST_F(GestureTest, PressOutsideThePageStartsNothing) {
+  for (const int tool : {0, kPointer}) {
+    Canvas canvas;
+    canvas.AddTwo();
+    canvas.wnd.SetInsertKind(tool);
+    canvas.wnd.SelectControls({L"a"});
+    canvas.Press({50, 50});
+    EXPECT_EQ(canvas.wnd.CurrentMouseState(), 0);
+    EXPECT_FALSE(canvas.port.captured);
+    canvas.Release({50, 50});
+    EXPECT_EQ(canvas.Selected(), tool == kPointer ? "a" : "");
+  }
+}
+
+// --- Moving ---
+
+struct MoveRow {
+  const char* name;
+  int dpi;
+  double zoom;  // 0: fit page
+  double gridX, gridY;
+  double dragX, dragY;    // millimetres the pointer goes
+  double movedX, movedY;  // millimetres the card goes
+};
+
+// A pixel of pointer is a pixel of card; on a grid the corner lands on the nearest line.
+const MoveRow kMoves[] = {
+    {"zoom 0.5", 127, 0.5, -3, -3, 4, 6, 4, 6},
+    {"zoom 1", 127, 1, -3, -3, -4, 6, -4, 6},
+    {"zoom 1.5", 127, 1.5, -3, -3, 4, -6, 4, -6},
+    {"fit", 127, 0, -3, -3, 4, 6, 4, 6},
+    {"other dpi", 254, 1, -3, -3, 0.5, 0.3, 0.5, 0.3},
+    {"grid", 127, 1, 5, 5, 7, 8, 5, 10},
+    {"grid at zoom 1.5", 127, 1.5, 5, 5, 12.4, -7, 10, -5},
+    {"grid at fit", 127, 0, 5, 5, 7, 8, 5, 10},
+    {"grid across only", 254, 0.5, 5, 0, 7, 8, 5, 8},
+    {"grid down only", 127, 0.5, -5, 5, 8, 8, 8, 10},
+    {"off the page", 127, 1, 0, 0, -500, -500, -20, -20},
+    {"off its far edges", 127, 1, 0, 0, 500, 900, 210 - 0.2 - 60, 300 - 0.2 - 40},
+    {"off its far edges on a grid", 127, 1, 7, 7, 500, 900, 168 - 20, 273 - 20},
+    {"grid wider than the page", 127, 1, 500, 500, 50, 50, -20, -20},
+    {"grid finer than a pixel", 127, 1, 0.01, 0.01, 4, 6, 4, 6},
+    {"absurdly fine grid", 127, 1, 1e-300, 1e-300, 4, 6, 4, 6},
+    {"grid of no size", 127, 1, 1e-320, 1e-320, 4, 6, 4, 6},
+    {"infinite grid", 127, 1, HUGE_VAL, NAN, 4, 6, 4, 6},
+};
+
+TEST_F(GestureTest, MovesLandWhereTheRulesSay) {
+  for (const MoveRow& row : kMoves) {
+    Canvas canvas(row.dpi, row.dpi);
+    canvas.page.properties.height = 300;  // whole pixels at every zoom
+    canvas.Add(L"a", {20, 20, 40, 20});
+    canvas.SetGrid(row.gridX, row.gridY);
+    double perMm = row.dpi / 25.4 * row.zoom;
+    Point offset{100, 100};
+    if (row.zoom > 0) {
+      canvas.port.client = {0, 0, roundi(210 * perMm) + 200, roundi(300 * perMm) + 200};
+      canvas.wnd.SetZoom(row.zoom);
+    } else {  // 300 mm fill 1800 pixels: six a millimetre, and the page is centred across
+      canvas.port.client = {0, 0, 2100, 1800};
+      EXPECT_TRUE(canvas.wnd.SetMode(0));
+      EXPECT_LT(canvas.wnd.Zoom(), 0.0);
+      perMm = 6;
+      offset = {420, 0};
+    }
+    const auto at = [&](double x, double y) {
+      return Point{offset.x + roundi(x * perMm), offset.y + roundi(y * perMm)};
+    };
+    canvas.Drag(at(40, 30), at(40 + row.dragX, 30 + row.dragY));
+    ExpectBox(canvas.Box(L"a"), {20 + row.movedX, 20 + row.movedY, 40, 20}, row.name);
+  }
+}
+
+TEST_F(GestureTest, AGroupMovesAsOne) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.wnd.SelectControls({L"a", L"b"});
+  canvas.Drag(kOnB, {kOnB.x + 5000, kOnB.y + 10});
+  // b stops one pixel inside the page, and a keeps its distance.
+  ExpectBox(canvas.Box(L"b"), {210 - 0.2 - 40, 22, 40, 20}, "b");
+  ExpectBox(canvas.Box(L"a"), {210 - 0.2 - 120, 22, 40, 20}, "a");
+}
+
+// A drag begins where the card is, whatever happened to it since it was selected.
+TEST_F(GestureTest, ADragStartsWhereTheCardIs) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.wnd.SelectControls({L"a", L"b"});
+  canvas.wnd.AlignSelectedControls(kAlignLeftEdges);
+  canvas.wnd.SetZoom(2.0);
+  canvas.wnd.ScrollTo(300, 100);
+  // At ten pixels a millimetre a lies at 1000 - 300, 200 - 100.
+  canvas.Drag({900, 200}, {910, 200});
+  ExpectBox(canvas.Box(L"a"), {101, 20, 40, 20}, "a");
+  ExpectBox(canvas.Box(L"b"), {101, 20, 40, 20}, "b");
+  canvas.wnd.ControlUndo();
+  canvas.Drag({900, 200}, {900, 220});
+  ExpectBox(canvas.Box(L"a"), {100, 22, 40, 20}, "after undo");
+}
+
+// --- Resizing ---
+
+struct ResizeRow {
+  const char* name;
+  Point press;
+  Point to;
+  double grid;
+  CardRect wanted;
+  Cursor cursor;
+};
+
+const ResizeRow kResizes[] = {
+    {"left", {201, 250}, {176, 260}, 0, {15, 20, 45, 20}, Cursor::SizeWE},
+    {"right", {399, 250}, {424, 240}, 0, {20, 20, 45, 20}, Cursor::SizeWE},
+    {"bottom", {300, 298}, {350, 318}, 0, {20, 20, 40, 24}, Cursor::SizeNS},
+    {"top", {300, 201}, {300, 211}, 0, {20, 22, 40, 18}, Cursor::SizeNS},
+    {"left and bottom", {203, 298}, {193, 308}, 0, {18, 20, 42, 22}, Cursor::SizeNESW},
+    {"right and bottom", {399, 296}, {409, 306}, 0, {20, 20, 42, 22}, Cursor::SizeNWSE},
+    {"left and top", {205, 201}, {195, 191}, 0, {18, 18, 42, 22}, Cursor::SizeNWSE},
+    {"right and top", {399, 203}, {409, 193}, 0, {20, 18, 42, 22}, Cursor::SizeNESW},
+    {"left through the right", {201, 250}, {501, 250}, 0, {60, 20, 20, 20}, Cursor::SizeWE},
+    {"right over the page's edge", {399, 250}, {5000, 250}, 0, {20, 20, 210 - 0.2 - 20, 20}, Cursor::SizeWE},
+    {"bottom over the page's edge", {300, 298}, {300, 5000}, 0, {20, 20, 40, 297 - 0.2 - 20}, Cursor::SizeNS},
+    {"left over the page's edge", {201, 250}, {-5000, 250}, 0, {0, 20, 60, 20}, Cursor::SizeWE},
+    {"right on the grid", {399, 250}, {411, 250}, 7, {20, 20, 43, 20}, Cursor::SizeWE},
+    {"left on the grid", {201, 250}, {181, 250}, 7, {14, 20, 46, 20}, Cursor::SizeWE},
+    {"right to the last line", {399, 250}, {5000, 250}, 7, {20, 20, 203 - 20, 20}, Cursor::SizeWE},
+    {"top to the first line", {300, 201}, {300, -900}, 7, {20, 0, 40, 40}, Cursor::SizeNS},
+};
+
+TEST_F(GestureTest, HandlesResize) {
+  for (const ResizeRow& row : kResizes) {
+    Canvas canvas;
+    canvas.Add(L"a", {20, 20, 40, 20});
+    canvas.SetGrid(row.grid, row.grid);
+    canvas.Move(row.press);
+    EXPECT_EQ(canvas.port.cursor, row.cursor) << row.name;
+    canvas.Drag(row.press, row.to);
+    ExpectBox(canvas.Box(L"a"), row.wanted, row.name);
+  }
+}
+
+// Below ten pixels the cursor forbids, and letting go changes nothing; in the states with Shift too.
+TEST_F(GestureTest, TooSmallChangesNothing) {
+  for (const MouseFlags flags : {kPlain, kCtrl, kShift}) {
+    Canvas canvas;
+    canvas.Add(L"a", {20, 20, 40, 20});
+    canvas.wnd.SelectControls({L"a"});
+    const std::string before = canvas.Saved();
+    canvas.Press({399, 250}, flags);
+    canvas.Move({210, 250});
+    EXPECT_EQ(canvas.port.cursor, Cursor::SizeWE);
+    canvas.Move({208, 250});
+    EXPECT_EQ(canvas.port.cursor, Cursor::No);
+    canvas.Release({208, 250});
+    EXPECT_EQ(canvas.Saved(), before);
+  }
+}
+
+// A small card may be moved all the same.
+TEST_F(GestureTest, ASmallCardMoves) {
+  Canvas canvas;
+  canvas.Add(L"a", {20, 20, 1.6, 1.6});
+  canvas.wnd.SelectControls({L"a"});
+  canvas.Press({204, 204});
+  EXPECT_EQ(canvas.wnd.Selection().draggingStyle & kMoveAll, canvas.wnd.Selection().draggingStyle);
+  canvas.port.ReleaseCapture();
+  canvas.wnd.SelectControls({L"a"});
+  canvas.wnd.OnKeyDown(key::Right, kCtrl);
+  ExpectBox(canvas.Box(L"a"), {21, 20, 1.6, 1.6}, "by key");
+}
+
+// --- Drawing ---
+
+TEST_F(GestureTest, DrawingInsertsOnTop) {
+  struct Row {
+    const char* name;
+    Point from, to;
+    double grid;
+    CardRect wanted;  // of width 0: nothing is inserted
+  };
+  const Row rows[] = {
+      {"down", {300, 600}, {350, 620}, 0, {40, 100, 10, 4}},
+      {"up and left", {350, 620}, {300, 600}, 0, {40, 100, 10, 4}},
+      {"on a grid", {303, 597}, {349, 622}, 5, {40, 100, 10, 5}},
+      {"just large enough", {300, 600}, {310, 610}, 0, {40, 100, 2, 2}},
+      {"too narrow", {300, 600}, {309, 650}, 0, {}},
+      {"too low", {300, 600}, {350, 609}, 0, {}},
+      {"over the page's edge", {1100, 600}, {5000, 650}, 0, {200, 100, 9.8, 10}},
+  };
+  for (const Row& row : rows) {
+    Canvas canvas;
+    canvas.AddTwo();
+    canvas.SetGrid(row.grid, row.grid);
+    canvas.wnd.SetInsertKind(0);
+    canvas.Press(row.from);
+    EXPECT_EQ(canvas.port.cursor, Cursor::No) << row.name;
+    canvas.Move(row.to);
+    const bool inserts = row.wanted.width > 0;
+    EXPECT_EQ(canvas.port.cursor == Cursor::No, !inserts) << row.name;
+    canvas.Release(row.to);
+    const auto posted = canvas.Posted();
+    EXPECT_EQ(posted.back().value, inserts ? 0 : 1) << row.name;
+    ASSERT_EQ(canvas.page.cards.Size(), inserts ? 3u : 2u) << row.name;
+    if (!inserts) continue;
+    EXPECT_EQ(posted.front().message, Message::CardInserted) << row.name;
+    ExpectBox(RectOf(canvas.page.cards[0]), row.wanted, row.name);
+    EXPECT_TRUE(canvas.wnd.Selection().IsSelected(canvas.page.cards[0].id)) << row.name;
+    EXPECT_EQ(canvas.wnd.Selection().Size(), 1u) << row.name;
+  }
+}
+
+TEST_F(GestureTest, DrawingWithControlKeepsTheSelection) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.wnd.SetInsertKind(3);
+  canvas.wnd.SelectControls({L"a"});
+  canvas.Drag(kOnPage, {400, 700}, kCtrl);
+  EXPECT_EQ(canvas.wnd.Selection().Size(), 2u);
+  EXPECT_EQ(canvas.wnd.Selection().Ids().front(), L"a");
+  EXPECT_EQ(canvas.page.cards[0].color, 0xC000C0u);
+}
+
+struct KindRow {
+  int code;
+  const char* tag;
+  void (RVEditTemplateWnd::*allow)(bool);
+};
+
+// Every tool makes its kind unless that is not supported; other codes make nothing.
+TEST_F(GestureTest, InsertKinds) {
+  const KindRow rows[] = {{0, "label", &RVEditTemplateWnd::SetLabelSupport},
+                          {1, "staticImage", &RVEditTemplateWnd::SetImageSupport},
+                          {3, "date", &RVEditTemplateWnd::SetDateSupport},
+                          {4, "formule", &RVEditTemplateWnd::SetFormuleSupport},
+                          {8, "conditioned", &RVEditTemplateWnd::SetConditionedSupport},
+                          {9, "reportGraph", &RVEditTemplateWnd::SetReportGraphSupport},
+                          {10, "analogBar", &RVEditTemplateWnd::SetAnalogBarSupport},
+                          {136, "primitive", &RVEditTemplateWnd::SetPrimitiveSupport}};
+  Canvas canvas;
+  for (const KindRow& row : rows) {
+    canvas.wnd.SetInsertKind(row.code);
+    const std::size_t before = canvas.page.cards.Size();
+    (canvas.wnd.*row.allow)(false);
+    canvas.wnd.AddControl(1, 2, 30, 40);
+    EXPECT_EQ(canvas.page.cards.Size(), before) << row.tag;
+    (canvas.wnd.*row.allow)(true);
+    canvas.wnd.AddControl(1, 2, 30, 40);
+    ASSERT_EQ(canvas.page.cards.Size(), before + 1) << row.tag;
+    EXPECT_STREQ(canvas.page.cards[0].GetRuntimeClass().tag, row.tag);
+    ExpectBox(RectOf(canvas.page.cards[0]), {1, 2, 30, 40}, row.tag);
+    EXPECT_EQ(canvas.page.cards[0].GetParent(), &canvas.page) << row.tag;
+  }
+  canvas.Posted();
+  for (const int code : {2, 5, -1, 137}) {
+    canvas.wnd.SetInsertKind(code);
+    canvas.wnd.AddControl(1, 2, 30, 40);
+  }
+  EXPECT_EQ(canvas.page.cards.Size(), std::size(rows));
+  EXPECT_TRUE(canvas.Posted().empty());
+}
+
+// Without a drawn rectangle: at the pointer, 30 pixels or a grid step large, pushed back inside the page.
+TEST_F(GestureTest, InsertingAtThePointer) {
+  struct Row {
+    Point pointer;
+    double grid;
+    CardRect wanted;
+  };
+  const Row rows[] = {{{300, 600}, 0, {40, 100, 6, 6}},
+                      {{1140, 600}, 0, {210 - 6.2, 100, 6, 6}},
+                      {{1120, 1580}, 0, {210 - 6.2, 297 - 6.2, 6, 6}},
+                      {{1119, 1554}, 0, {210 - 6.2, 290.8, 6, 6}},
+                      {{20, 30}, 0, {0, 0, 6, 6}},
+                      {{312, 587}, 5, {40, 95, 5, 5}}};
+  for (const Row& row : rows) {
+    Canvas canvas;
+    canvas.SetGrid(row.grid, row.grid);
+    canvas.Move(row.pointer);
+    CardRect found;
+    EXPECT_TRUE(canvas.wnd.GetInitialControlDimensions(found.x, found.y, found.width, found.height));
+    ExpectBox(found, row.wanted, std::to_string(row.pointer.x) + " " + std::to_string(row.pointer.y));
+  }
+}
+
+// --- Bands ---
+
+TEST_F(GestureTest, BandsSelect) {
+  struct Row {
+    const char* name;
+    Point from, to;
+    MouseFlags flags;
+    std::string wanted;  // a was selected before
+  };
+  const Row rows[] = {{"round b", {550, 150}, {850, 350}, kPlain, "b"},
+                      {"round b, right to left", {850, 350}, {550, 150}, kPlain, "b"},
+                      {"round both", {150, 150}, {850, 350}, kPlain, "a b"},
+                      {"toggling both", {150, 150}, {850, 350}, kCtrl, "b"},
+                      {"adding b", {550, 150}, {850, 350}, kShift, "a b"},
+                      {"adding both", {150, 150}, {850, 350}, kShift, "a b"},
+                      {"beside everything", {450, 150}, {500, 350}, kPlain, ""},
+                      {"touching a's edge", {401, 150}, {450, 350}, kPlain, ""},
+                      {"over a's last pixel", {399, 150}, {450, 350}, kPlain, "a"}};
+  for (const Row& row : rows) {
+    Canvas canvas;
+    canvas.AddTwo();
+    canvas.wnd.SelectControls({L"a"});
+    canvas.Drag(row.from, row.to, row.flags);
+    EXPECT_EQ(canvas.Selected(), row.wanted) << row.name;
+    EXPECT_EQ(canvas.Posted().back().value, 1) << row.name;
+  }
+}
+
+// --- Hovering ---
+
+TEST_F(GestureTest, CursorFollowsTheTopCard) {
+  Canvas canvas;
+  canvas.Add(L"below", {20, 20, 40, 20});
+  canvas.Add(L"above", {50, 20, 40, 20});
+  struct Row {
+    Point at;
+    Cursor cursor;
+  };
+  const Row rows[] = {{{300, 250}, Cursor::OverCard}, {{202, 202}, Cursor::SizeNWSE}, {{205, 202}, Cursor::SizeNWSE},
+                      {{212, 202}, Cursor::SizeNS},   {{202, 207}, Cursor::SizeWE},   {{350, 250}, Cursor::SizeWE},
+                      {{398, 250}, Cursor::OverCard}, {{549, 299}, Cursor::SizeNWSE}, {{550, 299}, Cursor::Arrow},
+                      {{202, 299}, Cursor::SizeNESW}, {{548, 203}, Cursor::SizeNESW}, {{100, 100}, Cursor::Arrow}};
+  for (const Row& row : rows) {
+    canvas.Move(row.at);
+    EXPECT_EQ(canvas.port.cursor, row.cursor) << row.at.x << " " << row.at.y;
+  }
+  const int paints = canvas.port.paints;
+  canvas.Move({101, 100});
+  EXPECT_EQ(canvas.port.paints, paints) << "nothing to repaint while nothing changes";
+}
+
+// --- Keys ---
+
+TEST_F(GestureTest, ArrowsMove) {
+  struct Row {
+    const char* name;
+    int dpi;
+    double grid;
+    int key;
+    bool control;
+    double dx, dy;
+  };
+  const Row rows[] = {
+      {"left", 127, 0, key::Left, false, -0.2, 0},        {"up", 127, 0, key::Up, false, 0, -0.2},
+      {"right", 127, 0, key::Right, false, 0.2, 0},       {"down, ctrl", 127, 0, key::Down, true, 0, 1},
+      {"grid", 127, 5, key::Right, false, 5, 0},          {"grid, ctrl", 127, 5, key::Down, true, 0, 5},
+      {"fine grid", 127, 0.1, key::Right, false, 0.2, 0},
+  };
+  for (const Row& row : rows) {
+    Canvas canvas(row.dpi, row.dpi);
+    canvas.AddTwo();
+    canvas.SetGrid(row.grid, row.grid);
+    canvas.wnd.SelectControls({L"a"});
+    canvas.Posted();
+    canvas.wnd.OnKeyDown(row.key, {row.control, false});
+    ExpectBox(canvas.Box(L"a"), {20 + row.dx, 20 + row.dy, 40, 20}, row.name);
+    EXPECT_EQ(canvas.wnd.UndoCount(), 2u) << row.name;
+    EXPECT_EQ(canvas.Posted().front().value, 0) << row.name;
+  }
+}
+
+// 5 mm are 18.9 pixels at 96 dpi: the pointer goes 18, the card lands on the line.
+TEST_F(GestureTest, AnArrowOnAGridLandsOnTheLine) {
+  Canvas canvas(96, 96);
+  canvas.Add(L"a", {20, 20, 40, 20});
+  canvas.SetGrid(5, 5);
+  canvas.wnd.SelectControls({L"a"});
+  canvas.wnd.OnKeyDown(key::Right, kPlain);
+  EXPECT_NEAR(canvas.Box(L"a").x, 25.0, 1e-9);
+}
+
+TEST_F(GestureTest, OtherKeysGoToTheParent) {
+  Canvas canvas;
+  canvas.AddTwo();
+  for (const int code : {key::Escape, key::Left, static_cast<int>('Q')}) {
+    canvas.parent.messages.clear();
+    canvas.wnd.OnKeyDown(code, kPlain, 3 + (7 << 16));
+    ASSERT_EQ(canvas.parent.messages.size(), 1u) << code;
+    EXPECT_EQ(canvas.parent.messages[0].message, Message::KeyDown);
+    EXPECT_EQ(canvas.parent.messages[0].key, code);
+    EXPECT_EQ(canvas.parent.messages[0].value, 3 + (7 << 16));
+  }
+  canvas.wnd.OnKeyDown('E', kCtrl);
+  EXPECT_EQ(canvas.Selected(), "a b");
+  canvas.wnd.OnKeyDown(key::Delete, kPlain);
+  EXPECT_TRUE(canvas.page.cards.IsEmpty());
+  canvas.wnd.OnKeyDown('Z', kCtrl);
+  EXPECT_EQ(canvas.Stacked(), "a b");
+  canvas.wnd.OnKeyDown('Z', kCtrlShift);
+  EXPECT_TRUE(canvas.page.cards.IsEmpty());
+  canvas.wnd.OnKeyDown('Z', kCtrl);
+  canvas.wnd.OnKeyDown('Y', kCtrl);
+  EXPECT_TRUE(canvas.page.cards.IsEmpty());
+}
+
+// --- Menu and timer ---
+
+TEST_F(GestureTest, ContextMenu) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.wnd.SelectControls({L"a"});
+  canvas.wnd.OnRButtonUp(kOnA);
+  const int commands[] = {57635, 57634, 57637, 57643, 0, 415, 57642, 57636, 57641, 0, 0};
+  const bool enabled[] = {true, true, false, false, true, true, true, true, true, true, true};
+  ASSERT_EQ(canvas.port.menu.size(), std::size(commands));
+  for (std::size_t i = 0; i < std::size(commands); ++i) {
+    EXPECT_EQ(canvas.port.menu[i].command, commands[i]) << i;
+    EXPECT_EQ(canvas.port.menu[i].enabled, enabled[i]) << i;
+  }
+  ASSERT_EQ(canvas.port.menu.back().submenu.size(), 1u);
+  EXPECT_EQ(canvas.port.menu.back().submenu[0].command, 800);
+  EXPECT_FALSE(canvas.wnd.OnCommand(800)) << "nobody owns a toolbar";
+  EXPECT_TRUE(canvas.wnd.OnCommand(415));
+  EXPECT_EQ(canvas.Stacked(), "b");
+}
+
+TEST_F(GestureTest, FramesMarchWhileSomethingIsSelected) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.Drag(kOnA, {310, 250});
+  for (const int phase : {1, 2, 3, 4, 5, 0, 1}) {
+    canvas.wnd.OnTimer();
+    EXPECT_EQ(canvas.wnd.Phase(), phase);
+  }
+  canvas.wnd.ClearSelection();
+  canvas.wnd.OnTimer();
+  EXPECT_EQ(canvas.wnd.Phase(), 0);
+  EXPECT_TRUE(canvas.port.timers.empty());
+  canvas.wnd.PlayTimer();
+  EXPECT_TRUE(canvas.port.timers.empty()) << "nothing is selected";
+}
+
+TEST_F(GestureTest, SelectingByIdPicksTheCard) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.wnd.SelectControls({L"a"});
+  EXPECT_TRUE(canvas.wnd.SelectControlById(L"b"));
+  EXPECT_EQ(canvas.Selected(), "b");
+  EXPECT_EQ(canvas.wnd.PickedCardId(), L"b");
+  EXPECT_EQ(canvas.Posted().back().cardId, L"b");
+  EXPECT_FALSE(canvas.wnd.SelectControlById(L"nobody"));
+  EXPECT_EQ(canvas.wnd.PickedCardId(), L"") << "the former pick is let go of";
+  EXPECT_EQ(canvas.Selected(), "b");
+}
+
+}  // namespace
+}  // namespace xrpt
