@@ -8,6 +8,7 @@ namespace xrpt {
 // Runs a rule over the rectangles of the selected cards that exist, in selection order.
 template <class Rule>
 void RVEditTemplateWnd::Arrange(const Rule& rule, int undoTextId) {
+  DropGesture();
   std::vector<std::size_t> indexes = SelectedIndexes();
   std::erase(indexes, CardList::kNowhere);
   Rects rects;
@@ -20,9 +21,8 @@ void RVEditTemplateWnd::Arrange(const Rule& rule, int undoTextId) {
 }
 
 void RVEditTemplateWnd::FinishArranging(int undoTextId) {
-  RefreshRects();
+  if (!AddUndoInfo(false, {undoTextId, static_cast<int>(selection_.Size())})) return;
   RedrawBackground();
-  AddUndoInfo(false, {undoTextId, static_cast<int>(selection_.Size())});
   PostChange(false);
 }
 
@@ -33,7 +33,7 @@ bool RVEditTemplateWnd::IsReferenceThere() const {
 void RVEditTemplateWnd::AlignSelectedControls(int mode) {
   const PagePlacement place = Placement();
   if (!place.IsValid()) return;
-  if (!IsReferenceThere()) return AddUndoInfo(false);
+  if (!IsReferenceThere()) return static_cast<void>(AddUndoInfo(false));
   Arrange([&](Rects& rects, const auto&) { AlignToLast(rects, mode, PageOf(place)); }, text::kAlign);
 }
 
@@ -50,7 +50,7 @@ void RVEditTemplateWnd::DistributeSelectedControls(int mode) {
 }
 
 void RVEditTemplateWnd::JustifySelectedControls(int mode, bool asGroup) {
-  if (selection_.IsEmpty()) return AddUndoInfo(false);
+  if (selection_.IsEmpty()) return static_cast<void>(AddUndoInfo(false));
   const ArrangePage page{page_.properties.width, page_.properties.height, 0.0, 0.0};
   const auto center = asGroup ? CenterAsGroup : CenterEach;
   Arrange([&](Rects& rects, const auto&) { center(rects, mode == 1, page); }, text::kCenter);
@@ -59,7 +59,7 @@ void RVEditTemplateWnd::JustifySelectedControls(int mode, bool asGroup) {
 void RVEditTemplateWnd::ResizeSelectedControls(bool sameWidth, bool sameHeight) {
   const PagePlacement place = Placement();
   if (!place.IsValid()) return;
-  if (!IsReferenceThere()) return AddUndoInfo(false);
+  if (!IsReferenceThere()) return static_cast<void>(AddUndoInfo(false));
   Arrange(
       [&](Rects& rects, const std::vector<std::size_t>& indexes) {
         std::vector<bool> resizable;
@@ -75,6 +75,7 @@ ArrangePage RVEditTemplateWnd::PageOf(const PagePlacement& place) {
 
 void RVEditTemplateWnd::ControlBringToFront() {
   if (selection_.IsEmpty()) return;
+  DropGesture();
   for (const std::wstring& id : selection_.Ids()) {
     const std::size_t index = page_.cards.IndexOf(id);
     if (index != CardList::kNowhere) page_.cards.MoveToFront(index);
@@ -84,6 +85,7 @@ void RVEditTemplateWnd::ControlBringToFront() {
 
 void RVEditTemplateWnd::ControlSendToBack() {
   if (selection_.IsEmpty()) return;
+  DropGesture();
   for (const std::wstring& id : selection_.Ids()) {
     const std::size_t index = page_.cards.IndexOf(id);
     if (index != CardList::kNowhere) page_.cards.MoveToBack(index);

@@ -13,7 +13,9 @@ constexpr std::string_view kRoot = "controlClipboard";
 void RenewIds(RVCardControl& card) {
   card.InitializeId();
   if (auto* conditioned = dynamic_cast<RVCardConditioned*>(&card)) {
-    for (const auto& inner : conditioned->cards) inner->InitializeId();
+    for (const auto& inner : conditioned->cards) {
+      if (inner) inner->InitializeId();
+    }
   }
 }
 
@@ -45,6 +47,7 @@ bool ClipboardReader::Read(RVReportPage& page, std::vector<std::unique_ptr<RVCar
   for (const XmlNode& element : document->Root()) {
     std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
     if (!card) continue;
+    if (cards.size() == kMostCards) return false;
     card->SetParent(&page);
     card->GetFromXml(element);
     RenewIds(*card);

@@ -18,10 +18,11 @@ std::string CardsAsText(const std::vector<const RVCardControl*>& cards);
 class ClipboardReader {
  public:
   static constexpr std::size_t kLimit = 8u << 20;  // bytes
+  static constexpr std::size_t kMostCards = 20'000;
 
   bool HoldsCards() const { return Document() != nullptr; }
   // New cards for a page, with fresh ids throughout, in document order; unknown elements are skipped. False when the
-  // clipboard holds no cards document.
+  // clipboard holds no cards document, or one of more cards than anybody copies.
   bool Read(RVReportPage& page, std::vector<std::unique_ptr<RVCardControl>>& cards) const;
 
  private:

@@ -47,6 +47,7 @@ void RVEditTemplateWnd::ControlPaste() {
   const GridSteps grid = GridOf(page_.properties);
   const double dx = place.IsValid() ? PasteShift(grid.x, place.pixelsPerMm.x, place.PixelWidth()) : 0.0;
   const double dy = place.IsValid() ? PasteShift(grid.y, place.pixelsPerMm.y, place.PixelHeight()) : 0.0;
+  DropGesture();
   PauseTimer();
   ClearSelection();
   for (auto& card : cards) {
@@ -67,9 +68,11 @@ void RVEditTemplateWnd::ControlPaste() {
 
 void RVEditTemplateWnd::DeleteSelectedControls() {
   if (selection_.IsEmpty()) return;
+  DropGesture();
   const int count = static_cast<int>(selection_.Size());
   std::vector<std::size_t> indexes = SelectedIndexes();
-  std::erase(indexes, CardList::kNowhere);
+  // Cards that no id tells apart are left alone.
+  std::erase_if(indexes, [&](std::size_t i) { return i == CardList::kNowhere || page_.cards[i].id.empty(); });
   for (const std::size_t index : indexes) {
     parent_.OnMessage({Message::CardAboutToBeDeleted, page_.cards[index].id, 0});
   }
@@ -83,12 +86,14 @@ void RVEditTemplateWnd::DeleteSelectedControls() {
 void RVEditTemplateWnd::ControlSelectAll() {
   const PagePlacement place = Placement();
   if (page_.cards.IsEmpty() || !place.IsValid()) return;
+  DropGesture();
   PauseTimer();
   ClearSelection();
   for (std::size_t i = 0; i < page_.cards.Size(); ++i) Select(page_.cards[i], ToPixels(place, RectOf(page_.cards[i])));
   StartTimer();
   AddUndoInfo(false, {text::kSelect, 0});
   port_.Invalidate();
+  PostChange(true);
 }
 
 }  // namespace xrpt

@@ -18,10 +18,8 @@ double LineNumber(const DragAxis& axis, double pixel) {
 }
 
 int LinePixel(const DragAxis& axis, double number) {
-  return roundi(number * axis.step * axis.pixelsPerMm + axis.offset);
+  return ToPixel(number * axis.step * axis.pixelsPerMm + axis.offset);
 }
-
-int Sum(int a, int b) { return roundi(static_cast<double>(a) + b); }
 
 // The least number of whole steps back after which a stretch ending at `far` ends on the page.
 double StepsBack(const DragAxis& axis, int far) {
@@ -29,14 +27,14 @@ double StepsBack(const DragAxis& axis, int far) {
   if (excess < 0.0) return 0.0;
   const double grid = GridPixels(axis);
   double steps = std::max(0.0, std::ceil((excess + 0.5) / grid) - 1.0);
-  while (roundi(steps * grid) <= excess) ++steps;
+  while (ToPixel(steps * grid) <= excess) ++steps;
   return steps;
 }
 
 int MoveOnGrid(const DragAxis& axis, int near, int far, int delta) {
   const double line = LineNumber(axis, static_cast<double>(near) + delta);
   const int moved = LinePixel(axis, line) - near;
-  const double back = StepsBack(axis, Sum(far, moved));
+  const double back = StepsBack(axis, far + moved);
   return back > 0.0 ? LinePixel(axis, std::max(0.0, line - back)) - near : moved;
 }
 
@@ -65,14 +63,14 @@ DragAxis VerticalAxis(const PagePlacement& place, const GridSteps& grid) {
 
 int MoveDelta(const DragAxis& axis, int near, int far, int delta) {
   if (axis.HasGrid()) return MoveOnGrid(axis, near, far, delta);
-  if (Sum(near, delta) < axis.Near()) return axis.Near() - near;
-  if (Sum(far, delta) >= axis.Far()) return axis.Far() - 1 - far;
+  if (near + delta < axis.Near()) return axis.Near() - near;
+  if (far + delta >= axis.Far()) return axis.Far() - 1 - far;
   return delta;
 }
 
 int ResizeDelta(const DragAxis& axis, int edge, int delta) {
   if (axis.HasGrid()) return ResizeOnGrid(axis, edge, delta);
-  const int target = std::max(axis.Near(), std::min(Sum(edge, delta), axis.Far() - 1));
+  const int target = std::max(axis.Near(), std::min(edge + delta, axis.Far() - 1));
   return target - edge;
 }
 
@@ -81,7 +79,7 @@ int SnapPixel(const DragAxis& axis, int pixel) {
 }
 
 int ArrowStep(const DragAxis& axis, bool control) {
-  if (axis.HasGrid()) return trunci(GridPixels(axis));
+  if (axis.HasGrid()) return std::max(1, trunci(std::min<double>(GridPixels(axis), kFarPixel)));
   return control ? kControlArrowPixels : kArrowPixels;
 }
 

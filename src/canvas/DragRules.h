@@ -12,8 +12,8 @@ struct DragAxis {
   double step = 0.0;         // grid step, millimetres; 0 and less is off
   double pixelsPerMm = 1.0;  // at the zoom
 
-  int Near() const { return roundi(offset); }
-  int Far() const { return roundi(static_cast<double>(roundi(offset)) + roundi(pagePx)); }
+  int Near() const { return ToPixel(offset); }
+  int Far() const { return Near() + ToPixel(pagePx); }
   // A grid whose lines a screen can tell apart.
   bool HasGrid() const;
 };
@@ -31,7 +31,7 @@ int ResizeDelta(const DragAxis& axis, int edge, int delta);
 // The grid line nearest to a pixel, not before the page's edge; the pixel itself without a grid.
 int SnapPixel(const DragAxis& axis, int pixel);
 
-// Millimetres that one press of an arrow key asks for, in pixels.
+// How far one press of an arrow key asks to go, in pixels; a grid finer than a pixel still lets it go one.
 int ArrowStep(const DragAxis& axis, bool control);
 
 }  // namespace xrpt

@@ -29,4 +29,9 @@ void History::Clear() {
   undone_.clear();
 }
 
+void History::SetSurround(Color color) {
+  for (RVUndo& step : steps_) step.SetSurround(color);
+  for (RVUndo& step : undone_) step.SetSurround(color);
+}
+
 }  // namespace xrpt

@@ -27,6 +27,7 @@ class History {
   const RVUndo& StepForward();
   void DeleteLast();
   void Clear();
+  void SetSurround(Color color);
 
  private:
   std::deque<RVUndo> steps_;

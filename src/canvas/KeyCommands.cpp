@@ -18,7 +18,8 @@ enum MenuCommand : int {
   kReplace = 57641,
   kSelectAll = 57642,
   kUndo = 57643,
-  kToolbar = 800,
+  kFirstToolbar = 800,
+  kLastToolbar = 850,
 };
 
 bool IsArrow(int code) { return code >= key::Left && code <= key::Down; }
@@ -39,6 +40,8 @@ Point Direction(int code) {
 }  // namespace
 
 void RVEditTemplateWnd::OnKeyDown(int code, MouseFlags flags, long long keyFlags) {
+  if (code == key::Escape) return KeyProcessESC(keyFlags);
+  flags.control = flags.control || port_.IsControlDown();
   if (code == key::Delete) return ControlDelete();
   if (IsArrow(code) && !selection_.IsEmpty()) return MoveByKey(code, flags.control);
   if (flags.control) {
@@ -62,6 +65,10 @@ void RVEditTemplateWnd::OnKeyDown(int code, MouseFlags flags, long long keyFlags
   parent_.OnMessage({Message::KeyDown, {}, keyFlags, code});
 }
 
+void RVEditTemplateWnd::KeyProcessESC(long long keyFlags) {
+  parent_.OnMessage({Message::KeyDown, {}, keyFlags, key::Escape});
+}
+
 // A key press runs as a whole gesture, so that page and grid bind as for the mouse.
 void RVEditTemplateWnd::MoveByKey(int code, bool control) {
   const PagePlacement place = Placement();
@@ -69,13 +76,18 @@ void RVEditTemplateWnd::MoveByKey(int code, bool control) {
   const GridSteps grid = GridOf(page_.properties);
   const Point direction = Direction(code);
   RefreshRects();
+  snaps_ = true;
+  guideHits_ = {};
   const Rect all = selection_.CalculateGlobalRect();
   selection_.anchor = {(all.left + all.right) / 2, (all.top + all.bottom) / 2};
   selection_.draggingStyle = kMoveAll;
   mouseState_ = kDragCard;
   cursor_ = Cursor::Moving;
-  MoveDraggingRect({selection_.anchor.x + direction.x * ArrowStep(HorizontalAxis(place, grid), control),
-                    selection_.anchor.y + direction.y * ArrowStep(VerticalAxis(place, grid), control)});
+  const Point step = MoveInside(all,
+                                {direction.x * ArrowStep(HorizontalAxis(place, grid), control),
+                                 direction.y * ArrowStep(VerticalAxis(place, grid), control)},
+                                place);
+  selection_.Offset(step.x, step.y);
   RepositioningControl();
   selection_.draggingStyle = kNoEdge;
   selection_.SetRectUndefined();
@@ -93,6 +105,7 @@ void RVEditTemplateWnd::OnRButtonUp(Point point) {
   hoverId_.clear();
   const tagEditMenuState state = EditMenuState();
   const MenuItem separator;
+  const bool isToolbarShown = toolbar_.isShown && toolbar_.isShown();
   port_.TrackPopupMenu({{kCut, 32379, state.cut, false, {}},
                         {kCopy, 732, state.copy, false, {}},
                         {kPaste, 742, state.paste, false, {}},
@@ -103,7 +116,7 @@ void RVEditTemplateWnd::OnRButtonUp(Point point) {
                         {kFind, 218, true, false, {}},
                         {kReplace, 34893, true, false, {}},
                         separator,
-                        {0, 32526, true, false, {{kToolbar, 0, true, false, {}}}}},
+                        {0, 32526, true, false, {{kFirstToolbar, toolbar_.textId, true, isToolbarShown, {}}}}},
                        point);
   PlayTimer();
 }
@@ -129,8 +142,14 @@ bool RVEditTemplateWnd::OnCommand(int command) {
       ControlUndo();
       return true;
     default:
-      return false;
+      return ToggleToolbar(command - kFirstToolbar);
   }
+}
+
+bool RVEditTemplateWnd::ToggleToolbar(int toolbar) {
+  if (toolbar < 0 || toolbar > kLastToolbar - kFirstToolbar || !toolbar_.toggle) return false;
+  toolbar_.toggle(toolbar);
+  return true;
 }
 
 void RVEditTemplateWnd::GetEditMenuState(tagEditMenuState& state) const { state = EditMenuState(); }

@@ -11,6 +11,8 @@ namespace xrpt {
 // --- Press ---
 
 void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
+  point = Bounded(point);
+  DropGesture();
   const HitCard hit = CardAt(page_.cards, Placement(), point);
   hoverId_ = hit.card ? hit.card->id : std::wstring();
   pressedId_ = hoverId_;
@@ -23,7 +25,7 @@ void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
   if (hit.card) {
     StartOnCard(hit.card->id, wasSelected, point, hit.rect, flags);
   } else if (!StartOnPage(point, flags)) {
-    return;
+    return port_.Invalidate();
   }
   StartGesture();
 }
@@ -49,8 +51,9 @@ void RVEditTemplateWnd::StartOnCard(const std::wstring& id, bool wasSelected, Po
   mouseState_ = PressOnCard(wasSelected, flags.control, flags.shift);
   selection_.draggingStyle = style;
   selection_.anchor = point;
-  for (RVSelection::Entry& entry : selection_.Entries()) {
-    entry.fixedPoint = FixedCorner(entry.rect, style, entry.fixedPoint);
+  for (std::size_t i = 0; i < selection_.Size(); ++i) {
+    const RVSelection::Entry& entry = selection_.Entries()[i];
+    selection_.SetFixedPoint(i, FixedCorner(entry.rect, style, entry.fixedPoint));
   }
   activeCursor_ = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::Moving);
 }
@@ -59,8 +62,9 @@ void RVEditTemplateWnd::StartGesture() {
   phase_ = 0;
   PauseTimer();
   pressPoint_ = selection_.anchor;
-  pulled_ = {};
-  if (smartGuides_ && selection_.IsRectUndefined()) GatherSnapTargets();
+  snaps_ = true;
+  guideSource_.reset();
+  guideHits_ = {};
   port_.SetCapture();
   SetCursor(activeCursor_);
   port_.Invalidate();
@@ -70,6 +74,7 @@ void RVEditTemplateWnd::StartGesture() {
 // --- Move ---
 
 void RVEditTemplateWnd::OnMouseMove(Point point, DragModifiers modifiers) {
+  point = Bounded(point);
   if (point == lastPoint_) return;
   lastPoint_ = point;
   if (mouseState_ == kIdle) return Hover(point);
@@ -83,14 +88,21 @@ void RVEditTemplateWnd::Hover(Point point) {
   const HitCard hit = CardAt(page_.cards, Placement(), point);
   const std::wstring hoverId = hit.card ? hit.card->id : std::wstring();
   const int style = hit.card && hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
-  const Cursor cursor = hit.card ? CursorOfStyle(style, Cursor::OverCard) : Cursor::Arrow;
-  if (cursor == cursor_ && hoverId == hoverId_) return;
+  if (hit.card) {
+    activeCursor_ = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::OverCard);
+  } else {
+    UpdateActiveCursor();
+  }
+  if (activeCursor_ == cursor_ && hoverId == hoverId_) return;
   hoverId_ = hoverId;
-  SetCursor(cursor);
+  SetCursor(activeCursor_);
   port_.Invalidate();
 }
 
 void RVEditTemplateWnd::DragTo(Point point, const DragModifiers& modifiers) {
+  snaps_ = !(smartGuides_ && modifiers.alt);
+  guideLines_.clear();
+  guideHits_ = {};
   switch (selection_.draggingStyle) {
     case kLeftEdge:
     case kRightEdge:
@@ -104,7 +116,7 @@ void RVEditTemplateWnd::DragTo(Point point, const DragModifiers& modifiers) {
     case kRightEdge | kTopEdge:
       return ResizeDraggingRect(point, true, true);
     default:
-      return smartGuides_ ? MoveWithGuides(point, modifiers) : MoveDraggingRect(point);
+      return MoveDraggingRect(smartGuides_ && modifiers.shift ? KeepAxis(pressPoint_, point) : point);
   }
 }
 
@@ -132,11 +144,12 @@ void RVEditTemplateWnd::SetNewCursor() {
 // --- Release and loss ---
 
 void RVEditTemplateWnd::OnLButtonUp(Point point) {
+  point = Bounded(point);
   bool selectionOnly = ChangesSelectionOnly(mouseState_);
   const UndoName name = GestureName();
   if (mouseState_ != kIdle) {
     if (RepositioningControl()) selectionOnly = true;
-    EndGesture();
+    DropGesture();
     SetCursor(CardAt(page_.cards, Placement(), point).card ? Cursor::OverCard : Cursor::Arrow);
     RedrawBackground();
     StartTimer();
@@ -145,24 +158,27 @@ void RVEditTemplateWnd::OnLButtonUp(Point point) {
   PostChange(selectionOnly);
 }
 
-// The state goes first: letting go of the capture tells the window that it lost it.
-void RVEditTemplateWnd::EndGesture() {
+// Ends a gesture without writing anything. The state goes first: letting go of the capture tells the window that it
+// lost it.
+void RVEditTemplateWnd::DropGesture() {
+  if (mouseState_ == kIdle) return;
   mouseState_ = kIdle;
   selection_.draggingStyle = kNoEdge;
   selection_.SetRectUndefined();
   guideLines_.clear();
+  guideSource_.reset();
   port_.ReleaseCapture();
 }
 
 // Cancels a running gesture: no geometry is written, and the selection goes.
 void RVEditTemplateWnd::OnCaptureChanged() {
   if (mouseState_ == kIdle) return;
-  mouseState_ = kIdle;
-  guideLines_.clear();
+  DropGesture();
   ClearSelection();
   AddUndoInfo(false, {text::kSelect, 0});
   StartTimer();
-  SetCursor(Cursor::Arrow);
+  UpdateActiveCursor();
+  SetCursor(activeCursor_);
   RedrawBackground();
   PostChange(true);
 }

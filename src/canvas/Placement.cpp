@@ -10,10 +10,12 @@ constexpr double kInitialMillimetres = 10.0;
 
 bool IsExtent(double value) { return std::isfinite(value) && value > 0.0; }
 
-// The offset of a centred page, or of one scrolled because it does not fit.
+// The offset of a centred page, or of one scrolled because it does not fit. A position from the time when it was larger
+// never scrolls it out of sight.
 double Offset(int client, double pagePx, int scroll) {
   const double centred = (client - pagePx) * 0.5;
-  return std::round(centred) < 0.0 ? -static_cast<double>(scroll) : centred;
+  if (!(std::round(centred) < 0.0)) return centred;
+  return -static_cast<double>(std::min(scroll, std::max(0, ToPixel(pagePx) - client)));
 }
 
 // One axis of the weak snap: the near edge, then the far edge it leaves.
@@ -21,37 +23,39 @@ void AdjustAxis(double& near, double& size, double step, double tolerance) {
   if (!IsActive(step)) return;
   const double nearLine = SnapToGrid(near, step);
   if (std::abs(nearLine - near) < tolerance) near = nearLine;
-  const double farLine = SnapToGrid(near + size, step);
-  if (std::abs(farLine - (near + size)) < tolerance) size = farLine - near;
+  if (std::abs(SnapToGrid(near + size, step) - (near + size)) < tolerance) SnapFarEdge(near, size, step);
 }
 
 int InitialSize(double step, double pixelsPerMm) {
-  return IsActive(step) ? roundi(step * pixelsPerMm) : kInitialPixels;
+  return IsActive(step) ? std::max(1, ToPixel(step * pixelsPerMm)) : kInitialPixels;
 }
 
-// Moves a stretch of pixels back onto the page.
-int KeepInside(int near, int size, int pageNear, int pageSize) {
-  const int excess = near + size - (pageNear + pageSize - 1);
-  if (excess > 0) return near - excess - 1;
+// Moves a stretch of pixels back onto the page; at the far edge it ends one pixel inside.
+int KeepInside(int near, int size, int pageNear, int pageFar) {
+  if (near + size > pageFar - 1) return pageFar - 1 - size;
   return std::max(near, pageNear);
 }
 
 void SnapAxis(double& near, double& size, double step) {
   if (!IsActive(step)) return;
-  const double far = near + size;
   near = SnapToGrid(near, step);
-  size = SnapToGrid(far, step) - near;
+  SnapFarEdge(near, size, step);
 }
 
 }  // namespace
 
+int ToPixel(double value) { return std::clamp(roundi(value), -kFarPixel, kFarPixel); }
+
+Point Bounded(Point point) {
+  return {std::clamp(point.x, -kFarPixel, kFarPixel), std::clamp(point.y, -kFarPixel, kFarPixel)};
+}
+
 bool PagePlacement::IsValid() const { return IsExtent(pageWidthPx) && IsExtent(pageHeightPx); }
 
 Rect PagePlacement::PageRect() const {
-  const int left = roundi(offsetX);
-  const int top = roundi(offsetY);
-  return {left, top, roundi(static_cast<double>(left) + roundi(pageWidthPx)),
-          roundi(static_cast<double>(top) + roundi(pageHeightPx))};
+  const int left = ToPixel(offsetX);
+  const int top = ToPixel(offsetY);
+  return {left, top, left + ToPixel(pageWidthPx), top + ToPixel(pageHeightPx)};
 }
 
 PagePlacement PlacePage(const RVGlobalProperties& page, const PixelsPerMm& scale, double zoom, const Rect& client,
@@ -81,18 +85,16 @@ void SetRect(RVCardControl& card, const CardRect& rect) {
 
 // Width and height are rounded apart from the corner, so that a card's size in pixels does not wobble while it moves.
 Rect ToPixels(const PagePlacement& place, const CardRect& rect) {
-  const int left = roundi(std::round(place.offsetX) + place.pageWidthPx * rect.x / place.pageWidth);
-  const int top = roundi(std::round(place.offsetY) + place.pageHeightPx * rect.y / place.pageHeight);
-  const int width = roundi(place.pageWidthPx * rect.width / place.pageWidth);
-  const int height = roundi(place.pageHeightPx * rect.height / place.pageHeight);
-  return {left, top, roundi(static_cast<double>(left) + width), roundi(static_cast<double>(top) + height)};
+  const int left = ToPixel(std::round(place.offsetX) + place.pageWidthPx * rect.x / place.pageWidth);
+  const int top = ToPixel(std::round(place.offsetY) + place.pageHeightPx * rect.y / place.pageHeight);
+  return {left, top, left + ToPixel(place.pageWidthPx * rect.width / place.pageWidth),
+          top + ToPixel(place.pageHeightPx * rect.height / place.pageHeight)};
 }
 
 CardRect ToMillimetres(const PagePlacement& place, const Rect& rect) {
   return {(rect.left - place.offsetX) * place.pageWidth / place.pageWidthPx,
           (rect.top - place.offsetY) * place.pageHeight / place.pageHeightPx,
-          (static_cast<double>(rect.right) - rect.left) * place.pageWidth / place.pageWidthPx,
-          (static_cast<double>(rect.bottom) - rect.top) * place.pageHeight / place.pageHeightPx};
+          rect.Width() * place.pageWidth / place.pageWidthPx, rect.Height() * place.pageHeight / place.pageHeightPx};
 }
 
 double ZoomOfMode(int mode, double current, const RVGlobalProperties& page, const PixelsPerMm& scale,
@@ -113,6 +115,11 @@ double SnapToGrid(double value, double step) {
   return std::isfinite(snapped) ? snapped : value;
 }
 
+void SnapFarEdge(double near, double& size, double step) {
+  const double snapped = SnapToGrid(near + size, step) - near;
+  if (snapped > 0.0) size = snapped;
+}
+
 void IntelligentAdjustToGrid(CardRect& rect, const GridSteps& grid, const PagePlacement& place) {
   if (!place.IsValid()) return;
   AdjustAxis(rect.x, rect.width, grid.x, place.PixelWidth());
@@ -126,8 +133,9 @@ CardRect InitialCardRect(const PagePlacement& place, const GridSteps& grid, cons
     const Rect page = place.PageRect();
     const int width = InitialSize(grid.x, scale.x * std::abs(zoom));
     const int height = InitialSize(grid.y, scale.y * std::abs(zoom));
-    const int left = KeepInside(pointer.x, width, page.left, page.Width());
-    const int top = KeepInside(pointer.y, height, page.top, page.Height());
+    pointer = Bounded(pointer);
+    const int left = KeepInside(pointer.x, width, page.left, page.right);
+    const int top = KeepInside(pointer.y, height, page.top, page.bottom);
     rect = {(left - page.left) * place.PixelWidth(), (top - page.top) * place.PixelHeight(), width * place.PixelWidth(),
             height * place.PixelHeight()};
   }

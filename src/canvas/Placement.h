@@ -10,6 +10,12 @@ namespace xrpt {
 // Zoom before there is a window to fit the page into; the next placement makes it 1.
 inline constexpr double kUndeterminedZoom = 2.2250738585072014e-308;
 
+// Pixels are kept this far from the ends of their type, so that sums and differences of a few of them never overflow,
+// whatever a file or a script says.
+inline constexpr int kFarPixel = 1 << 26;
+int ToPixel(double value);  // rounded half away from zero
+Point Bounded(Point point);
+
 struct PixelsPerMm {
   double x = 96.0 / 25.4;
   double y = 96.0 / 25.4;
@@ -70,6 +76,8 @@ inline bool IsActive(double step) { return step > 0.0; }
 
 // The nearest grid line.
 double SnapToGrid(double value, double step);
+// The far edge put onto the grid; never so that nothing of the size is left.
+void SnapFarEdge(double near, double& size, double step);
 // Pulls an edge onto the grid when it already lies within a pixel of a line; cards placed between lines stay.
 void IntelligentAdjustToGrid(CardRect& rect, const GridSteps& grid, const PagePlacement& place);
 

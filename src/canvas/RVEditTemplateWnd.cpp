@@ -20,7 +20,26 @@ constexpr int kScrollPage = 10;
 
 RVEditTemplateWnd::RVEditTemplateWnd(RVReportPage& page, WindowPort& port, MessageQueue& queue, MessageTarget& parent)
     : page_(page), port_(port), queue_(queue), parent_(parent) {
-  AddUndoInfo(false);
+  AddUndoInfo(true);
+}
+
+RVEditTemplateWnd::~RVEditTemplateWnd() { PauseTimer(); }
+
+bool RVEditTemplateWnd::SetTemplate(const XmlNode& page) {
+  DropGesture();
+  if (!page_.SetTemplate(page)) return false;
+  ClearSelection();
+  pickedId_.clear();
+  history_.Clear();
+  AddUndoInfo(true);
+  RedrawBackground();
+  return true;
+}
+
+void RVEditTemplateWnd::SetSurround(Color color) {
+  page_.properties.backcolor = color;
+  history_.SetSurround(color);
+  RedrawBackground();
 }
 
 void RVEditTemplateWnd::SetDpi(int dpiX, int dpiY) {
@@ -143,8 +162,8 @@ void RVEditTemplateWnd::OnSize() {
 PagePlacement RVEditTemplateWnd::Placement() const { return Placement(port_.ClientRect()); }
 
 PagePlacement RVEditTemplateWnd::Placement(const Rect& client) const {
-  const double zoom = zoom_ == kUndeterminedZoom ? 1.0 : zoom_;
-  return PlacePage(page_.properties, scale_, zoom, client, scrollX_.position, scrollY_.position);
+  if (zoom_ == kUndeterminedZoom) zoom_ = 1.0;
+  return PlacePage(page_.properties, scale_, zoom_, client, scrollX_.position, scrollY_.position);
 }
 
 bool RVEditTemplateWnd::GetTemplateDimensions(double& offsetX, double& offsetY, double& pageWidthPx,
@@ -235,8 +254,11 @@ tagDraw RVEditTemplateWnd::MakeDraw(const Rect& clip) const {
   return draw;
 }
 
+// Whatever made the page look different may have moved the selected cards on the screen. A gesture that runs keeps its
+// own rectangles.
 void RVEditTemplateWnd::RedrawBackground() {
   redrawBackground_ = true;
+  if (mouseState_ == kIdle && !selection_.IsEmpty()) RefreshRects();
   port_.Invalidate();
 }
 

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,11 +40,17 @@ class RVEditTemplateWnd {
  public:
   // `page`, `port`, `queue` and `parent` must outlive the window. The page as it is becomes the base of the history.
   RVEditTemplateWnd(RVReportPage& page, WindowPort& port, MessageQueue& queue, MessageTarget& parent);
+  virtual ~RVEditTemplateWnd();
   RVEditTemplateWnd(const RVEditTemplateWnd&) = delete;
   RVEditTemplateWnd& operator=(const RVEditTemplateWnd&) = delete;
 
   const RVReportPage& Page() const { return page_; }
   RVReportPage& Page() { return page_; }
+
+  // Rebuilds the page from a "page" element and starts a history of its own. False without an element.
+  bool SetTemplate(const XmlNode& page);
+  void SaveTemplate(XmlWriter& root) const { page_.SaveTemplate(root); }
+  void SaveCtrlsTemplate(XmlWriter& page) const { page_.SaveCtrlsTemplate(page); }
 
   // --- Set-up ---
   void SetDpi(int dpiX, int dpiY);
@@ -59,6 +66,9 @@ class RVEditTemplateWnd {
   void SetReportGraphSupport(bool on) { SetSupport(0x0020, on); }
   void SetAnalogBarSupport(bool on) { SetSupport(0x0040, on); }
   void SetPrimitiveSupport(bool on) { SetSupport(0x4000, on); }
+
+  // The colour round the page where it follows the user's theme: no change of the page.
+  void SetSurround(Color color);
 
   // --- Zoom, orientation, scrolling ---
   // See ZoomOfMode. True when the stored zoom changed.
@@ -91,7 +101,16 @@ class RVEditTemplateWnd {
   // --- Cards ---
   // Inserts a card of the active kind on top and selects it; millimetres. A kind outside the list, or one that is not
   // supported, inserts nothing.
-  void AddControl(double x, double y, double width, double height);
+  virtual void AddControl(double x, double y, double width, double height);
+  // One inserter a kind, whichever is active.
+  void AddLabel(double x, double y, double width, double height) { AddCard(0, x, y, width, height); }
+  void AddImage(double x, double y, double width, double height) { AddCard(1, x, y, width, height); }
+  void AddDate(double x, double y, double width, double height) { AddCard(3, x, y, width, height); }
+  void AddFormule(double x, double y, double width, double height) { AddCard(4, x, y, width, height); }
+  void AddConditioned(double x, double y, double width, double height) { AddCard(8, x, y, width, height); }
+  void AddReportGraph(double x, double y, double width, double height) { AddCard(9, x, y, width, height); }
+  void AddAnalogBar(double x, double y, double width, double height) { AddCard(10, x, y, width, height); }
+  void AddPrimitive(double x, double y, double width, double height) { AddCard(136, x, y, width, height); }
   // The same at the pointer, without a drawn rectangle.
   void AddControlAtPointer();
   const RVCardControl* GetControlById(std::wstring_view id) const { return page_.cards.Find(id); }
@@ -118,6 +137,13 @@ class RVEditTemplateWnd {
   // `flags` of the key event goes on to the parent with keys the canvas does not handle.
   void OnKeyDown(int key, MouseFlags flags, long long keyFlags = 0);
   void OnCaptureChanged();
+  // The toolbar entry of the popup menu, named and carried out by whoever owns toolbars; without one there is none.
+  struct ToolbarEntry {
+    int textId = 0;
+    std::function<bool()> isShown;
+    std::function<void(int toolbar)> toggle;
+  };
+  void SetToolbarEntry(ToolbarEntry entry) { toolbar_ = std::move(entry); }
   // A command of the popup menu or the host, by its number. False for one the canvas does not carry out.
   bool OnCommand(int command);
   int CurrentMouseState() const { return mouseState_; }
@@ -125,8 +151,8 @@ class RVEditTemplateWnd {
   Point LastMousePoint() const { return lastPoint_; }
 
   // --- History ---
-  // Takes a snapshot when anything changed, or always when forced.
-  void AddUndoInfo(bool force, UndoName name = {});
+  // Takes a snapshot when anything changed, or always when forced. True when it took one.
+  bool AddUndoInfo(bool force, UndoName name = {});
   void ControlUndo();
   void ControlRedo();
   void DeleteLastUndo() { history_.DeleteLast(); }
@@ -139,7 +165,7 @@ class RVEditTemplateWnd {
   // --- Clipboard and commands on the selection ---
   void ControlCopy();
   void ControlCut();
-  void ControlPaste();
+  virtual void ControlPaste();
   void ControlDelete() { DeleteSelectedControls(); }
   void DeleteSelectedControls();
   void ControlSelectAll();
@@ -187,6 +213,7 @@ class RVEditTemplateWnd {
   void UpdateRect(std::wstring_view id, const Rect& rect);
 
   // --- Smart guides: off until the application asks for them ---
+  // Alt lets go of guides and grid during a drag, Shift keeps a moved card on its row or column.
   void SetSmartGuides(bool on) { smartGuides_ = on; }
   bool HasSmartGuides() const { return smartGuides_; }
   const std::vector<GuideLine>& Guides() const { return guideLines_; }
@@ -194,6 +221,13 @@ class RVEditTemplateWnd {
   static void FormatDouble(std::wstring& out, double value, int integers, int decimals, bool thousandSeparator,
                            bool leftPadding, bool rightPadding);
   static void ParseDate(std::wstring& out, std::wstring_view pattern, const std::tm& moment);
+
+ protected:
+  // The cursor over empty page: the arrow.
+  virtual void UpdateActiveCursor() { activeCursor_ = Cursor::Arrow; }
+  // Escape, which the canvas leaves to its parent.
+  virtual void KeyProcessESC(long long keyFlags);
+  Cursor activeCursor_ = Cursor::Arrow;  // what lies under the pointer asks for it
 
  private:
   static constexpr int kSelectionTimer = 1;
@@ -207,6 +241,7 @@ class RVEditTemplateWnd {
   void SelectAlone(const std::wstring& id);
   void RefreshRects();
   void Insert(std::unique_ptr<RVCardControl> card);
+  void AddCard(int kind, double x, double y, double width, double height);
   std::unique_ptr<RVCardControl> NewCard(int kind) const;
 
   // Mouse, see MouseGestures.cpp
@@ -227,11 +262,15 @@ class RVEditTemplateWnd {
   bool EndDrawing(const PagePlacement& place);
   void EndDrag(const PagePlacement& place);
   void EndClick();
-  void EndGesture();
-  void GatherSnapTargets();
-  void MoveWithGuides(Point point, const DragModifiers& modifiers);
+  void DropGesture();
+  Point MoveInside(const Rect& all, Point delta, const PagePlacement& place) const;
+  Point WithGuides(Point delta, const Rect& moved, GuideParts x, GuideParts y, const PagePlacement& place);
+  GuideSource GatherGuides(const PagePlacement& place) const;
+  void AdjustToGuides(std::vector<CardRect>& rects, bool resized) const;
+  GridSteps DragGrid() const;
 
   void MoveByKey(int key, bool control);
+  bool ToggleToolbar(int toolbar);
   void StartTimer();
   void PostChange(bool selectionOnly);
   void Restore(const RVUndo& step, const RVUndo& flags);
@@ -241,6 +280,7 @@ class RVEditTemplateWnd {
   void Arrange(const Rule& rule, int undoTextId);
   void FinishArranging(int undoTextId);
   void FinishStacking(int undoTextId);
+  UndoName StepName(const RVUndo& step, UndoName asked) const;
   bool IsReferenceThere() const;
   static ArrangePage PageOf(const PagePlacement& place);
 
@@ -255,7 +295,7 @@ class RVEditTemplateWnd {
   MessageTarget& parent_;
 
   PixelsPerMm scale_;
-  double zoom_ = 1.0;
+  mutable double zoom_ = 1.0;  // an undetermined one is settled when the page is first placed
   ScrollInfo scrollX_;
   ScrollInfo scrollY_;
   unsigned support_ = 0x407F;
@@ -270,7 +310,6 @@ class RVEditTemplateWnd {
   Point lastPoint_;
   Point pressPoint_;
   Cursor cursor_ = Cursor::Arrow;  // shown now
-  Cursor activeCursor_ = Cursor::Arrow;
 
   bool redrawBackground_ = true;
   bool pendingRefresh_ = false;
@@ -280,11 +319,14 @@ class RVEditTemplateWnd {
   int orientation_ = 0;
 
   bool smartGuides_ = false;
-  SnapTargets snapTargets_;
+  // Of the gesture that runs.
+  bool snaps_ = true;                       // false while Alt is held
+  std::optional<GuideSource> guideSource_;  // gathered when first needed
+  GuideHits guideHits_;
   std::vector<GuideLine> guideLines_;
-  Point pulled_;  // how far guides have pulled the selection from where the pointer has it
   ClipboardReader clipboardReader_;
   PictureMaker pictureMaker_;
+  ToolbarEntry toolbar_;
 };
 
 }  // namespace xrpt

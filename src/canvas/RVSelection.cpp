@@ -12,20 +12,31 @@ Rect Union(const Rect& a, const Rect& b) {
 }  // namespace
 
 void RVSelection::AddSelection(const Rect& rect, Point fixedPoint, std::wstring id, bool resizable) {
+  index_.emplace(id, static_cast<int>(entries_.size()));
   entries_.push_back({rect, fixedPoint, std::move(id), resizable});
 }
 
 bool RVSelection::Delete(int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= entries_.size()) return false;
   entries_.erase(entries_.begin() + index);
+  Reindex();
   return true;
 }
 
+void RVSelection::Reindex() {
+  index_.clear();
+  for (std::size_t i = 0; i < entries_.size(); ++i) index_.emplace(entries_[i].id, static_cast<int>(i));
+}
+
 int RVSelection::Find(std::wstring_view id) const {
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    if (entries_[i].id == id) return static_cast<int>(i);
-  }
-  return -1;
+  if (entries_.empty()) return -1;
+  const auto found = index_.find(std::wstring(id));
+  return found == index_.end() ? -1 : found->second;
+}
+
+bool RVSelection::HasSameCards(const RVSelection& other) const {
+  return Size() == other.Size() &&
+         std::all_of(entries_.begin(), entries_.end(), [&](const Entry& entry) { return other.IsSelected(entry.id); });
 }
 
 bool RVSelection::IsLastSelected(std::wstring_view id) const { return !entries_.empty() && entries_.back().id == id; }

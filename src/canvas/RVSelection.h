@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Geometry.h"
@@ -32,6 +33,12 @@ class RVSelection {
 
   void AddSelection(const Rect& rect, Point fixedPoint, std::wstring id, bool resizable);
   bool Delete(int index);
+  // Drops every entry for which the answer is false.
+  template <class Keeps>
+  void Retain(const Keeps& keeps) {
+    std::erase_if(entries_, [&](const Entry& entry) { return !keeps(entry); });
+    Reindex();
+  }
   // -1 when absent.
   int Find(std::wstring_view id) const;
   bool IsSelected(std::wstring_view id) const { return Find(id) >= 0; }
@@ -40,7 +47,8 @@ class RVSelection {
 
   // In selection order; the last one is the most recently selected.
   const std::vector<Entry>& Entries() const { return entries_; }
-  std::vector<Entry>& Entries() { return entries_; }
+  void SetRect(std::size_t index, const Rect& rect) { entries_[index].rect = rect; }
+  void SetFixedPoint(std::size_t index, Point point) { entries_[index].fixedPoint = point; }
   std::size_t Size() const { return entries_.size(); }
   bool IsEmpty() const { return entries_.empty(); }
   std::vector<std::wstring> Ids() const;
@@ -61,15 +69,20 @@ class RVSelection {
   void StartBand(Point corner);
   const std::optional<Rect>& Band() const { return band_; }
 
+  // The same cards, in whatever order and wherever they are.
+  bool HasSameCards(const RVSelection& other) const;
   bool operator==(const RVSelection&) const = default;
 
   int draggingStyle = kNoEdge;
   Point anchor;  // where the mouse was when the last move was applied
 
  private:
+  void Reindex();
+
   std::vector<Entry> entries_;
-  std::optional<Rect> band_;  // rubber band, or the rectangle of a card being drawn
-  Point startPoint_;          // its fixed corner
+  std::unordered_map<std::wstring, int> index_;  // by id; the first of several
+  std::optional<Rect> band_;                     // rubber band, or the rectangle of a card being drawn
+  Point startPoint_;                             // its fixed corner
 };
 
 }  // namespace xrpt

@@ -1,19 +1,8 @@
 #include "canvas/RVUndo.h"
 
 namespace xrpt {
-namespace {
 
-// Order and rectangles do not count.
-bool SameCards(const RVSelection& left, const RVSelection& right) {
-  if (left.Size() != right.Size()) return false;
-  std::vector<std::wstring> a = left.Ids();
-  std::vector<std::wstring> b = right.Ids();
-  std::sort(a.begin(), a.end());
-  std::sort(b.begin(), b.end());
-  return a == b;
-}
-
-}  // namespace
+RVUndo::RVUndo() : selection_(std::make_shared<RVSelection>()), page_(std::make_shared<RVGlobalProperties>()) {}
 
 RVUndo RVUndo::After(const RVUndo& newest) {
   RVUndo step = newest;
@@ -30,17 +19,23 @@ bool RVUndo::SetChange(const CardList& current) {
 }
 
 bool RVUndo::SetChange(const RVSelection& current) {
-  const bool changed = !SameCards(selection_, current);
-  if (changed) selection_ = current;
+  const bool changed = !current.HasSameCards(*selection_);
+  if (changed) selection_ = std::make_shared<RVSelection>(current);
   selectionChanged_ = selectionChanged_ || changed;
   return changed;
 }
 
 bool RVUndo::SetChange(const RVGlobalProperties& current) {
-  const bool changed = page_ != current;
-  if (changed) page_ = current;
+  const bool changed = *page_ != current;
+  if (changed) page_ = std::make_shared<RVGlobalProperties>(current);
   pageChanged_ = pageChanged_ || changed;
   return pageChanged_;
+}
+
+void RVUndo::SetSurround(Color color) {
+  auto page = std::make_shared<RVGlobalProperties>(*page_);
+  page->backcolor = color;
+  page_ = std::move(page);
 }
 
 }  // namespace xrpt

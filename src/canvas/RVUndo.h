@@ -1,6 +1,8 @@
 // One step of the history: the page as it was, and in what it differs from the step before.
 #pragma once
 
+#include <memory>
+
 #include "canvas/RVSelection.h"
 #include "model/CardList.h"
 #include "model/RVGlobalProperties.h"
@@ -16,8 +18,8 @@ struct UndoName {
 
 class RVUndo {
  public:
-  // Starts as a copy of the newest step, with no differences; empty when there is none.
-  RVUndo() = default;
+  // Starts as a copy of the newest step, with no differences; empty when there is none. What stays the same is shared.
+  RVUndo();
   static RVUndo After(const RVUndo& newest);
 
   // Each compares the step's part with the page window's, takes it over when different, and says whether it was.
@@ -30,15 +32,17 @@ class RVUndo {
   bool IsGlobalsChanged() const { return pageChanged_; }
 
   const SharedCards& Cards() const { return cards_; }
-  const RVSelection& Selection() const { return selection_; }
-  const RVGlobalProperties& Page() const { return page_; }
+  const RVSelection& Selection() const { return *selection_; }
+  const RVGlobalProperties& Page() const { return *page_; }
+  // The colour round the page follows the user's theme: that is no step.
+  void SetSurround(Color color);
 
   UndoName name;
 
  private:
   SharedCards cards_;
-  RVSelection selection_;
-  RVGlobalProperties page_;
+  std::shared_ptr<const RVSelection> selection_;
+  std::shared_ptr<const RVGlobalProperties> page_;
   bool cardsChanged_ = false;
   bool selectionChanged_ = false;
   bool pageChanged_ = false;

@@ -27,6 +27,7 @@ void RVEditTemplateWnd::SelectAlone(const std::wstring& id) {
 }
 
 void RVEditTemplateWnd::SelectControls(const std::vector<std::wstring>& ids) {
+  DropGesture();
   ClearSelection();
   const PagePlacement place = Placement();
   for (const std::wstring& id : ids) {
@@ -47,6 +48,7 @@ bool RVEditTemplateWnd::SelectControlById(std::wstring_view id) {
   pickedId_.clear();
   const RVCardControl* card = page_.cards.Find(id);
   if (!card) return false;
+  DropGesture();
   PauseTimer();
   SelectAlone(card->id);
   pickedId_ = card->id;
@@ -56,35 +58,32 @@ bool RVEditTemplateWnd::SelectControlById(std::wstring_view id) {
   return true;
 }
 
-// Cards move by align, undo, zoom and scroll while they are selected; a gesture starts where they are now.
+// Cards move by align, undo, zoom and scroll while they are selected; a gesture starts where they are now. A card that
+// is gone is not selected any more.
 void RVEditTemplateWnd::RefreshRects() {
   const PagePlacement place = Placement();
   const std::vector<std::size_t> indexes = SelectedIndexes();
   for (std::size_t i = 0; i < indexes.size(); ++i) {
-    if (indexes[i] != CardList::kNowhere) {
-      selection_.Entries()[i].rect = ToPixels(place, RectOf(page_.cards[indexes[i]]));
-    }
+    if (indexes[i] != CardList::kNowhere) selection_.SetRect(i, ToPixels(place, RectOf(page_.cards[indexes[i]])));
   }
+  std::size_t next = 0;
+  selection_.Retain([&](const auto&) { return indexes[next++] != CardList::kNowhere; });
 }
 
 void RVEditTemplateWnd::UpdateRect(std::wstring_view id, const Rect& rect) {
   const int index = selection_.Find(id);
-  if (index >= 0) selection_.Entries()[static_cast<std::size_t>(index)].rect = rect;
+  if (index >= 0) selection_.SetRect(static_cast<std::size_t>(index), rect);
 }
 
 // In selection order; kNowhere for an id that no card has any more. One walk over the cards however many are selected.
 std::vector<std::size_t> RVEditTemplateWnd::SelectedIndexes() const {
-  std::unordered_map<std::wstring_view, std::size_t> wanted;
-  const auto& entries = selection_.Entries();
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (!entries[i].id.empty()) wanted.emplace(entries[i].id, i);
-  }
-  std::vector<std::size_t> indexes(entries.size(), CardList::kNowhere);
-  for (std::size_t card = 0; card < page_.cards.Size() && !wanted.empty(); ++card) {
-    const auto found = wanted.find(page_.cards[card].id);
-    if (found == wanted.end()) continue;
-    indexes[found->second] = card;
-    wanted.erase(found);
+  std::vector<std::size_t> indexes(selection_.Size(), CardList::kNowhere);
+  std::size_t wanted = indexes.size();
+  for (std::size_t card = 0; card < page_.cards.Size() && wanted > 0; ++card) {
+    const int entry = selection_.Find(page_.cards[card].id);
+    if (entry < 0 || indexes[static_cast<std::size_t>(entry)] != CardList::kNowhere) continue;
+    indexes[static_cast<std::size_t>(entry)] = card;
+    --wanted;
   }
   return indexes;
 }
@@ -108,7 +107,11 @@ std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
 }
 
 void RVEditTemplateWnd::AddControl(double x, double y, double width, double height) {
-  std::unique_ptr<RVCardControl> card = NewCard(insertKind_);
+  AddCard(insertKind_, x, y, width, height);
+}
+
+void RVEditTemplateWnd::AddCard(int kind, double x, double y, double width, double height) {
+  std::unique_ptr<RVCardControl> card = NewCard(kind);
   if (!card) return;
   SetRect(*card, {x, y, width, height});
   Insert(std::move(card));
@@ -137,14 +140,15 @@ void RVEditTemplateWnd::Insert(std::unique_ptr<RVCardControl> card) {
 
 void RVEditTemplateWnd::CommitEdit(UndoName name) {
   if (name.textId == 0) name = {text::kChange, static_cast<int>(std::max<std::size_t>(1, selection_.Size()))};
-  RefreshRects();
   RedrawBackground();
   AddUndoInfo(false, name);
   queue_.Post(&parent_, {Message::CardChanged, SelectedCardId(), 0});
 }
 
 void RVEditTemplateWnd::CommitPageEdit() {
-  if (zoom_ < 0.0) SetMode(0);
+  const RVGlobalProperties& before = history_.Newest().Page();
+  const bool resized = before.width != page_.properties.width || before.height != page_.properties.height;
+  if (resized && zoom_ < 0.0) SetMode(0);
   InitializeScrollBars(false);
   RedrawBackground();
   AddUndoInfo(false, {text::kChangePage, 0});

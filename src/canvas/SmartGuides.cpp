@@ -1,106 +1,179 @@
 #include "canvas/SmartGuides.h"
 
-#include <array>
+#include <climits>
 #include <cstdlib>
-#include <optional>
 
 namespace xrpt {
 namespace {
 
-// One axis of a rectangle: along the move, and across it.
+// One direction of a rectangle, and what it takes across.
 struct Span {
   int near;
   int far;
-  int Middle() const { return near + (far - near) / 2; }
+  int crossNear;
+  int crossFar;
+  double nearMm = 0.0;
+  double farMm = 0.0;
+
+  int At(double part) const { return part == 0.0 ? near : part == 1.0 ? far : near + (far - near) / 2; }
+  double AtMm(double part) const { return nearMm + (farMm - nearMm) * part; }
 };
 
-struct Axis {
-  bool horizontal;
-  Span Along(const Rect& r) const { return horizontal ? Span{r.left, r.right} : Span{r.top, r.bottom}; }
-  Span Across(const Rect& r) const { return horizontal ? Span{r.top, r.bottom} : Span{r.left, r.right}; }
-  // A line that stands across the axis at `along`.
-  GuideLine Line(int along, const Span& across) const {
-    if (horizontal) return {{along, across.near}, {along, across.far}};
-    return {{across.near, along}, {across.far, along}};
+Span Across(const GuideTarget& target) {
+  const Rect& r = target.rect;
+  return {r.left, r.right, r.top, r.bottom, target.box.x, target.box.x + target.box.width};
+}
+
+Span Down(const GuideTarget& target) {
+  const Rect& r = target.rect;
+  return {r.top, r.bottom, r.left, r.right, target.box.y, target.box.y + target.box.height};
+}
+
+// A line along the other axis at a position, and one along this axis between two.
+struct AxisLine {
+  bool along;
+  int at;
+  int from;
+  int to;
+};
+
+class AxisSearch {
+ public:
+  AxisSearch(const Span& moved, const GuideParts& parts, int reach) : moved_(moved), parts_(parts), reach_(reach) {}
+
+  void LineUp(const Span& target) {
+    constexpr double kParts[] = {0.0, 0.5, 1.0};
+    for (const double own : kParts) {
+      if (!Moves(own)) continue;
+      // Centres line up with centres: a centre on an edge helps nobody.
+      for (const double other : kParts) {
+        if ((own == 0.5) == (other == 0.5)) Offer(own, target.At(other), target.AtMm(other));
+      }
+    }
   }
-};
 
-struct Pull {
-  int delta;
-  GuideLine line;
-};
-
-void Keep(std::optional<Pull>& best, const Pull& pull, int reach) {
-  if (std::abs(pull.delta) > reach) return;
-  if (!best || std::abs(pull.delta) < std::abs(best->delta)) best = pull;
-}
-
-Span Join(const Span& a, const Span& b) { return {std::min(a.near, b.near), std::max(a.far, b.far)}; }
-
-// Edges and centre of one other rectangle.
-void PullToEdges(std::optional<Pull>& best, const Axis& axis, const Rect& moved, const Rect& other, int reach) {
-  const Span from = axis.Along(moved);
-  const Span to = axis.Along(other);
-  const Span across = Join(axis.Across(moved), axis.Across(other));
-  for (const int target : {to.near, to.far}) {
-    Keep(best, {target - from.near, axis.Line(target, across)}, reach);
-    Keep(best, {target - from.far, axis.Line(target, across)}, reach);
+  // The same gap as between the two neighbours before, or after; or halfway between the neighbours on both sides.
+  void EqualGaps(const std::vector<Span>& targets) {
+    if (!parts_.center) return;
+    const Span* before = Nearest(targets, moved_.near + reach_, true);
+    const Span* after = Nearest(targets, moved_.far - reach_, false);
+    if (before) {
+      if (const Span* first = Nearest(targets, before->near, true)) OfferGap(0.0, *before, *first);
+    }
+    if (after) {
+      if (const Span* last = Nearest(targets, after->far, false)) OfferGap(1.0, *after, *last);
+    }
+    if (before && after) {
+      OfferWithLine(0.5, before->far + (after->near - before->far) / 2, (before->farMm + after->nearMm) * 0.5,
+                    {true, CrossCenter(), before->far, after->near});
+    }
   }
-  Keep(best, {to.Middle() - from.Middle(), axis.Line(to.Middle(), across)}, reach);
-}
 
-bool Overlaps(const Span& a, const Span& b) { return a.near < b.far && b.near < a.far; }
+  const std::optional<GuideHit>& Hit() const { return hit_; }
 
-// The neighbours before and after a rectangle along an axis, among those beside it.
-struct Neighbours {
-  std::optional<Rect> before;
-  std::optional<Rect> after;
+  // All lines the shifted rectangle touches.
+  std::vector<AxisLine> Lines(const std::vector<Span>& targets) const {
+    std::vector<AxisLine> lines;
+    if (!hit_) return lines;
+    const int at = moved_.At(hit_->part) + hit_->delta;
+    if (gapLine_) lines.push_back(*gapLine_);
+    for (const Span& target : targets) {
+      if (target.near == at || target.far == at || (hit_->part == 0.5 && target.At(0.5) == at)) {
+        lines.push_back(
+            {false, at, std::min(target.crossNear, moved_.crossNear), std::max(target.crossFar, moved_.crossFar)});
+      }
+      if (lines.size() >= kMostLines) break;
+    }
+    return lines;
+  }
+
+ private:
+  static constexpr std::size_t kMostLines = 8;
+
+  bool Moves(double part) const { return part == 0.0 ? parts_.near : part == 1.0 ? parts_.far : parts_.center; }
+  int CrossCenter() const { return moved_.crossNear + (moved_.crossFar - moved_.crossNear) / 2; }
+  bool IsBeside(const Span& target) const {
+    return target.crossNear < moved_.crossFar && target.crossFar > moved_.crossNear;
+  }
+
+  bool Offer(double part, int at, double atMm) {
+    const int delta = at - moved_.At(part);
+    if (std::abs(delta) > reach_ || (hit_ && std::abs(delta) >= std::abs(hit_->delta))) return false;
+    hit_ = GuideHit{delta, atMm, part};
+    gapLine_.reset();
+    return true;
+  }
+  void OfferWithLine(double part, int at, double atMm, const AxisLine& line) {
+    if (Offer(part, at, atMm)) gapLine_ = line;
+  }
+  // `next` is the neighbour, `beyond` the one whose gap to it is repeated on this side.
+  void OfferGap(double part, const Span& next, const Span& beyond) {
+    const bool before = part == 0.0;
+    const int at = before ? next.far + (next.near - beyond.far) : next.near - (beyond.near - next.far);
+    const double atMm = before ? next.farMm + (next.nearMm - beyond.farMm) : next.nearMm - (beyond.nearMm - next.farMm);
+    OfferWithLine(part, at, atMm, {true, CrossCenter(), before ? next.far : at, before ? at : next.near});
+  }
+  // The neighbour that ends last before `limit`, or begins first after it.
+  const Span* Nearest(const std::vector<Span>& targets, int limit, bool before) const {
+    const Span* found = nullptr;
+    for (std::size_t i = 1; i < targets.size(); ++i) {
+      const Span& span = targets[i];
+      if (!IsBeside(span) || (before ? span.far > limit : span.near < limit)) continue;
+      if (!found || (before ? span.far > found->far : span.near < found->near)) found = &span;
+    }
+    return found;
+  }
+
+  Span moved_;
+  GuideParts parts_;
+  int reach_;
+  std::optional<GuideHit> hit_;
+  std::optional<AxisLine> gapLine_;
 };
 
-Neighbours FindNeighbours(const Axis& axis, const Rect& moved, const std::vector<Rect>& cards) {
-  Neighbours found;
-  const Span self = axis.Along(moved);
-  for (const Rect& card : cards) {
-    if (!Overlaps(axis.Across(card), axis.Across(moved))) continue;
-    const Span span = axis.Along(card);
-    if (span.far <= self.Middle() && (!found.before || span.far > axis.Along(*found.before).far)) found.before = card;
-    if (span.near >= self.Middle() && (!found.after || span.near < axis.Along(*found.after).near)) found.after = card;
-  }
-  return found;
-}
+struct AxisResult {
+  std::optional<GuideHit> hit;
+  std::vector<AxisLine> lines;
+};
 
-// Halfway between two neighbours both gaps are equal.
-void PullToEqualGaps(std::optional<Pull>& best, const Axis& axis, const Rect& moved, const std::vector<Rect>& cards,
-                     int reach) {
-  const Neighbours beside = FindNeighbours(axis, moved, cards);
-  if (!beside.before || !beside.after) return;
-  const Span self = axis.Along(moved);
-  const int free = axis.Along(*beside.after).near - axis.Along(*beside.before).far - (self.far - self.near);
-  const int near = axis.Along(*beside.before).far + free / 2;
-  Keep(best, {near - self.near, axis.Line(near, axis.Across(moved))}, reach);
-}
-
-std::optional<Pull> PullAlong(const Axis& axis, const Rect& moved, const SnapTargets& targets, int reach) {
-  std::optional<Pull> best;
-  for (const Rect& card : targets.cards) PullToEdges(best, axis, moved, card, reach);
-  PullToEdges(best, axis, moved, targets.page, reach);
-  PullToEqualGaps(best, axis, moved, targets.cards, reach);
-  return best;
+AxisResult Search(const GuideSource& source, const Rect& moved, const GuideParts& parts, int reach,
+                  Span (*spanOf)(const GuideTarget&)) {
+  if (!parts.Any()) return {};
+  std::vector<Span> targets;
+  targets.reserve(source.targets.size());
+  for (const GuideTarget& target : source.targets) targets.push_back(spanOf(target));
+  AxisSearch search(spanOf({moved, {}}), parts, reach);
+  for (const Span& target : targets) search.LineUp(target);
+  search.EqualGaps(targets);
+  return {search.Hit(), search.Lines(targets)};
 }
 
 }  // namespace
 
-SnapResult SnapToGuides(const Rect& moved, const SnapTargets& targets, int reach) {
-  SnapResult result;
-  if (const auto pull = PullAlong(Axis{true}, moved, targets, reach)) {
-    result.dx = pull->delta;
-    result.lines.push_back(pull->line);
+GuideSnap SnapToGuides(const GuideSource& source, const Rect& moved, const GuideParts& x, const GuideParts& y,
+                       int reach) {
+  const AxisResult across = Search(source, moved, x, reach, Across);
+  const AxisResult down = Search(source, moved, y, reach, Down);
+  GuideSnap snap{{across.hit, down.hit}, {}};
+  for (const AxisLine& line : across.lines) {
+    snap.lines.push_back(line.along ? GuideLine{{line.from, line.at}, {line.to, line.at}}
+                                    : GuideLine{{line.at, line.from}, {line.at, line.to}});
   }
-  if (const auto pull = PullAlong(Axis{false}, moved, targets, reach)) {
-    result.dy = pull->delta;
-    result.lines.push_back(pull->line);
+  for (const AxisLine& line : down.lines) {
+    snap.lines.push_back(line.along ? GuideLine{{line.at, line.from}, {line.at, line.to}}
+                                    : GuideLine{{line.from, line.at}, {line.to, line.at}});
   }
-  return result;
+  return snap;
+}
+
+void MoveToHit(double& start, double length, const GuideHit& hit) { start = hit.at - length * hit.part; }
+
+void ResizeToHit(double& start, double& length, const GuideHit& hit) {
+  const double far = hit.part == 0.0 ? start + length : hit.at;
+  const double near = hit.part == 0.0 ? hit.at : start;
+  if (!(far > near)) return;
+  start = near;
+  length = far - near;
 }
 
 Point KeepAxis(Point from, Point to) {

@@ -1,17 +1,25 @@
 // Taking snapshots and going back and forth between them.
 #include "canvas/MouseState.h"
 #include "canvas/RVEditTemplateWnd.h"
+#include "canvas/UndoTexts.h"
 
 namespace xrpt {
 
-void RVEditTemplateWnd::AddUndoInfo(bool force, UndoName name) {
+bool RVEditTemplateWnd::AddUndoInfo(bool force, UndoName name) {
   RVUndo step = history_.IsEmpty() ? RVUndo() : RVUndo::After(history_.Newest());
   const bool selection = step.SetChange(selection_);
   const bool cards = step.SetChange(page_.cards);
   const bool page = step.SetChange(page_.properties);
-  if (!selection && !cards && !page && !force) return;
-  step.name = name;
+  if (!selection && !cards && !page && !force) return false;
+  step.name = StepName(step, name);
   history_.Add(std::move(step));
+  return true;
+}
+
+// A gesture that came to nothing may still have selected something.
+UndoName RVEditTemplateWnd::StepName(const RVUndo& step, UndoName asked) const {
+  if (step.IsControlListChanged() || step.IsGlobalsChanged() || !step.IsSelectionChanged()) return asked;
+  return {text::kSelect, 0};
 }
 
 void RVEditTemplateWnd::ControlUndo() {
@@ -30,7 +38,7 @@ void RVEditTemplateWnd::ControlRedo() {
 
 // Takes from a step what the flags of the step gone over say has changed.
 void RVEditTemplateWnd::Restore(const RVUndo& step, const RVUndo& flags) {
-  mouseState_ = kIdle;
+  DropGesture();
   if (flags.IsControlListChanged()) page_.cards.Restore(step.Cards());
   if (flags.IsSelectionChanged()) selection_ = step.Selection();
   if (flags.IsGlobalsChanged()) {
@@ -43,7 +51,6 @@ void RVEditTemplateWnd::Restore(const RVUndo& step, const RVUndo& flags) {
     InitializeScrollBars(false);
     if (zoom_ <= 0.0) SetMode(0);
   }
-  RefreshRects();
   RedrawBackground();
   PostChange(!flags.IsControlListChanged() && !flags.IsGlobalsChanged());
   StartTimer();
