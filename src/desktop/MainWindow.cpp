@@ -42,6 +42,7 @@ MainWindow::MainWindow() {
   fields_ = std::make_unique<SelectedFields>(*frame_);
   actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
   actions_->beforeRun = [this] { properties_->Commit(); };
+  actions_->afterRun = [this] { RefreshSoon(); };
   pages_->Connect(*frame_);
   pages_->View().Connect(*frame_, *actions_);
   BuildDocks();
