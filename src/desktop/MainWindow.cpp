@@ -156,10 +156,9 @@ void MainWindow::ShowSelectionGeometry() {
   const RVEditTemplateWnd& page = frame_->CurrentPage();
   RectD area;
   int count = 0;
-  for (const std::wstring& id : page.Selection().Ids()) {
-    const RVCardControl* card = page.Page().cards.Find(id);
-    if (!card) continue;
-    const RectD own(card->x, card->y, card->x + card->width, card->y + card->height);
+  for (const std::size_t index : SelectedIndexes(page)) {
+    const RVCardControl& card = page.Page().cards[index];
+    const RectD own(card.x, card.y, card.x + card.width, card.y + card.height);
     area = count++ == 0 ? own
                         : RectD(std::min(area.left, own.left), std::min(area.top, own.top),
                                 std::max(area.right, own.right), std::max(area.bottom, own.bottom));
