@@ -53,7 +53,7 @@ TEST_F(PagePainterTest, ACardThatFailsLeavesAMarkedBoxAndTheOthersAreSeen) {
   const RecordingGraphics drawn = Painted(DrawAt());
   EXPECT_EQ(drawn.Texts().size(), 2u);
   EXPECT_EQ(drawn.Count(CallKind::Line), 2u);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->rect.left, roundi(100 * 96 / 25.4));
+  EXPECT_EQ(drawn.First(CallKind::Rect).rect.left, roundi(100 * 96 / 25.4));
 }
 
 TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
@@ -71,7 +71,7 @@ TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
   draw.roundedPxX = draw.roundedPxY = 12.0;
   drawn = Painted(draw, {false, nullptr});
   EXPECT_EQ(drawn.Count(CallKind::FillRect), 0u);
-  EXPECT_EQ(drawn.Find(CallKind::FillRoundRect)->first, 12.0);
+  EXPECT_EQ(drawn.First(CallKind::FillRoundRect).first, 12.0);
 }
 
 TEST_F(PagePainterTest, GridDotsStandAtTheCrossingsAndVanishWhenDrawnAgain) {
@@ -114,11 +114,11 @@ TEST_F(PagePainterTest, OutputFillsTheDeviceAndKeepsTextInProportion) {
   RecordingGraphics screen;
   RenderPage(screen, page, 96.0);
   EXPECT_EQ(screen.calls[0].rect, RectD(0, 0, 793, 1122));
-  EXPECT_NEAR(screen.Find(CallKind::Text)->pixelSize, 10.0 * 96 / 72 * 0.8, 1e-3);
+  EXPECT_NEAR(screen.First(CallKind::Text).pixelSize, 10.0 * 96 / 72 * 0.8, 1e-3);
   RecordingGraphics paper;
   RenderPage(paper, page, 600.0);
-  const RectD small = screen.Find(CallKind::Text)->rect;
-  const RectD large = paper.Find(CallKind::Text)->rect;
+  const RectD small = screen.First(CallKind::Text).rect;
+  const RectD large = paper.First(CallKind::Text).rect;
   EXPECT_NEAR(large.left / small.left, 600.0 / 96.0, 0.05);
   EXPECT_NEAR(large.Width(), small.Width() * 600.0 / 96.0, 1e-6);
 
@@ -126,7 +126,7 @@ TEST_F(PagePainterTest, OutputFillsTheDeviceAndKeepsTextInProportion) {
   const tagDraw draw = OutputDraw(page, 96.0, {10, 10, 50, 20});
   PaintCards(part, page.cards, draw);
   EXPECT_EQ(draw.clip, (Rect{0, 0, 152, 38}));
-  EXPECT_NEAR(part.Find(CallKind::Text)->rect.left, small.left - 10 * 96 / 25.4, 1.0);
+  EXPECT_NEAR(part.First(CallKind::Text).rect.left, small.left - 10 * 96 / 25.4, 1.0);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ class LineBreaker {
   std::size_t LineEnd(std::wstring_view text) {
     if (text.size() < 2) return text.size();
     const std::size_t room = CharactersThatFit(text);
-    if (room == text.size() || text[room] == L' ') return room;
+    if (room == text.size()) return room;
     const std::size_t space = text.rfind(L' ', room);
     return space == text.npos || space == 0 ? room : space;
   }
