@@ -1,5 +1,6 @@
 #include "host/DiskFiles.h"
 
+#include <algorithm>
 #include <sys/stat.h>
 
 #include "host/AtomicWrite.h"

@@ -2,13 +2,19 @@
 // back leads to where it began.
 #include <rapidcheck.h>
 
+#include <cstdlib>
+
 #include "canvas/CanvasDriver.h"
 #include "canvas/MouseState.h"
 
 namespace xrpt {
 namespace {
 
-class PropertyTest : public HostTest {};
+// RC_PARAMS of the environment says otherwise.
+class PropertyTest : public HostTest {
+ protected:
+  static void SetUpTestSuite() { ::setenv("RC_PARAMS", "max_success=2000 max_size=200", 0); }
+};
 
 int Between(int low, int high) { return *rc::gen::inRange(low, high + 1); }
 bool Chance(int percent) { return Between(1, 100) <= percent; }
@@ -129,14 +135,18 @@ void CheckInvariants(const Canvas& canvas) {
   RC_ASSERT(canvas.wnd.UndoCount() >= 1u && canvas.wnd.UndoCount() <= 20u);
 }
 
-// Gestures keep cards on the page as far as there is room: a pixel of the screen at most may be off.
+// Gestures keep cards on the page. Each card of a group goes to the grid by itself when it is let go, so half a step
+// may be off, and a pixel of the screen.
 void CheckOnPage(const Canvas& canvas) {
   const PagePlacement place = canvas.wnd.Placement();
+  const GridSteps grid = GridOf(canvas.page.properties);
+  const double across = place.PixelWidth() + std::max(0.0, grid.x) / 2;
+  const double down = place.PixelHeight() + std::max(0.0, grid.y) / 2;
   for (std::size_t i = 0; i < canvas.page.cards.Size(); ++i) {
     const CardRect card = RectOf(canvas.page.cards[i]);
-    RC_ASSERT(card.x >= -place.PixelWidth() && card.y >= -place.PixelHeight());
-    RC_ASSERT(card.x + card.width <= place.pageWidth + place.PixelWidth());
-    RC_ASSERT(card.y + card.height <= place.pageHeight + place.PixelHeight());
+    RC_ASSERT(card.x >= -across && card.y >= -down);
+    RC_ASSERT(card.x + card.width <= place.pageWidth + across);
+    RC_ASSERT(card.y + card.height <= place.pageHeight + down);
   }
 }
 
@@ -181,19 +191,27 @@ TEST_F(PropertyTest, UndoLeadsToTheStartAndRedoToTheEnd) {
   });
 }
 
+// One card whatever is done to it, several when they are moved: a group that is resized may turn inside out beyond the
+// edge, since the edge of the whole is what the page holds.
+void MoveAll(Canvas& canvas) {
+  if (Chance(20)) return canvas.wnd.OnKeyDown(Between(key::Left, key::Down), {Chance(30), false});
+  const RVSelection::Entry& entry = canvas.wnd.Selection().Entries().front();
+  const Point from{(entry.rect.left + entry.rect.right) / 2, (entry.rect.top + entry.rect.bottom) / 2};
+  canvas.Press(from);
+  canvas.Move({from.x + Between(-1500, 1500), from.y + Between(-1500, 1500)});
+  canvas.Release(canvas.wnd.LastMousePoint());
+}
+
 TEST_F(PropertyTest, DragsStayOnThePage) {
   ExpectHolds("cards stay on the page", [] {
     Canvas canvas;
-    AddCards(canvas, Between(1, 6));
-    canvas.SetGrid(*rc::gen::element(0, 5, 7), *rc::gen::element(-3, 4));
+    const bool alone = Chance(50);
+    AddCards(canvas, alone ? 1 : Between(2, 6));
+    canvas.SetGrid(*rc::gen::element(0.0, 5.0, 7.0), *rc::gen::element(-3.0, 4.0));
     canvas.wnd.SetSmartGuides(Chance(50));
-    canvas.wnd.SetInsertKind(Chance(30) ? 0 : kPointer);
     for (int steps = Between(1, 15); steps > 0; --steps) {
-      if (Chance(80)) {
-        Gesture(canvas);
-      } else {
-        canvas.wnd.OnKeyDown(Between(key::Left, key::Down), {});
-      }
+      if (!alone) canvas.wnd.ControlSelectAll();
+      alone ? Gesture(canvas) : MoveAll(canvas);
       CheckOnPage(canvas);
     }
   });
