@@ -27,6 +27,12 @@ void DropOnGrid(CardRect& rect, int style, const GridSteps& grid) {
   if (!moves && style & kRightEdge) DropFar(rect.x, rect.width, grid.x);
 }
 
+// A card so small on the screen that it has no pixel keeps its size when it is moved.
+void KeepVisible(CardRect& rect, const CardRect& before) {
+  if (rect.width <= 0.0) rect.width = before.width;
+  if (rect.height <= 0.0) rect.height = before.height;
+}
+
 // The one edge of a rectangle that follows the pointer along an axis.
 GuideParts MovingEdge(bool near, bool moves) { return {moves && near, false, moves && !near}; }
 
@@ -157,8 +163,9 @@ void RVEditTemplateWnd::EndDrag(const PagePlacement& place) {
   const bool resized = style != kMoveAll && style != kNoEdge;
   const std::vector<std::size_t> indexes = SelectedIndexes();
   std::vector<CardRect> rects;
-  for (const RVSelection::Entry& entry : selection_.Entries()) {
-    rects.push_back(ToMillimetres(place, entry.rect));
+  for (std::size_t i = 0; i < indexes.size(); ++i) {
+    rects.push_back(ToMillimetres(place, selection_.Entries()[i].rect));
+    if (indexes[i] != CardList::kNowhere) KeepVisible(rects.back(), RectOf(page_.cards[indexes[i]]));
     DropOnGrid(rects.back(), style, grid);
     IntelligentAdjustToGrid(rects.back(), grid, place);
   }
