@@ -27,3 +27,7 @@ if(XRPT_SANITIZE)
   target_compile_options(xrpt_compiler INTERFACE ${sanitize})
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(XRPT_FUZZ)
+  # So that the fuzzer sees which branches of the library an input reaches.
+  target_compile_options(xrpt_compiler INTERFACE -fsanitize=fuzzer-no-link)
+endif()

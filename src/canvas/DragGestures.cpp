@@ -27,10 +27,10 @@ void DropOnGrid(CardRect& rect, int style, const GridSteps& grid) {
   if (!moves && style & kRightEdge) DropFar(rect.x, rect.width, grid.x);
 }
 
-// A card so small on the screen that it has no pixel keeps its size when it is moved.
-void KeepVisible(CardRect& rect, const CardRect& before) {
-  if (rect.width <= 0.0) rect.width = before.width;
-  if (rect.height <= 0.0) rect.height = before.height;
+// A card that is less than a pixel at this zoom keeps its size, whatever happens to its place.
+void KeepExtent(CardRect& rect, const RVCardControl& card) {
+  if (!(rect.width > 0.0)) rect.width = card.width;
+  if (!(rect.height > 0.0)) rect.height = card.height;
 }
 
 // The one edge of a rectangle that follows the pointer along an axis.
@@ -165,7 +165,7 @@ void RVEditTemplateWnd::EndDrag(const PagePlacement& place) {
   std::vector<CardRect> rects;
   for (std::size_t i = 0; i < indexes.size(); ++i) {
     rects.push_back(ToMillimetres(place, selection_.Entries()[i].rect));
-    if (indexes[i] != CardList::kNowhere) KeepVisible(rects.back(), RectOf(page_.cards[indexes[i]]));
+    if (indexes[i] != CardList::kNowhere) KeepExtent(rects.back(), page_.cards[indexes[i]]);
     DropOnGrid(rects.back(), style, grid);
     IntelligentAdjustToGrid(rects.back(), grid, place);
   }

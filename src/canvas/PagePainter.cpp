@@ -79,7 +79,6 @@ void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw
 void PaintCard(Graphics& graphics, const RVCardControl& card, const tagDraw& draw) {
   const Rect rect = CardPixelRect(draw, card.x, card.y, card.width, card.height);
   if (!Touches(draw.clip, rect)) return;
-  const GraphicsState state(graphics);
   try {
     card.Draw(graphics, draw);
   } catch (...) {

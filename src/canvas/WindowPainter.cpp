@@ -1,6 +1,5 @@
 #include "canvas/WindowPainter.h"
 
-#include "canvas/Frames.h"
 #include "canvas/PagePainter.h"
 #include "canvas/RVEditTemplateWnd.h"
 
@@ -22,21 +21,32 @@ CardFrame FrameOf(const RVCardControl& card, const Rect& rect, const RVEditTempl
   return frame;
 }
 
-// Top card first; those out of sight are left out. Only the top one under the pointer is hovered. While nothing is
-// dragged the selection takes its rectangles from here.
-std::vector<CardFrame> FramesOf(RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client) {
-  std::vector<CardFrame> frames;
-  const bool isDragging = !window.DraggingRects().empty();
+// The top card under the pointer; null without one.
+const RVCardControl* HoveredCard(const RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client) {
   const Point pointer = window.LastMousePoint();
-  bool isHovered = !client.Contains(pointer);
+  if (!place.IsValid()) return nullptr;
+  const CardList& cards = window.Page().cards;
+  for (std::size_t i = 0; client.Contains(pointer) && i < cards.Size(); ++i) {
+    const Rect rect = ToPixels(place, RectOf(cards[i]));
+    if (RVEditTemplateWnd::IsVisible(client, rect) && rect.Contains(pointer)) return &cards[i];
+  }
+  return nullptr;
+}
+
+// Top card first; those out of sight are left out. While nothing is dragged the selection takes its rectangles from
+// here.
+std::vector<CardFrame> FramesOf(RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client,
+                                const RVCardControl* hovered) {
+  std::vector<CardFrame> frames;
+  if (!place.IsValid()) return frames;
+  const bool isDragging = !window.DraggingRects().empty();
   const CardList& cards = window.Page().cards;
   for (std::size_t i = 0; i < cards.Size(); ++i) {
     const Rect rect = ToPixels(place, RectOf(cards[i]));
     if (!isDragging) window.UpdateRect(cards[i].id, rect);
     if (!RVEditTemplateWnd::IsVisible(client, rect)) continue;
     frames.push_back(FrameOf(cards[i], rect, window));
-    frames.back().hovered = !isHovered && rect.Contains(pointer);
-    isHovered = isHovered || frames.back().hovered;
+    frames.back().hovered = &cards[i] == hovered;
   }
   return frames;
 }
@@ -58,12 +68,33 @@ void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd&
   window.BackgroundDrawn();
 }
 
-void PaintWindowOverlay(PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client, Color guideColor) {
+WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int painting) {
+  Scene scene;
+  scene.window = &window;
+  scene.painting = painting;
+  scene.isDragging = !window.DraggingRects().empty();
+  scene.pointer = window.LastMousePoint();
+  scene.pickedId = window.PickedCardId();
+  scene.selectedIds = window.Selection().Ids();
+  return scene;
+}
+
+void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, RVEditTemplateWnd& window,
+                          const Rect& client, Color guideColor) {
   const PagePlacement place = window.Placement();
-  if (!place.IsValid()) return;
-  DrawFrames(pixels, RegionOf(place), FramesOf(window, place, client), window.Phase());
-  for (const GuideLine& guide : window.Guides()) DrawGuide(pixels, guide, guideColor);
-  for (const Rect& rect : window.DraggingRects()) DrawDraggingBox(pixels, rect);
+  Scene scene = SceneOf(window, painting);
+  if (scene != scene_) {
+    const RVCardControl* hovered = HoveredCard(window, place, client);
+    // A pointer that moves over one card changes nothing.
+    scene_.pointer = scene.pointer;
+    if (scene != scene_ || hovered != hovered_)
+      frames_.Build(page, RegionOf(place), FramesOf(window, place, client, hovered));
+    scene_ = std::move(scene);
+    hovered_ = hovered;
+  }
+  frames_.Compose(shown, window.Phase());
+  for (const GuideLine& guide : window.Guides()) DrawGuide(shown, guide, guideColor);
+  for (const Rect& rect : window.DraggingRects()) DrawDraggingBox(shown, rect);
 }
 
 }  // namespace xrpt

@@ -1,18 +1,47 @@
 // What a page window looks like, in two layers: the page itself, painted when the window says that it changed, and what
-// lies over it (frames, guides, outlines of what is dragged), laid over a copy of it every time.
+// lies over it (frames, guides, outlines of what is dragged), laid over a copy of it every time. Frames that stand
+// still are part of that copy, so that a tick of the selection's timer costs little more than copying.
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "canvas/FrameOverlay.h"
 #include "platform/Color.h"
 #include "platform/Graphics.h"
 #include "platform/PixelBuffer.h"
 
 namespace xrpt {
 
+class RVCardControl;
 class RVEditTemplateWnd;
 
 // `pixels` are the ones that `graphics` paints into: the grid goes there.
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client);
 
-void PaintWindowOverlay(PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client, Color guideColor);
+class WindowOverlay {
+ public:
+  // Fills `shown` with the page's picture and all that lies over it. `painting` tells one picture of the page from the
+  // next; both are of one size.
+  void Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, RVEditTemplateWnd& window, const Rect& client,
+             Color guideColor);
+
+ private:
+  // What the frames are made from, the phase aside.
+  struct Scene {
+    const RVEditTemplateWnd* window = nullptr;
+    int painting = -1;
+    bool isDragging = false;
+    Point pointer;
+    std::wstring pickedId;
+    std::vector<std::wstring> selectedIds;
+    bool operator==(const Scene&) const = default;
+  };
+  static Scene SceneOf(const RVEditTemplateWnd& window, int painting);
+
+  FrameOverlay frames_;
+  Scene scene_;
+  const RVCardControl* hovered_ = nullptr;  // told from others only, never looked into
+};
 
 }  // namespace xrpt

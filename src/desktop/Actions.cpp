@@ -56,6 +56,7 @@ QAction* Actions::MakeAction(const Command& command, QWidget& window, QWidget& p
     if (beforeRun) beforeRun();
     RunCommand(frame_, command);
     RefreshOne(*action);
+    if (afterRun) afterRun();
   });
   return action;
 }

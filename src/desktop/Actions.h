@@ -28,8 +28,9 @@ class Actions {
   // Asks every command whether it is enabled and checked.
   void Refresh();
 
-  // Called before a command runs: what is half done ends first.
+  // Called round every command: what is half done ends before it, what it changed is shown after it.
   std::function<void()> beforeRun;
+  std::function<void()> afterRun;
 
  private:
   QAction* MakeAction(const Command& command, QWidget& window, QWidget& page);

@@ -67,6 +67,7 @@ class LinesEditor final : public EditorOf<QPlainTextEdit> {
     control_->setTabChangesFocus(true);
     control_->setFixedHeight(control_->fontMetrics().lineSpacing() * 4 + 10);
     control_->setFrameShape(QFrame::StyledPanel);
+    control_->viewport()->setAutoFillBackground(false);  // the style fills the whole field
     QObject::connect(control_, &QPlainTextEdit::textChanged, control_, [this] { Tell(control_->toPlainText()); });
   }
   void Show(const std::optional<std::wstring>& text) override {

@@ -109,6 +109,9 @@ void FieldStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
     case PE_FrameLineEdit:
       return DrawField(*painter, *option);
+    case PE_Frame:
+      if (!widget || !widget->inherits("QPlainTextEdit")) break;
+      return DrawField(*painter, *option);
     case PE_PanelButtonCommand:
     case PE_PanelButtonBevel:
     case PE_PanelButtonTool:

@@ -8,6 +8,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/Actions.h"
+#include "desktop/ClipboardPictures.h"
 #include "desktop/CornerBar.h"
 #include "desktop/FontGroup.h"
 #include "desktop/MessageBar.h"
@@ -21,6 +22,7 @@
 #include "desktop/StatusBar.h"
 #include "desktop/TextIds.h"
 #include "desktop/Texts.h"
+#include "desktop/ThemedScreen.h"
 #include "desktop/WatchedLogger.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -34,11 +36,13 @@ constexpr wchar_t kLastReport[] = L"LastInforme";
 
 MainWindow::MainWindow() {
   setObjectName(QStringLiteral("editor"));
+  ThemedScreen::Install(CurrentHost());
   BuildCentre();
   frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this));
   fields_ = std::make_unique<SelectedFields>(*frame_);
   actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
   actions_->beforeRun = [this] { properties_->Commit(); };
+  actions_->afterRun = [this] { RefreshSoon(); };
   pages_->Connect(*frame_);
   pages_->View().Connect(*frame_, *actions_);
   BuildDocks();
@@ -58,6 +62,7 @@ MainWindow::MainWindow() {
 
 MainWindow::~MainWindow() {
   WatchedLogger::Remove(CurrentHost());
+  ThemedScreen::Remove(CurrentHost());
   frame_.reset();
 }
 
@@ -65,7 +70,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::Open(const std::wstring& nameOrPath) {
   properties_->Commit();
-  ShowLoadProblem(frame_->Setup(nameOrPath));
+  frame_->Setup(nameOrPath);
 }
 
 void MainWindow::OpenLast() {
@@ -73,9 +78,9 @@ void MainWindow::OpenLast() {
   if (!name.empty()) Open(name);
 }
 
-void MainWindow::ShowLoadProblem(const LoadResult& result) {
+void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return;
+  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
@@ -93,6 +98,8 @@ std::unique_ptr<WindowPort> MainWindow::NewPageWindow() { return std::make_uniqu
 
 void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
+  window.SetSmartGuides(smartGuides_);
+  window.SetPictureMaker(AddPictures);
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {
@@ -149,10 +156,9 @@ void MainWindow::ShowSelectionGeometry() {
   const RVEditTemplateWnd& page = frame_->CurrentPage();
   RectD area;
   int count = 0;
-  for (const std::wstring& id : page.Selection().Ids()) {
-    const RVCardControl* card = page.Page().cards.Find(id);
-    if (!card) continue;
-    const RectD own(card->x, card->y, card->x + card->width, card->y + card->height);
+  for (const std::size_t index : SelectedIndexes(page)) {
+    const RVCardControl& card = page.Page().cards[index];
+    const RectD own(card.x, card.y, card.x + card.width, card.y + card.height);
     area = count++ == 0 ? own
                         : RectD(std::min(area.left, own.left), std::min(area.top, own.top),
                                 std::max(area.right, own.right), std::max(area.bottom, own.bottom));

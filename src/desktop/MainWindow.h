@@ -53,6 +53,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::unique_ptr<WindowPort> NewPageWindow() override;
   void PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) override;
   void PageWindowGone(WindowPort& port) override;
+  void ReportOpened(const LoadResult& result) override;
   void PagesChanged() override;
   void StateChanged() override;
   bool RunCommand(const char* name) override;
@@ -77,7 +78,6 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ShowCaption();
   void ShowSelectionGeometry();
   void RefitZoom();
-  void ShowLoadProblem(const LoadResult& result);
   void OnLogged(int severity, const QString& message);
   void Announce(const QString& message);
 
@@ -113,6 +113,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
   bool writeFailed_ = false;
+  bool smartGuides_ = false;
 };
 
 }  // namespace xrpt

@@ -41,9 +41,8 @@ bool MainWindow::RunCommand(const char* name) {
 
 // The switches of the view, which the frame knows nothing of.
 void MainWindow::ShowSwitches() {
-  const std::pair<const char*, bool> rows[] = {{"SmartGuides", frame_->CurrentPage().HasSmartGuides()},
-                                               {"Rulers", pages_->HasRulers()},
-                                               {"DarkTheme", IsDarkTheme()}};
+  const std::pair<const char*, bool> rows[] = {
+      {"SmartGuides", smartGuides_}, {"Rulers", pages_->HasRulers()}, {"DarkTheme", IsDarkTheme()}};
   for (const auto& [name, on] : rows) {
     QAction* action = actions_->Find(name);
     action->setCheckable(true);
@@ -54,8 +53,8 @@ void MainWindow::ShowSwitches() {
 // --- Switches ---
 
 void MainWindow::ToggleSmartGuides() {
-  const bool on = !frame_->CurrentPage().HasSmartGuides();
-  for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSmartGuides(on);
+  smartGuides_ = !smartGuides_;
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSmartGuides(smartGuides_);
 }
 
 void MainWindow::ToggleRulers() { pages_->ShowRulers(!pages_->HasRulers()); }

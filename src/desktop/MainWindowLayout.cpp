@@ -98,6 +98,7 @@ void MainWindow::BuildStatusBar() {
     pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
   };
   pages_->pointerMoved = [this](std::optional<PointD> position) { status_->SetPointer(position); };
+  pages_->View().menuUsed = [this] { RefreshSoon(); };
   pages_->View().resized = [this] { RefitZoom(); };
 }
 

@@ -41,6 +41,7 @@ void OpenDialog::AddList(QBoxLayout& column) {
   list_->setRootIsDecorated(false);
   list_->setAlternatingRowColors(true);
   list_->setFrameShape(QFrame::StyledPanel);
+  list_->header()->setAccessibleName(Translated(text::kReports));
   list_->header()->setStretchLastSection(false);
   list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -98,7 +99,9 @@ void OpenDialog::Browse() {
       this, Translated(text::kOpenReport), folder,
       QStringLiteral("%1 (*%2)").arg(Translated(text::kReports), ToQString(kReportEnding)));
   if (file.isEmpty()) return;
-  chosen_ = file.toStdWString();
+  // Opening puts the ending on again, as on a name.
+  const QString ending = ToQString(kReportEnding);
+  chosen_ = (file.endsWith(ending) ? file.chopped(ending.size()) : file).toStdWString();
   accept();
 }
 

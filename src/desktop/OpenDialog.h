@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+class QBoxLayout;
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;

@@ -122,14 +122,11 @@ void Outline::RefreshCards() {
 }
 
 void Outline::ShowSelection() {
-  const CardList& cards = frame_.CurrentPage().Page().cards;
   QItemSelection shown;
   QModelIndex last;
-  for (const std::wstring& id : frame_.CurrentPage().Selection().Ids()) {
-    const std::size_t at = cards.IndexOf(id);
-    if (at == CardList::kNowhere) continue;
+  for (const std::size_t at : SelectedIndexes(frame_.CurrentPage())) {
     last = cardModel_->index(static_cast<int>(at));
-    shown.select(last, last);
+    shown.append(QItemSelectionRange(last));
   }
   cards_->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
   cards_->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);

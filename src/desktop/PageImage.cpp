@@ -1,10 +1,8 @@
 #include "desktop/PageImage.h"
 
 #include <QPainter>
-#include <cstring>
 
 #include "canvas/RVEditTemplateWnd.h"
-#include "canvas/WindowPainter.h"
 #include "desktop/Theme.h"
 #include "host/qt/QtGraphics.h"
 
@@ -56,12 +54,11 @@ void PageImage::PaintOverlay(RVEditTemplateWnd& window, double scale) {
   if (shown_.size() != page_.size()) shown_ = QImage(page_.size(), page_.format());
   shown_.setDevicePixelRatio(scale);
   if (shown_.isNull()) return;
-  std::memcpy(shown_.bits(), page_.constBits(), static_cast<std::size_t>(page_.sizeInBytes()));
   const QColor guide = CurrentTheme().guide;
-  PixelBuffer pixels = BufferOf(shown_);
-  PaintWindowOverlay(pixels, window, ClientOf(shown_),
-                     Rgb(static_cast<unsigned>(guide.red()), static_cast<unsigned>(guide.green()),
-                         static_cast<unsigned>(guide.blue())));
+  PixelBuffer shown = BufferOf(shown_);
+  overlay_.Paint(shown, BufferOf(page_), paintings_, window, ClientOf(shown_),
+                 Rgb(static_cast<unsigned>(guide.red()), static_cast<unsigned>(guide.green()),
+                     static_cast<unsigned>(guide.blue())));
 }
 
 }  // namespace xrpt

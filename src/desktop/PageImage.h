@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include "canvas/WindowPainter.h"
 #include "host/qt/PictureCache.h"
 
 namespace xrpt {
@@ -27,6 +28,7 @@ class PageImage {
   QImage page_;
   QImage shown_;
   PictureCache pictures_;
+  WindowOverlay overlay_;
   const RVEditTemplateWnd* window_ = nullptr;  // whose page `page_` is
   int paintings_ = 0;
 };

@@ -98,7 +98,9 @@ void PageView::ShowScroll(ScrollAxis axis, const ScrollInfo& info) {
 void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
   captured_ = false;
   const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
-  if (command != 0 && Window()) Window()->OnCommand(command);
+  if (command == 0 || !Window()) return;
+  Window()->OnCommand(command);
+  if (menuUsed) menuUsed();
 }
 
 // --- Painting ---

@@ -44,6 +44,8 @@ class PageView final : public QAbstractScrollArea {
   // What the rulers and the status bar follow. The pointer left when there is no position.
   std::function<void(std::optional<QPoint>)> pointerMoved;
   std::function<void()> placementChanged;
+  // A command of the page's own menu ran.
+  std::function<void()> menuUsed;
   std::function<void()> resized;
 
  protected:
@@ -70,6 +72,7 @@ class PageView final : public QAbstractScrollArea {
   void StopPanning();
   void ScrollByWheel(QWheelEvent& event);
   bool SelectNeighbour(bool next);
+  void Escape();
 
   RVEditControlWnd* frame_ = nullptr;
   const Actions* actions_ = nullptr;

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "desktop/Actions.h"
 #include "desktop/KeyCodes.h"
 #include "desktop/PagePort.h"
 #include "desktop/PageView.h"
@@ -140,7 +141,7 @@ void PageView::keyPressEvent(QKeyEvent* event) {
     if (!panFrom_) viewport()->setCursor(Qt::OpenHandCursor);
     return;
   }
-  if (event->key() == Qt::Key_Escape && captured_) return LoseCapture();
+  if (event->key() == Qt::Key_Escape) return Escape();
   if (const int code = VirtualKey(event->key())) Window()->OnKeyDown(code, FlagsOf(event->modifiers()));
 }
 
@@ -148,6 +149,13 @@ void PageView::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Space || event->isAutoRepeat()) return QAbstractScrollArea::keyReleaseEvent(event);
   spaceHeld_ = false;
   if (!panFrom_) ShowCursor(port_ ? port_->LastCursor() : Cursor::Arrow);
+}
+
+// Ends a gesture, else puts the insert tool away.
+void PageView::Escape() {
+  if (captured_) return LoseCapture();
+  QAction* pointer = actions_->Find("Pointer");
+  pointer->isChecked() ? Window()->OnKeyDown(key::Escape, {}) : pointer->trigger();
 }
 
 // Tab walks the cards, back to front, and leaves the page after the last.

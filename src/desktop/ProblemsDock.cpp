@@ -29,6 +29,7 @@ QString IconOf(ProblemSeverity severity) {
 ProblemsList::ProblemsList(QWidget* parent) : QTreeWidget(parent) {
   setAccessibleName(Translated(text::kProblems));
   setHeaderHidden(true);
+  header()->setAccessibleName(Translated(text::kProblems));
   setRootIsDecorated(false);
   setColumnCount(1);
   setUniformRowHeights(false);

@@ -82,18 +82,24 @@ void PropertyPanel::AddSection(QBoxLayout& column, FieldGroup group, const std::
   int index = 0;
   for (const FieldState& state : states) {
     if (state.row->panel.group != group || state.row->panel.editor == FieldEditor::None) continue;
-    if (!grid) {
-      auto* title = new QLabel(Translated(GroupTextId(group)), column.parentWidget());
-      title->setObjectName(QStringLiteral("sectionTitle"));
-      title->setIndent(0);
-      column.addWidget(title);
-      grid = new QGridLayout();
-      grid->setHorizontalSpacing(8);
-      grid->setVerticalSpacing(6);
-      column.addLayout(grid);
-    }
+    if (!grid) grid = StartSection(column, group);
     AddField(*grid, *state.row, index++);
   }
+}
+
+// The fields of the page need no title besides the panel's own.
+QGridLayout* PropertyPanel::StartSection(QBoxLayout& column, FieldGroup group) {
+  if (group != FieldGroup::Page) {
+    auto* title = new QLabel(Translated(GroupTextId(group)), column.parentWidget());
+    title->setObjectName(QStringLiteral("sectionTitle"));
+    title->setIndent(0);
+    column.addWidget(title);
+  }
+  auto* grid = new QGridLayout();
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(6);
+  column.addLayout(grid);
+  return grid;
 }
 
 void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) {

@@ -8,7 +8,9 @@
 
 #include "editor/SelectedFields.h"
 
+class QBoxLayout;
 class QGridLayout;
+class QLabel;
 class QTimer;
 
 namespace xrpt {
@@ -42,6 +44,7 @@ class PropertyPanel final : public QScrollArea {
   bool ShowsSameFields(const std::vector<FieldState>& states) const;
   void Rebuild(const std::vector<FieldState>& states);
   void AddSection(QBoxLayout& column, FieldGroup group, const std::vector<FieldState>& states);
+  QGridLayout* StartSection(QBoxLayout& column, FieldGroup group);
   void AddField(QGridLayout& grid, const FieldRow& row, int index);
   void ShowTitle();
   void Edit(const FieldRow& row, const std::string& text);

@@ -136,7 +136,20 @@ void Ribbon::ShowTab(int tab) { tabs_->setCurrentIndex(tab); }
 
 void Ribbon::FocusTabs() { tabs_->setFocus(Qt::ShortcutFocusReason); }
 
-void Ribbon::AddCorner(QWidget* widget) { tabRow_->addWidget(widget); }
+void Ribbon::AddCorner(QWidget* widget) {
+  corner_ = widget;
+  tabRow_->addWidget(widget);
+}
+
+QSize Ribbon::minimumSizeHint() const {
+  return {tabs_->minimumSizeHint().width(), QWidget::minimumSizeHint().height()};
+}
+
+void Ribbon::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int kMargins = 24;
+  if (corner_) corner_->setVisible(tabs_->sizeHint().width() + corner_->sizeHint().width() + kMargins <= width());
+}
 
 // Down goes from the tabs to the first button; arrows walk the buttons.
 void Ribbon::keyPressEvent(QKeyEvent* event) {

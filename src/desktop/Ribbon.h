@@ -19,6 +19,7 @@ class RibbonPage final : public QWidget {
  public:
   explicit RibbonPage(QWidget* parent = nullptr);
   RibbonGroup& AddGroup(const QString& title);
+  const std::vector<RibbonGroup*>& Groups() const { return groups_; }
   QSize minimumSizeHint() const override;
 
  protected:
@@ -41,11 +42,13 @@ class Ribbon final : public QWidget {
   void ShowTab(int tab);
   // Puts the keyboard on the tabs.
   void FocusTabs();
-  // Something of the window's own at the right of the tabs.
+  // Something of the window's own at the right of the tabs, as long as there is room for it.
   void AddCorner(QWidget* widget);
+  QSize minimumSizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddTab(const Actions& actions, int index);
@@ -54,6 +57,7 @@ class Ribbon final : public QWidget {
   QTabBar* tabs_;
   QHBoxLayout* tabRow_;
   QStackedWidget* pages_;
+  QWidget* corner_ = nullptr;
 };
 
 // Marks in each label a letter that no label before it has marked, for Alt and that letter.

@@ -82,7 +82,11 @@ void RibbonGroup::SetRoom(GroupRoom room) {
   if (isFolded && !folded_->menu()) folded_->setMenu(MakeMenu());
   body_->setVisible(!isFolded);
   folded_->setVisible(isFolded);
+  // At once, from the inside out: whoever fits groups measures them next.
+  grid_->activate();
+  body_->updateGeometry();
   layout()->activate();
+  updateGeometry();
 }
 
 QMenu* RibbonGroup::MakeMenu() {

@@ -38,6 +38,7 @@ StatusBar::StatusBar(QWidget* parent) : QStatusBar(parent) {
   selection_ = MakeLabel(this, text::kSelectionGeometry, 40);
   addPermanentWidget(selection_);
   addPermanentWidget(pointer_);
+  pointer_->setContentsMargins(16, 0, 16, 0);
   AddSlider();
 }
 

@@ -9,6 +9,10 @@ namespace xrpt {
 
 class ThemedScreen final : public ScreenService {
  public:
+  // Takes the place of the host's screen, and gives it back.
+  static void Install(Host& host);
+  static void Remove(Host& host);
+
   explicit ThemedScreen(std::unique_ptr<ScreenService> screen) : screen_(std::move(screen)) {}
   int DpiX() const override { return screen_->DpiX(); }
   int DpiY() const override { return screen_->DpiY(); }

@@ -9,7 +9,6 @@
 #include "desktop/TextIds.h"
 #include "desktop/Texts.h"
 #include "desktop/Theme.h"
-#include "desktop/ThemedScreen.h"
 #include "host/qt/QtHost.h"
 #include "platform/Text.h"
 
@@ -59,7 +58,6 @@ int main(int argc, char** argv) {
   options.imagesFolder = arguments.images;
   options.language = arguments.language.empty() ? QLocale().name().toStdString() : arguments.language;
   const auto host = xrpt::MakeQtHost(xrpt::WithUserFolders(options));
-  host->screen = std::make_unique<xrpt::ThemedScreen>(std::move(host->screen));
   xrpt::InstallHost(host.get());
 
   QApplication::setApplicationDisplayName(xrpt::Translated(xrpt::text::kProgramName));

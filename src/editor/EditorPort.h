@@ -13,6 +13,7 @@
 namespace xrpt {
 
 class RVEditTemplateWnd;
+struct LoadResult;
 
 enum class Answer { Yes, No };
 
@@ -26,6 +27,8 @@ class EditorPort {
   virtual void PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) = 0;
   virtual void PageWindowGone(WindowPort& port) = 0;
 
+  // A report was opened, or could not be and is a new one: the result says why.
+  virtual void ReportOpened(const LoadResult&) {}
   // Pages were added, removed or reordered, or another one is shown.
   virtual void PagesChanged() = 0;
   // The selection, a card, the zoom, the history or the modified mark changed: refresh panels, menus and caption.

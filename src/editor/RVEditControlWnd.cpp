@@ -36,6 +36,7 @@ LoadResult RVEditControlWnd::Setup(const std::wstring& nameOrPath) {
   report_.ResetDocuments();
   LoadResult result = report_.Load(nameOrPath);
   BuildPages();
+  port_.ReportOpened(result);
   return result;
 }
 
@@ -44,6 +45,7 @@ LoadResult RVEditControlWnd::OpenFile(const Path& file, const std::wstring* aske
   report_.ResetDocuments();
   LoadResult result = report_.LoadFile(file, askedName);
   BuildPages();
+  port_.ReportOpened(result);
   return result;
 }
 

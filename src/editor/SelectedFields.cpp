@@ -5,6 +5,7 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/Host.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -16,11 +17,12 @@ std::vector<const FieldRow*> CommonRows(const std::vector<const RVCardControl*>&
   ForEachField(cards.front()->GetRuntimeClass().table, [&common](const FieldRow& row) {
     if (row.panel.textId != 0) common.push_back(&row);
   });
+  std::set<const CardClass*> kinds;
   for (const RVCardControl* card : cards) {
-    std::vector<const FieldRow*> rows;
-    ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.push_back(&row); });
-    std::erase_if(common,
-                  [&rows](const FieldRow* row) { return std::find(rows.begin(), rows.end(), row) == rows.end(); });
+    if (!kinds.insert(&card->GetRuntimeClass()).second) continue;
+    std::set<const FieldRow*> rows;
+    ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.insert(&row); });
+    std::erase_if(common, [&rows](const FieldRow* row) { return rows.count(row) == 0; });
   }
   return common;
 }
@@ -32,6 +34,15 @@ std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<co
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
+// What people read: a word of a list in their language.
+std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
+  const std::wstring text = row.text(&card);
+  for (const Word& word : row.words) {
+    if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
+  }
+  return text;
+}
+
 // A style's name alone changes nothing to see: the card takes its font, too.
 void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
   row.assign(&card, text);
@@ -40,12 +51,24 @@ void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view tex
 
 }  // namespace
 
+std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page) {
+  const std::vector<std::wstring> ids = page.Selection().Ids();
+  std::unordered_map<std::wstring_view, std::size_t> places;
+  for (std::size_t i = 0; i < ids.size(); ++i) places.emplace(ids[i], i);
+  std::vector<std::size_t> indexes(ids.size(), CardList::kNowhere);
+  const CardList& cards = page.Page().cards;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    const auto place = places.find(cards[i].id);
+    if (place != places.end() && indexes[place->second] == CardList::kNowhere) indexes[place->second] = i;
+  }
+  std::erase(indexes, CardList::kNowhere);
+  return indexes;
+}
+
 std::vector<const RVCardControl*> SelectedFields::Cards() const {
   const RVEditTemplateWnd& page = frame_.CurrentPage();
   std::vector<const RVCardControl*> cards;
-  for (const std::wstring& id : page.Selection().Ids()) {
-    if (const RVCardControl* card = page.Page().cards.Find(id)) cards.push_back(card);
-  }
+  for (const std::size_t index : SelectedIndexes(page)) cards.push_back(&page.Page().cards[index]);
   return cards;
 }
 
@@ -102,7 +125,8 @@ void SelectedFields::Commit() {
 std::wstring CardCaption(const RVCardControl& card) {
   std::wstring content;
   ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
-    if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content) content = row.text(&card);
+    if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content)
+      content = ShownText(row, card);
   });
   std::replace(content.begin(), content.end(), L'\n', L' ');
   const std::wstring kind = HostText(card.GetRuntimeClass().textId);

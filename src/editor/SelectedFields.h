@@ -14,6 +14,7 @@ namespace xrpt {
 
 class RVCardControl;
 class RVEditControlWnd;
+class RVEditTemplateWnd;
 
 struct FieldState {
   const FieldRow* row;
@@ -46,6 +47,9 @@ class SelectedFields {
   RVEditControlWnd& frame_;
   Edit open_ = Edit::None;
 };
+
+// Where the selected cards of a page stand, in selection order; one walk over the cards however many are selected.
+std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page);
 
 // What a list of cards calls one: its kind, and the first of its contents that is not empty.
 std::wstring CardCaption(const RVCardControl& card);

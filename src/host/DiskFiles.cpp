@@ -1,6 +1,7 @@
 #include "host/DiskFiles.h"
 
 #include <sys/stat.h>
+#include <algorithm>
 
 #include "host/AtomicWrite.h"
 #include "platform/Text.h"

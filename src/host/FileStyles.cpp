@@ -1,5 +1,7 @@
 #include "host/FileStyles.h"
 
+#include <algorithm>
+
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"

@@ -1,5 +1,7 @@
 #include "host/IniSettings.h"
 
+#include <algorithm>
+
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 

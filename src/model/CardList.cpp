@@ -16,7 +16,11 @@ const RVCardControl* CardList::Find(std::wstring_view id) const {
 
 RVCardControl& CardList::Edit(std::size_t index) {
   CardPtr& card = cards_[index];
-  if (card.use_count() > 1) card = card->GetClone();
+  if (card.use_count() > 1) {
+    CardPtr own = card->GetClone();
+    own->TakePlaceOf(*card);
+    card = std::move(own);
+  }
   return *card;
 }
 

@@ -6,8 +6,8 @@ namespace xrpt {
 namespace {
 
 bool SameGroup(const FieldRow& left, const FieldRow& right) {
-  if (left.group == nullptr || right.group == nullptr) return left.group == right.group;
-  return std::strcmp(left.group, right.group) == 0;
+  if (left.group == right.group) return true;  // as most do, one literal being kept once
+  return left.group && right.group && std::strcmp(left.group, right.group) == 0;
 }
 
 bool IsWritten(const FieldRow& row, const void* object) {
@@ -42,7 +42,7 @@ std::span<const FieldRow> GroupFrom(std::span<const FieldRow> rows, std::size_t 
 
 // A group's rows leave their fields alone when the file has no such group.
 void ReadGroup(std::span<const FieldRow> rows, void* object, XmlCursor& cursor) {
-  const XmlNode element = cursor.Find(rows.front().group);
+  const XmlNode element = cursor.Find(rows.front().groupKey);
   if (!element) return;
   XmlCursor inside(element);
   for (const FieldRow& row : rows) ReadRow(row, object, inside, element);

@@ -42,9 +42,10 @@ struct ListTable;
 
 // Objects are passed as pointers to the root of their class tree (`FieldRoot`).
 struct FieldRow {
-  const char* group = nullptr;    // element that holds this one and its neighbours of the same group ("font")
-  const char* name = nullptr;     // element; null for a field that is not in the file
-  XmlName key;                    // the same, made ready
+  const char* group = nullptr;  // element that holds this one and its neighbours of the same group ("font")
+  const char* name = nullptr;   // element; null for a field that is not in the file
+  XmlName groupKey;             // the two, made ready to be looked for
+  XmlName key;
   const char* missing = nullptr;  // what a missing element reads as; null keeps the value the field has
   bool counts = true;             // whether equality looks at it
   FieldPanel panel;
@@ -155,6 +156,7 @@ template <class Owner, class Codec, auto... Members>
 constexpr FieldRow Field(const char* group, const char* name, const char* missing, FieldPanel panel = {}) {
   FieldRow row;
   row.group = group;
+  row.groupKey = group;
   row.name = name;
   row.key = name;
   row.missing = missing;
@@ -234,6 +236,7 @@ constexpr FieldRow WrittenOnly(FieldRow row) {
 constexpr FieldRow Constant(const char* group, void (*write)(const void*, XmlWriter&)) {
   FieldRow row;
   row.group = group;
+  row.groupKey = group;
   row.counts = false;
   row.writeNode = write;
   return row;

@@ -17,7 +17,7 @@ std::span<const ListRow> GroupFrom(std::span<const ListRow> rows, std::size_t fi
 }
 
 void ReadEntry(const ListRow& row, void* object, XmlCursor& cursor) {
-  const XmlNode element = cursor.Find(row.name);
+  const XmlNode element = cursor.Find(row.key);
   std::string joined;
   if (element) {
     row.append(object, element.WholeText(joined));
@@ -60,7 +60,7 @@ void AppendItem(const ListTable& table, void* object, const XmlNode& element) {
       for (const ListRow& row : group) ReadEntry(row, object, cursor);
       continue;
     }
-    XmlCursor inside(cursor.Find(first.group));
+    XmlCursor inside(cursor.Find(first.groupKey));
     for (const ListRow& row : group) ReadEntry(row, object, inside);
   }
 }

@@ -13,8 +13,10 @@ namespace xrpt {
 
 // Objects are passed as pointers to the root of their class tree, as in `FieldRow`.
 struct ListRow {
-  const char* group = nullptr;    // element inside the item's that holds this one and its neighbours of the same group
-  const char* name = nullptr;     // element of an entry
+  const char* group = nullptr;  // element inside the item's that holds this one and its neighbours of the same group
+  const char* name = nullptr;   // element of an entry
+  XmlName groupKey;             // the two, made ready to be looked for
+  XmlName key;
   const char* missing = nullptr;  // what a missing element adds; null adds no entry
   const char* needs = nullptr;    // a group is read only when the item has this element too
   bool counts = true;             // whether equality looks at the list
@@ -63,7 +65,9 @@ constexpr ListRow List(const char* group, const char* name, const char* missing,
   using Entry = typename Entries::value_type;
   ListRow row;
   row.group = group;
+  row.groupKey = group;
   row.name = name;
+  row.key = name;
   row.missing = missing;
   row.panel = panel;
   row.words = Codec::Words();

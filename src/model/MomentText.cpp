@@ -17,7 +17,9 @@ constexpr std::size_t kMostParts = 6;
 constexpr std::size_t kMostDigits = 6;
 
 bool StartsLike(std::wstring_view text, std::wstring_view start) {
-  const auto same = [](wchar_t a, wchar_t b) { return std::towlower(a) == std::towlower(b); };
+  const auto same = [](wchar_t a, wchar_t b) {
+    return std::towlower(static_cast<std::wint_t>(a)) == std::towlower(static_cast<std::wint_t>(b));
+  };
   return !start.empty() && text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), same);
 }
 

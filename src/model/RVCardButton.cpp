@@ -85,6 +85,10 @@ void RVCardButton::LoadImage() {
   if (record->Current()) image_ = std::move(record);
 }
 
+void RVCardButton::TakePlaceOf(const RVCardControl& source) {
+  imagePath.value = static_cast<const RVCardButton&>(source).imagePath.value;
+}
+
 bool RVCardButton::isEqual(const RVCardControl& other) const {
   return RVCardControl::isEqual(other) &&
          EqualSampled(GetPicture(), static_cast<const RVCardButton&>(other).GetPicture());

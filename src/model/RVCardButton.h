@@ -29,6 +29,7 @@ class RVCardButton : public RVCardControl {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardButton>(*this); }
   bool isEqual(const RVCardControl& other) const override;
+  void TakePlaceOf(const RVCardControl& source) override;
 
   bool GetStyleFromFile(const std::wstring& name) override;
   bool UpdateStyleFromFile() override { return GetStyleFromFile(styleName); }

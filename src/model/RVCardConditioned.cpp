@@ -55,6 +55,13 @@ bool RVCardConditioned::isEqual(const RVCardControl& other) const {
          std::equal(cards.begin(), cards.end(), right.cards.begin(), right.cards.end(), Same);
 }
 
+void RVCardConditioned::TakePlaceOf(const RVCardControl& source) {
+  const auto& former = static_cast<const RVCardConditioned&>(source);
+  for (std::size_t i = 0; i < cards.size(); ++i) {
+    if (cards[i] && former.cards[i]) cards[i]->TakePlaceOf(*former.cards[i]);
+  }
+}
+
 void RVCardConditioned::SetParent(RVReportPage* page) {
   RVCardControl::SetParent(page);
   for (const CardPointer& card : cards) card->SetParent(page);

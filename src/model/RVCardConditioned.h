@@ -19,6 +19,7 @@ class RVCardConditioned : public RVCardControl {
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardConditioned>(*this); }
   bool isEqual(const RVCardControl& other) const override;
+  void TakePlaceOf(const RVCardControl& source) override;
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
   void SetParent(RVReportPage* page) override;

@@ -62,6 +62,9 @@ class RVCardControl {
   // A copy with the same id.
   virtual std::unique_ptr<RVCardControl> GetClone() const;
 
+  // Called on a clone that takes its source's place on a page: takes over what a plain copy leaves behind.
+  virtual void TakePlaceOf(const RVCardControl&) {}
+
   // Draws the card into its rectangle; a plain card has nothing to show.
   virtual void Draw(Graphics& graphics, const tagDraw& draw) const;
   virtual bool Resizable() const { return true; }

@@ -66,13 +66,14 @@ bool RVGlobalProperties::operator==(const RVGlobalProperties& other) const {
 }
 
 bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
-  ReadFields(Table(), this, page);
-  ReadBackground(page);
+  ReadValues(page);
+  ReadBackground(page.Node(kBackgroundTag));
   return true;
 }
 
-void RVGlobalProperties::ReadBackground(const XmlNode& page) {
-  const XmlNode element = page.Node("backgroundImage");
+void RVGlobalProperties::ReadValues(const XmlNode& page) { ReadFields(Table(), this, page); }
+
+void RVGlobalProperties::ReadBackground(const XmlNode& element) {
   if (element) {
     background_->GetFromXml(element);
     return;
@@ -89,7 +90,7 @@ bool RVGlobalProperties::SaveTemplate(XmlWriter* page) const {
   }
   WriteFields(Table(), this, *page);
   if (background_->HasImageId()) {
-    const XmlElement element(*page, "backgroundImage");
+    const XmlElement element(*page, kBackgroundTag);
     background_->SaveTemplate(page, false);
   }
   return true;

@@ -49,6 +49,7 @@ class RVGlobalProperties {
   virtual ~RVGlobalProperties() = default;
 
   static const FieldTable& Table();
+  static constexpr const char* kBackgroundTag = "backgroundImage";
 
   // The grid is left out: changing it alone is no change of the page. NaN differs from everything.
   bool operator==(const RVGlobalProperties& other) const;
@@ -56,6 +57,10 @@ class RVGlobalProperties {
 
   // Takes what the "page" element holds; missing values stay as they are. True.
   virtual bool GetFromXml(const XmlNode& page);
+  // The two halves of it, for whoever goes through the page's elements anyway: the values, and the element of the
+  // background picture (a handle on nothing for a page without one).
+  void ReadValues(const XmlNode& page);
+  void ReadBackground(const XmlNode& element);
   // Writes into the "page" element that is open; false, and logged, without one.
   virtual bool SaveTemplate(XmlWriter* page) const;
 
@@ -79,8 +84,6 @@ class RVGlobalProperties {
   ScreenScale screen;
 
  private:
-  void ReadBackground(const XmlNode& page);
-
   BackgroundCard background_;
 };
 

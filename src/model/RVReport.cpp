@@ -88,7 +88,7 @@ void RVReport::ReadVirtualLists(const XmlNode& root) {
 
 void RVReport::ReadPages(const XmlNode& root) {
   for (const XmlNode& element : root) {
-    if (element.Tag() == "page") AddPage().SetTemplate(element);
+    if (element.Tag() == "page") AddPage().TakeTemplate(element);
     if (element.Tag() == "formules") formules.Create("formules").Assign(element);
   }
 }

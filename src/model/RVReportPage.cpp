@@ -5,18 +5,25 @@
 
 namespace xrpt {
 
-bool RVReportPage::SetTemplate(const XmlNode& page) {
+// The properties come last, because they are looked for among all that is left of the page.
+bool RVReportPage::Read(XmlNode page, bool takes) {
   if (!page) return false;
   properties.DeleteBackground();
   cards.Clear();
-  properties.GetFromXml(page);
-  for (const XmlNode& element : page) {
-    std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
-    if (!card) continue;
-    card->SetParent(this);
-    card->GetFromXml(element);
-    cards.PushBack(std::move(card));
+  for (auto next = page.begin(); next != page.end();) {
+    const XmlNode element = *next++;
+    if (ReadCard(element) && takes) page.Remove(element);
   }
+  properties.GetFromXml(page);
+  return true;
+}
+
+bool RVReportPage::ReadCard(const XmlNode& element) {
+  std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
+  if (!card) return false;
+  card->SetParent(this);
+  card->GetFromXml(element);
+  cards.PushBack(std::move(card));
   return true;
 }
 

@@ -14,7 +14,10 @@ class RVReportPage {
   RVReportPage& operator=(const RVReportPage&) = delete;
 
   // Rebuilds the page from a "page" element; elements it does not know are skipped. False without an element.
-  bool SetTemplate(const XmlNode& page);
+  bool SetTemplate(const XmlNode& page) { return Read(page, false); }
+  // The same for a document that nobody reads again: each card's element is taken out once the card is made, so that
+  // the next cards are made in its memory and a large report costs little more than its document.
+  bool TakeTemplate(const XmlNode& page) { return Read(page, true); }
   // Appends a "page" element to the root that is open.
   void SaveTemplate(XmlWriter& root) const;
   // Appends every card, front to back, to the "page" element that is open.
@@ -23,6 +26,10 @@ class RVReportPage {
   RVGlobalProperties properties;
   CardList cards;
   double fontFactor = 1.0;  // font sizes are multiplied by it
+
+ private:
+  bool Read(XmlNode page, bool takes);
+  bool ReadCard(const XmlNode& element);
 };
 
 }  // namespace xrpt

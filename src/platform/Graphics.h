@@ -30,6 +30,8 @@ struct TextRun {
   PointD origin;
   double width = 0.0;
   Color color = kBlack;
+  // The width over what the text takes by nature; 0 when nobody knows, and the device must measure it again.
+  double stretch = 0.0;
 };
 
 class Graphics {

@@ -37,25 +37,22 @@ double OutOfRange(std::string_view text) {
   return tiny ? 0.0 : std::numeric_limits<double>::infinity();
 }
 
+// Appends the decimal digits from `at` on to a number, and gives the place after the last.
+std::size_t AddDigits(std::string_view text, std::size_t at, std::int64_t& number) {
+  for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; ++at) number = number * 10 + (text[at] - '0');
+  return at;
+}
+
 // What our own files hold, "12.50": few enough digits that both numbers are exact and their quotient is rounded as the
 // library would round it. Nothing for all else.
 std::optional<double> ParsePlain(std::string_view text) {
   static constexpr double kPowers[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
   if (text.empty() || text.size() > 10) return std::nullopt;
   std::int64_t digits = 0;
-  std::size_t decimals = 0;
-  bool point = false;
-  for (char c : text) {
-    if (c == '.' && !point) {
-      point = true;
-    } else if (c >= '0' && c <= '9') {
-      digits = digits * 10 + (c - '0');
-      decimals += point ? 1 : 0;
-    } else {
-      return std::nullopt;
-    }
-  }
-  return static_cast<double>(digits) / kPowers[decimals];
+  const std::size_t point = AddDigits(text, 0, digits);
+  if (point == text.size()) return static_cast<double>(digits);
+  if (text[point] != '.' || AddDigits(text, point + 1, digits) != text.size()) return std::nullopt;
+  return static_cast<double>(digits) / kPowers[text.size() - point - 1];
 }
 
 double ParseMagnitude(std::string_view text) {
@@ -78,25 +75,22 @@ std::string AsciiHead(std::wstring_view text) {
   return out;
 }
 
-int DigitOf(char c, int base) {
-  int digit = base;
-  if (c >= '0' && c <= '9') {
-    digit = c - '0';
-  } else if (c >= 'A' && c <= 'F') {
-    digit = c - 'A' + 10;
-  } else if (c >= 'a' && c <= 'f') {
-    digit = c - 'a' + 10;
-  }
-  return digit < base ? digit : -1;
+template <int Base>
+int DigitOf(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (Base == 16 && c >= 'A' && c <= 'F') return c - 'A' + 10;
+  if (Base == 16 && c >= 'a' && c <= 'f') return c - 'a' + 10;
+  return -1;
 }
 
-// Digits of a base from the front of the text, clamped to the limit.
-std::int64_t ParseDigits(std::string_view text, int base, std::int64_t limit) {
+// Digits of a base, 10 or 16, from the front of the text, clamped to the limit.
+template <int Base>
+std::int64_t ParseDigits(std::string_view text, std::int64_t limit) {
   std::int64_t value = 0;
   for (char c : text) {
-    const int digit = DigitOf(c, base);
+    const int digit = DigitOf<Base>(c);
     if (digit < 0) break;
-    value = value * base + digit;
+    value = value * Base + digit;
     if (value > limit) value = limit;
   }
   return value;
@@ -114,7 +108,7 @@ double ParseDecimal(std::wstring_view text) { return ParseDecimal(std::string_vi
 
 std::int32_t ParseInteger(std::string_view text) {
   const Signed number = SkipSign(text);
-  const std::int64_t value = ParseDigits(number.rest, 10, number.negative ? 2147483648ll : 2147483647ll);
+  const std::int64_t value = ParseDigits<10>(number.rest, number.negative ? 2147483648ll : 2147483647ll);
   return static_cast<std::int32_t>(number.negative ? -value : value);
 }
 
@@ -123,7 +117,7 @@ std::int32_t ParseInteger(std::wstring_view text) { return ParseInteger(std::str
 Color ParseColor(std::string_view text) {
   Signed number = SkipSign(text);
   TakeHexPrefix(number.rest);
-  const std::int64_t value = ParseDigits(number.rest, 16, 0xFFFFFFFFll);
+  const std::int64_t value = ParseDigits<16>(number.rest, 0xFFFFFFFFll);
   return static_cast<Color>(number.negative ? -value : value);
 }
 

@@ -46,7 +46,9 @@ struct PixelBuffer {
       for (int column = left; column < right; ++column) change(pixels[column]);
     }
   }
-  int Device(int canvas, int limit) const { return std::clamp(trunci(canvas * scale), 0, limit); }
+  int Device(int canvas, int limit) const {
+    return std::clamp(scale == 1.0 ? canvas : trunci(canvas * scale), 0, limit);
+  }
 };
 
 }  // namespace xrpt

@@ -15,6 +15,8 @@ struct Decoded {
   bool valid;
 };
 
+bool IsAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
 bool IsContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
 
 // Length of the sequence that a lead byte announces, and the smallest code point such a sequence may hold.
@@ -93,6 +95,10 @@ void AssignUtf8(std::wstring& out, std::string_view utf8) {
       for (std::size_t i = 0; i < 8; ++i) to[i] = static_cast<wchar_t>(utf8[at + i]);
       to += 8;
       at += 8;
+      continue;
+    }
+    if (IsAscii(utf8[at])) {
+      *to++ = static_cast<wchar_t>(utf8[at++]);
       continue;
     }
     const Decoded one = DecodeOne(utf8, at);

@@ -15,9 +15,10 @@
 namespace xrpt {
 namespace {
 
-using Raw = pugi::xml_node_struct*;
+// The parser's handle is one pointer, and so is ours: taken for each other in place, they spare a call for every node.
+pugi::xml_node Wrap(void* node) { return std::bit_cast<pugi::xml_node>(node); }
 
-pugi::xml_node Wrap(void* node) { return pugi::xml_node(static_cast<Raw>(node)); }
+void* Unwrap(const pugi::xml_node& node) { return std::bit_cast<void*>(node); }
 
 bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_element; }
 
@@ -32,8 +33,10 @@ pugi::xml_node SkipToElement(pugi::xml_node node) {
   }
 }
 
+// Most names differ in their first letter.
 bool HasName(const pugi::xml_node& node, std::string_view tag) {
   const char* name = node.name();
+  if (!tag.empty() && *name != tag.front()) return false;
   return std::strncmp(name, tag.data(), tag.size()) == 0 && name[tag.size()] == '\0';
 }
 
@@ -122,9 +125,9 @@ struct XmlDocument::Impl {
   pugi::xml_document document;
 };
 
-XmlNode XmlNode::FirstChild() const { return XmlNode(SkipToElement(Wrap(node_).first_child()).internal_object()); }
+XmlNode XmlNode::FirstChild() const { return XmlNode(Unwrap(SkipToElement(Wrap(node_).first_child()))); }
 
-XmlNode XmlNode::NextSibling() const { return XmlNode(SkipToElement(Wrap(node_).next_sibling()).internal_object()); }
+XmlNode XmlNode::NextSibling() const { return XmlNode(Unwrap(SkipToElement(Wrap(node_).next_sibling()))); }
 
 std::string_view XmlNode::Tag() const { return Wrap(node_).name(); }
 
@@ -136,7 +139,7 @@ XmlNode XmlNode::Node(std::string_view path) const {
     node = ElementNamed(node, path.substr(0, cut));
     path.remove_prefix(cut);
   }
-  return XmlNode(node.internal_object());
+  return XmlNode(Unwrap(node));
 }
 
 std::wstring XmlNode::Value() const {
@@ -155,7 +158,7 @@ std::string_view XmlNode::WholeText(std::string& joined) const {
   const pugi::xml_node node = Wrap(node_);
   const char* own = node.value();
   const pugi::xml_node first = node.first_child();
-  if (!first) return own;
+  if (!Unwrap(first)) return own;
   if (*own == '\0' && IsText(first) && !first.next_sibling()) return first.value();
   joined = own;
   for (pugi::xml_node piece = first; piece; piece = piece.next_sibling()) {
@@ -184,7 +187,7 @@ void XmlNode::SetText(std::wstring_view text) {
 XmlNode XmlNode::NewChild(std::string_view tag) {
   pugi::xml_node child = Wrap(node_).append_child(pugi::node_element);
   child.set_name(std::string(tag).c_str());
-  return XmlNode(child.internal_object());
+  return XmlNode(Unwrap(child));
 }
 
 bool XmlNode::Remove(XmlNode child) { return Wrap(node_).remove_child(Wrap(child.node_)); }
@@ -204,9 +207,7 @@ void XmlNode::Assign(const XmlNode& other) {
   for (const pugi::xml_node& child : Wrap(other.node_).children()) node.append_copy(child);
 }
 
-XmlNode XmlNode::Append(const XmlNode& other) {
-  return XmlNode(Wrap(node_).append_copy(Wrap(other.node_)).internal_object());
-}
+XmlNode XmlNode::Append(const XmlNode& other) { return XmlNode(Unwrap(Wrap(node_).append_copy(Wrap(other.node_)))); }
 
 XmlNode::Iterator XmlNode::ChildsBegin() const { return Iterator(FirstChild()); }
 XmlNode::Iterator XmlNode::ChildsEnd() const { return Iterator(); }
@@ -236,15 +237,11 @@ XmlNode::Iterator XmlNode::Iterator::operator++(int) {
 // Only elements have a name. What lies beyond `count_` is left unset.
 XmlCursor::XmlCursor(const XmlNode& parent) {
   pugi::xml_node child = Wrap(parent.node_).first_child();
-  for (; count_ < kAtHand; child = child.next_sibling()) {
+  for (; Unwrap(child) && count_ < kAtHand; child = child.next_sibling()) {
     const char* name = child.name();
-    if (*name != '\0') {
-      children_[count_++] = {HeadOf(name), name, child.internal_object()};
-    } else if (!child) {
-      return;
-    }
+    if (*name != '\0') children_[count_++] = {HeadOf(name), name, Unwrap(child)};
   }
-  rest_ = XmlNode(SkipToElement(child).internal_object());
+  rest_ = XmlNode(Unwrap(SkipToElement(child)));
 }
 
 XmlNode XmlCursor::Find(const XmlName& tag) {
@@ -253,6 +250,10 @@ XmlNode XmlCursor::Find(const XmlName& tag) {
     if (i == next_) ++next_;
     return XmlNode(children_[i].node);
   }
+  return rest_ ? FindInRest(tag) : XmlNode();
+}
+
+XmlNode XmlCursor::FindInRest(const XmlName& tag) const {
   XmlNode child = rest_;
   while (child && !HasName(Wrap(child.node_), tag.text)) child = child.NextSibling();
   return child;
@@ -275,7 +276,7 @@ XmlNode XmlDocument::Create(std::string_view rootTag) {
   impl_ = std::make_unique<Impl>();
   pugi::xml_node root = impl_->document.append_child(pugi::node_element);
   root.set_name(std::string(rootTag).c_str());
-  return XmlNode(root.internal_object());
+  return XmlNode(Unwrap(root));
 }
 
 bool XmlDocument::Load(const std::filesystem::path& path, XmlError* error) {
@@ -314,7 +315,7 @@ std::string XmlDocument::Text() const {
   return text;
 }
 
-XmlNode XmlDocument::Root() const { return XmlNode(SkipToElement(impl_->document.first_child()).internal_object()); }
+XmlNode XmlDocument::Root() const { return XmlNode(Unwrap(SkipToElement(impl_->document.first_child()))); }
 
 // Here and not with the rest of the writer, because attributes and mixed text are the parser's to tell.
 void XmlWriter::Attributes(const XmlNode& node) {

@@ -133,6 +133,8 @@ class XmlCursor {
   };
   static constexpr std::size_t kAtHand = 48;
 
+  XmlNode FindInRest(const XmlName& tag) const;
+
   std::array<Child, kAtHand> children_;  // the first `count_` are set
   std::size_t count_ = 0;
   std::size_t next_ = 0;  // every child before this one was found under another name

@@ -18,6 +18,12 @@ namespace {
 // Lines and texts have no resolution; a fine unit keeps rounding to units out of sight.
 constexpr double kVectorDpi = 720.0;
 
+#ifdef XRPT_QT
+constexpr const char* kWritten = "the output's name must end in .png, .svg or .pdf";
+#else
+constexpr const char* kWritten = "the output's name must end in .svg; this build paints no pictures";
+#endif
+
 struct RenderOptions : CommonOptions {
   std::string output;
   int page = 0;
@@ -70,7 +76,7 @@ int RenderOne(const RenderOptions& options, const RVReport& report, const Render
 
 int Render(const RenderOptions& options) {
   if (!IsRenderable(options.output)) {
-    PrintError(options.output, "the output's name must end in .png, .svg or .pdf");
+    PrintError(options.output, kWritten);
     return kCouldNotRun;
   }
   const HostSession session(MakeRenderHost(HostOptionsOf(options)));

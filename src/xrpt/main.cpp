@@ -18,6 +18,7 @@ int Run(int argc, char** argv) {
   int status = xrpt::kNothingToReport;
   xrpt::AddResave(program, status);
   xrpt::AddEdit(program, status);
+  xrpt::AddInfo(program, status);
   xrpt::AddRender(program, status);
   try {
     program.parse(argc, argv);

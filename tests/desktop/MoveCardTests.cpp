@@ -1,6 +1,7 @@
 // The whole road: open a report, move a card by hand, save it, and look at what became of the file.
 #include <gmock/gmock.h>
 
+#include "desktop/PropertyPanel.h"
 #include "desktop/WindowTest.h"
 #include "platform/NamedFiles.h"
 
@@ -112,6 +113,24 @@ TEST_F(MoveCard, EscapeEndsADragWithTheCardWhereItWas) {
   EXPECT_THAT(Page().DraggingRects(), IsEmpty());
   Release(from + QPoint(50, 50));
   EXPECT_EQ(Place(), before);
+}
+
+TEST_F(MoveCard, EscapePutsAnInsertToolAway) {
+  Run("NewDate");
+  EXPECT_TRUE(Window().AllActions().Find("NewDate")->isChecked());
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(Window().AllActions().Find("Pointer")->isChecked());
+}
+
+TEST_F(MoveCard, ADrawnRectangleBecomesACardThatIsSelectedAndShown) {
+  const std::size_t before = Page().Page().cards.Size();
+  Run("NewLabel");
+  const PagePlacement place = Page().Placement();
+  const QPoint corner(roundi(place.offsetX) + 80, roundi(place.offsetY) + 20);
+  Drag(corner, {120, 40});
+  ASSERT_EQ(Page().Page().cards.Size(), before + 1);
+  EXPECT_EQ(Page().SelectedCardId(), Page().Page().cards[0].id);
+  EXPECT_NE(Window().Properties().Find("text/textStr"), nullptr);
 }
 
 }  // namespace

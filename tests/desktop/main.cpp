@@ -1,4 +1,4 @@
-// Windows need an application object before anything else.
+// Windows need an application object before anything else; no screen is needed, nor used unless asked for.
 #include <gmock/gmock.h>
 
 #include <QApplication>
@@ -8,6 +8,7 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   {
     const xrpt::TestHost host;

@@ -83,10 +83,10 @@ TEST_F(CardDrawTest, LabelsDrawTheirGroundAndStayInside) {
   card.color = Rgb(9, 8, 7);
   RecordingGraphics drawn = Recorded(card);
   EXPECT_EQ(drawn.Count(CallKind::FillRect), 0u);
-  EXPECT_EQ(drawn.Find(CallKind::Text)->color, Rgb(9, 8, 7));
-  EXPECT_EQ(drawn.Find(CallKind::ClipRect)->rect, RectD(38, 38, 114, 57));
+  EXPECT_EQ(drawn.First(CallKind::Text).color, Rgb(9, 8, 7));
+  EXPECT_EQ(drawn.First(CallKind::ClipRect).rect, RectD(38, 38, 114, 57));
   card.backcolor = Rgb(1, 2, 3);
-  EXPECT_EQ(Recorded(card).Find(CallKind::FillRect)->rect, RectD(38, 38, 114, 57));
+  EXPECT_EQ(Recorded(card).First(CallKind::FillRect).rect, RectD(38, 38, 114, 57));
   card.text = L"fits";
   EXPECT_EQ(Recorded(card).Count(CallKind::ClipRect), 0u);
 }
@@ -96,9 +96,9 @@ TEST_F(CardDrawTest, TurnedTextsTurnAboutTheCardsCentre) {
   card.text = L"upwards";
   card.orientation = 90.0;
   const RecordingGraphics drawn = Recorded(card);
-  EXPECT_EQ(drawn.Find(CallKind::Rotate)->first, 90.0);
-  EXPECT_EQ(drawn.Find(CallKind::Translate)->first, 57.0);
-  const RectD text = drawn.Find(CallKind::Text)->rect;
+  EXPECT_EQ(drawn.First(CallKind::Rotate).first, 90.0);
+  EXPECT_EQ(drawn.First(CallKind::Translate).first, 57.0);
+  const RectD text = drawn.First(CallKind::Text).rect;
   EXPECT_NEAR(text.left + text.right, 0.0, 0.01);
 }
 
@@ -106,11 +106,11 @@ TEST_F(CardDrawTest, MovingTextsMoveWithTimeAndRestAtZero) {
   auto card = CardOf<RVCardLabel>(30, 6);
   card.text = L"news";
   tagDraw draw = DrawAt();
-  const double rest = Recorded(card, draw).Find(CallKind::Text)->rect.left;
+  const double rest = Recorded(card, draw).First(CallKind::Text).rect.left;
   card.animation = {Behavior::Scroll, Direction::Right, 2, 10};
-  EXPECT_EQ(Recorded(card, draw).Find(CallKind::Text)->rect.left, rest);
+  EXPECT_EQ(Recorded(card, draw).First(CallKind::Text).rect.left, rest);
   draw.animationTime = 100;
-  EXPECT_NEAR(Recorded(card, draw).Find(CallKind::Text)->rect.left, rest + 20.0, 0.01);
+  EXPECT_NEAR(Recorded(card, draw).First(CallKind::Text).rect.left, rest + 20.0, 0.01);
 }
 
 TEST_F(CardDrawTest, PicturesThatAreMissingLeaveACrossedFrameWithTheirName) {
@@ -138,7 +138,7 @@ TEST_F(CardDrawTest, ConditionedCardsDrawTheirAlternativeInTheirOwnRectangle) {
   card.current = 1;
   const RecordingGraphics drawn = Recorded(card, draw);
   EXPECT_EQ(drawn.Texts(), Texts{L"second"});
-  EXPECT_EQ(drawn.Find(CallKind::FillRect)->rect, RectD(38, 38, 189, 76));
+  EXPECT_EQ(drawn.First(CallKind::FillRect).rect, RectD(38, 38, 189, 76));
   EXPECT_EQ(drawn.Count(CallKind::FillPolygon), 1u);
   EXPECT_EQ(card.cards[1]->x, 150.0);
   draw.flag1 = 0;
@@ -151,18 +151,18 @@ TEST_F(CardDrawTest, ShapesKeepTheirContourInside) {
   card.size = 1.0;  // millimetre: 4 pixels
   card.contourType = ContourType::DashDot;
   RecordingGraphics drawn = Recorded(card);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->pen.width, 4.0);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->pen.style, PenStyle::DashDot);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->rect, RectD(39.5, 39.5, 111.5, 73.5));
-  EXPECT_EQ(drawn.Find(CallKind::FillRect)->color, kWhite);
+  EXPECT_EQ(drawn.First(CallKind::Rect).pen.width, 4.0);
+  EXPECT_EQ(drawn.First(CallKind::Rect).pen.style, PenStyle::DashDot);
+  EXPECT_EQ(drawn.First(CallKind::Rect).rect, RectD(39.5, 39.5, 111.5, 73.5));
+  EXPECT_EQ(drawn.First(CallKind::FillRect).color, kWhite);
   card.isBackTransparent = true;
   card.size = 0.0;
   drawn = Recorded(card);
-  EXPECT_EQ(drawn.Find(CallKind::FillRect)->color, kNoColor);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->rect, RectD(38, 38, 113, 75));
+  EXPECT_EQ(drawn.First(CallKind::FillRect).color, kNoColor);
+  EXPECT_EQ(drawn.First(CallKind::Rect).rect, RectD(38, 38, 113, 75));
   card.type = PrimitiveType::Ellipse;
   card.orientation = 30.0;
-  EXPECT_EQ(Recorded(card).Find(CallKind::Rotate)->first, 30.0);
+  EXPECT_EQ(Recorded(card).First(CallKind::Rotate).first, 30.0);
 }
 
 TEST_F(CardDrawTest, ButtonsLookLikeWhatTheyAre) {
@@ -174,7 +174,7 @@ TEST_F(CardDrawTest, ButtonsLookLikeWhatTheyAre) {
   EXPECT_EQ(Recorded(card).Texts(), Texts{L"Stop"});
   card.visualization = Visualization::Text;
   card.orientation = 15.0;
-  EXPECT_EQ(Recorded(card).Find(CallKind::Rotate)->first, 15.0);
+  EXPECT_EQ(Recorded(card).First(CallKind::Rotate).first, 15.0);
   card.visualization = Visualization::Image;
   card.imageId = L"gone";
   EXPECT_EQ(Recorded(card).Texts(), Texts{L"gone"});
@@ -278,8 +278,8 @@ TEST_F(CardDrawTest, AnalogBarsWriteTheValueOnTheSideAskedFor) {
   card.decimals = 1;
   const auto textSide = [&card](bool vertical) {
     const RecordingGraphics drawn = Recorded(card);
-    const RectD text = drawn.Find(CallKind::Text)->rect;
-    const RectD track = drawn.Find(CallKind::Rect)->rect;
+    const RectD text = drawn.First(CallKind::Text).rect;
+    const RectD track = drawn.First(CallKind::Rect).rect;
     return vertical ? text.right < track.left + 1 : text.bottom < track.top + 1;
   };
   EXPECT_TRUE(textSide(false));
@@ -293,6 +293,19 @@ TEST_F(CardDrawTest, AnalogBarsWriteTheValueOnTheSideAskedFor) {
   EXPECT_FALSE(textSide(true));
   card.positionValue = ValuePosition::Before;
   EXPECT_TRUE(textSide(true));
+}
+
+TEST_F(CardDrawTest, AnalogBarsLeaveOutMarksThatWouldTouchOthers) {
+  RVAnalogBar card = CardOf<RVAnalogBar>(80, 20);
+  card.minValue = L"0";
+  card.maxValue = L"100";
+  card.preMaxValue = L"97.5";
+  card.alarmMaxValue = L"98.5";
+  card.preMinValue = L"40";
+  card.alarmMinValue = L"39.9";
+  card.showAnnotation = true;
+  const Texts texts = Recorded(card).Texts();
+  EXPECT_EQ(Texts(texts.begin() + 1, texts.end()), (Texts{L"0", L"100", L"39.9"}));
 }
 
 // Every kind, filled so that all its branches have something to draw.

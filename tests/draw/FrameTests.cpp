@@ -1,10 +1,12 @@
 // Frames, pixel by pixel: what is drawn is read back as a picture of characters.
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "canvas/Frames.h"
+#include "canvas/FrameOverlay.h"
 
 namespace xrpt {
 namespace {
@@ -125,6 +127,33 @@ TEST(Frames, TheTopCardIsDrawnFirstAndHugeOnesEnd) {
   }
   DrawFrames(screen.buffer, screen.page, frames, 1);
   EXPECT_EQ(screen.Shown()[3], std::string(20, '#'));
+}
+
+RC_GTEST_PROP(FrameOverlay, ComposesWhatDrawingAllFramesGives,
+              (std::vector<std::array<unsigned char, 6>> cards, bool dense)) {
+  Screen all(60, 40, dense ? 2.0 : 1.0);
+  Screen composed(60, 40, dense ? 2.0 : 1.0);
+  all.page.radiusX = all.page.radiusY = 7;
+  std::vector<CardFrame> frames;
+  for (const auto& card : cards) {
+    CardFrame frame = Frame({card[0] % 70 - 5, card[1] % 50 - 5, 0, 0});
+    frame.rect.right = frame.rect.left + card[2] % 30;
+    frame.rect.bottom = frame.rect.top + card[3] % 20;
+    frame.color = Rgb(card[4], card[2], card[0]);
+    frame.selected = card[5] & 1;
+    frame.lastSelected = card[5] & 2;
+    frame.hovered = card[5] & 4;
+    frame.picked = card[5] & 8;
+    frames.push_back(frame);
+  }
+  FrameOverlay overlay;
+  overlay.Build(all.buffer, all.page, frames);
+  for (int phase = 0; phase < kFramePhases; ++phase) {
+    std::fill(all.bits.begin(), all.bits.end(), 0xFFFFFFFFu);
+    DrawFrames(all.buffer, all.page, frames, phase);
+    overlay.Compose(composed.buffer, phase);
+    RC_ASSERT(composed.bits == all.bits);
+  }
 }
 
 TEST(DraggingBox, IsDottedAndGoneWhenDrawnAgain) {

@@ -97,7 +97,7 @@ TEST(PrimitiveShape, LinesReachTheEdges) {
 
 RC_GTEST_PROP(PrimitiveShape, TurnedShapesStayInside, (int tenths, unsigned width, unsigned height)) {
   const SizeD card{1.0 + width % 1000, 1.0 + height % 1000};
-  const double degrees = tenths / 10.0;
+  const double degrees = tenths % 7200 / 10.0;
   const double angle = degrees * 3.14159265358979 / 180.0;
   const double c = std::abs(std::cos(angle));
   const double s = std::abs(std::sin(angle));

@@ -216,7 +216,7 @@ TEST_F(GraphTest, ShowsWhatItsSwitchesSay) {
   card.viewTexts = true;
   EXPECT_GT(Recorded(card).Texts().size(), before + 5);
   card.backgroundColor = Rgb(1, 2, 3);
-  EXPECT_EQ(Recorded(card).Find(CallKind::FillRect)->color, Rgb(1, 2, 3));
+  EXPECT_EQ(Recorded(card).First(CallKind::FillRect).color, Rgb(1, 2, 3));
   card.transparent = true;
   EXPECT_EQ(Recorded(card).Count(CallKind::FillRect), 0u);
 }
@@ -226,7 +226,7 @@ TEST_F(GraphTest, LineStylesAndMarkersDiffer) {
   for (int style = 0; style < 5; ++style) {
     auto card = Graph(80, 60, {});
     Add(card, L"M.P", SeriesType::Line, style);
-    pens.insert(Recorded(card).Find(CallKind::Polyline)->pen.style);
+    pens.insert(Recorded(card).First(CallKind::Polyline).pen.style);
   }
   EXPECT_EQ(pens.size(), 5u);
   const CallKind marks[] = {CallKind::FillEllipse, CallKind::Ellipse, CallKind::Rect, CallKind::Polygon,

@@ -53,7 +53,7 @@ TEST_F(PagePainterTest, ACardThatFailsLeavesAMarkedBoxAndTheOthersAreSeen) {
   const RecordingGraphics drawn = Painted(DrawAt());
   EXPECT_EQ(drawn.Texts().size(), 2u);
   EXPECT_EQ(drawn.Count(CallKind::Line), 2u);
-  EXPECT_EQ(drawn.Find(CallKind::Rect)->rect.left, roundi(100 * 96 / 25.4));
+  EXPECT_EQ(drawn.First(CallKind::Rect).rect.left, roundi(100 * 96 / 25.4));
 }
 
 TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
@@ -71,7 +71,7 @@ TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
   draw.roundedPxX = draw.roundedPxY = 12.0;
   drawn = Painted(draw, {false, nullptr});
   EXPECT_EQ(drawn.Count(CallKind::FillRect), 0u);
-  EXPECT_EQ(drawn.Find(CallKind::FillRoundRect)->first, 12.0);
+  EXPECT_EQ(drawn.First(CallKind::FillRoundRect).first, 12.0);
 }
 
 TEST_F(PagePainterTest, GridDotsStandAtTheCrossingsAndVanishWhenDrawnAgain) {
@@ -83,26 +83,28 @@ TEST_F(PagePainterTest, GridDotsStandAtTheCrossingsAndVanishWhenDrawnAgain) {
   draw.offsetX = 30.0;
   draw.offsetY = -20.0;
   draw.clip = {0, 0, 300, 200};
-  const auto dots = [&bits] { return bits.size() - std::count(bits.begin(), bits.end(), 0xFFFFFFFFu); };
+  const auto dots = [&bits] {
+    return std::count_if(bits.begin(), bits.end(), [](std::uint32_t pixel) { return pixel != 0xFFFFFFFFu; });
+  };
   for (const SizeD& off : {SizeD{10, -3}, SizeD{0, 10}, SizeD{-10, -10}, SizeD{0.5, 0.5}, SizeD{1e-300, 1e-300},
                            SizeD{std::nan(""), 10}}) {
     page.properties.xgrid = off.width;
     page.properties.ygrid = off.height;
     DrawGrid(buffer, page.properties, draw);
-    EXPECT_EQ(dots(), 0u) << off.width << ' ' << off.height;
+    EXPECT_EQ(dots(), 0) << off.width << ' ' << off.height;
   }
   page.properties.xgrid = 10.0;
   page.properties.ygrid = 20.0;
   DrawGrid(buffer, page.properties, draw);
-  EXPECT_EQ(dots(), 21u * 10u);  // 21 columns; rows 0, 20 ... 180 of the 11 that meet the clip below its top
+  EXPECT_EQ(dots(), 21 * 10);  // 21 columns; rows 0, 20 ... 180 of the 11 that meet the clip below its top
   EXPECT_EQ(bits[0 * 300 + 30], 0xFF000000u);
   EXPECT_EQ(bits[40 * 300 + 50], 0xFF000000u);
   DrawGrid(buffer, page.properties, draw);
-  EXPECT_EQ(dots(), 0u);
+  EXPECT_EQ(dots(), 0);
   for (double far : {1e300, -1e300}) {
     draw.offsetX = far;
     DrawGrid(buffer, page.properties, draw);
-    EXPECT_EQ(dots(), 0u) << far;
+    EXPECT_EQ(dots(), 0) << far;
   }
 }
 
@@ -112,11 +114,11 @@ TEST_F(PagePainterTest, OutputFillsTheDeviceAndKeepsTextInProportion) {
   RecordingGraphics screen;
   RenderPage(screen, page, 96.0);
   EXPECT_EQ(screen.calls[0].rect, RectD(0, 0, 793, 1122));
-  EXPECT_NEAR(screen.Find(CallKind::Text)->pixelSize, 10.0 * 96 / 72 * 0.8, 1e-3);
+  EXPECT_NEAR(screen.First(CallKind::Text).pixelSize, 10.0 * 96 / 72 * 0.8, 1e-3);
   RecordingGraphics paper;
   RenderPage(paper, page, 600.0);
-  const RectD small = screen.Find(CallKind::Text)->rect;
-  const RectD large = paper.Find(CallKind::Text)->rect;
+  const RectD small = screen.First(CallKind::Text).rect;
+  const RectD large = paper.First(CallKind::Text).rect;
   EXPECT_NEAR(large.left / small.left, 600.0 / 96.0, 0.05);
   EXPECT_NEAR(large.Width(), small.Width() * 600.0 / 96.0, 1e-6);
 
@@ -124,7 +126,7 @@ TEST_F(PagePainterTest, OutputFillsTheDeviceAndKeepsTextInProportion) {
   const tagDraw draw = OutputDraw(page, 96.0, {10, 10, 50, 20});
   PaintCards(part, page.cards, draw);
   EXPECT_EQ(draw.clip, (Rect{0, 0, 152, 38}));
-  EXPECT_NEAR(part.Find(CallKind::Text)->rect.left, small.left - 10 * 96 / 25.4, 1.0);
+  EXPECT_NEAR(part.First(CallKind::Text).rect.left, small.left - 10 * 96 / 25.4, 1.0);
 }
 
 }  // namespace

@@ -104,9 +104,9 @@ TEST_F(TextLayoutTest, SameLinesOnEveryDeviceAtEveryZoom) {
       const RecordingGraphics drawn = Recorded(label, DrawAt(dpi, zoom));
       EXPECT_EQ(drawn.Texts(), reference.Texts()) << dpi << " dpi, zoom " << zoom;
       const double scale = dpi / 96.0 * std::abs(zoom);
-      const DrawCall& first = *drawn.Find(CallKind::Text);
-      EXPECT_NEAR(first.pixelSize, reference.Find(CallKind::Text)->pixelSize * scale, 1e-6);
-      EXPECT_NEAR(first.rect.Width(), reference.Find(CallKind::Text)->rect.Width() * scale, 1e-6);
+      const DrawCall& first = drawn.First(CallKind::Text);
+      EXPECT_NEAR(first.pixelSize, reference.First(CallKind::Text).pixelSize * scale, 1e-6);
+      EXPECT_NEAR(first.rect.Width(), reference.First(CallKind::Text).rect.Width() * scale, 1e-6);
     }
   }
 }

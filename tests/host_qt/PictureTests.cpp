@@ -6,9 +6,9 @@
 #include <QImage>
 
 #include "host/PngEncoder.h"
-#include "platform/Base64.h"
 #include "host/qt/QtHost.h"
 #include "host/qt/QtPictures.h"
+#include "platform/Base64.h"
 
 namespace xrpt {
 namespace {

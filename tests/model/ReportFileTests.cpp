@@ -282,7 +282,7 @@ TEST_F(Pictures, OpeningAndClosingManyReportsLeavesNothing) {
   for (std::size_t at = page.find("</holder>"); at != page.npos; at = page.find("</holder>")) page.erase(at, 9);
   ASSERT_NE(end, page.npos);
   const Path file = Write("A.x.xrpt", "<name>x</name>" + page + "</page>");
-  for (int i = 0; i < 400; ++i) {
+  for (int i = 0; i < 150; ++i) {
     RVReport report;
     ASSERT_TRUE(report.LoadFile(file).loaded);
     CardList& cards = report.pages[0]->cards;

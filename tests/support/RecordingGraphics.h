@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -54,10 +55,12 @@ class RecordingGraphics final : public Graphics {
     return static_cast<std::size_t>(
         std::count_if(calls.begin(), calls.end(), [kind](const DrawCall& call) { return call.kind == kind; }));
   }
-  const DrawCall* Find(CallKind kind) const {
+  // The first call of a kind; a test that expects one fails without it.
+  const DrawCall& First(CallKind kind) const {
     const auto found =
         std::find_if(calls.begin(), calls.end(), [kind](const DrawCall& call) { return call.kind == kind; });
-    return found == calls.end() ? nullptr : &*found;
+    if (found == calls.end()) throw std::runtime_error("no such call was drawn");
+    return *found;
   }
   // The texts in the order they were drawn.
   std::vector<std::wstring> Texts() const {

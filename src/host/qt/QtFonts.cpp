@@ -1,6 +1,7 @@
 #include "host/qt/QtFonts.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 
 namespace xrpt {
 namespace {
@@ -25,13 +26,16 @@ QFont ReferenceFont(const Font& font) {
 }
 
 QtFonts::Face& QtFonts::FaceOf(const Font& font) {
-  if (faces_.size() > kMaxFaces) faces_.clear();
-  const auto [found, isNew] = faces_.try_emplace({font.face, font.style});
-  if (isNew) {
-    found->second.font = ReferenceFont(font);
-    found->second.metrics = MetricsOf(found->second.font);
+  const auto isAsked = [&font](const Face& face) { return face.style == font.style && face.name == font.face; };
+  const auto found = std::find_if(faces_.begin(), faces_.end(), isAsked);
+  if (found != faces_.end()) {
+    faces_.splice(faces_.begin(), faces_, found);
+    return faces_.front();
   }
-  return found->second;
+  if (faces_.size() >= kMaxFaces) faces_.pop_back();
+  const QFont reference = ReferenceFont(font);
+  faces_.push_front({font.face, font.style, reference, MetricsOf(reference), {}});
+  return faces_.front();
 }
 
 FontMetrics QtFonts::Metrics(const Font& font) {
@@ -44,11 +48,11 @@ FontMetrics QtFonts::Metrics(const Font& font) {
 double QtFonts::Width(const Font& font, std::wstring_view text) {
   const std::lock_guard lock(mutex_);
   Face& face = FaceOf(font);
-  if (face.widths.size() > kMaxWidths) face.widths.clear();
-  const auto [found, isNew] = face.widths.try_emplace(std::wstring(text));
-  if (isNew) {
+  auto found = face.widths.find(text);
+  if (found == face.widths.end()) {
+    if (face.widths.size() >= kMaxWidths) face.widths.clear();
     const QString whole = QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-    found->second = QFontMetricsF(face.font).horizontalAdvance(whole) / kReferenceEm;
+    found = face.widths.emplace(text, QFontMetricsF(face.font).horizontalAdvance(whole) / kReferenceEm).first;
   }
   return found->second * std::max(font.size, 0.0);
 }

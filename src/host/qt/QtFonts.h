@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QFont>
-#include <map>
+#include <list>
 #include <mutex>
 #include <unordered_map>
 
@@ -24,16 +24,23 @@ class QtFonts final : public FontService {
   double Width(const Font& font, std::wstring_view text) override;
 
  private:
+  // Finds a text among those remembered without copying it first.
+  struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
+  };
   // A face in one style, everything in ems.
   struct Face {
+    std::wstring name;
+    FontStyle style;
     QFont font;
     FontMetrics metrics;
-    std::unordered_map<std::wstring, double> widths;
+    std::unordered_map<std::wstring, double, TextHash, std::equal_to<>> widths;
   };
   Face& FaceOf(const Font& font);
 
   std::mutex mutex_;
-  std::map<std::pair<std::wstring, FontStyle>, Face> faces_;
+  std::list<Face> faces_;  // last used first
 };
 
 }  // namespace xrpt

@@ -52,6 +52,15 @@ Qt::PenStyle ToQt(PenStyle style) {
   return Qt::SolidLine;
 }
 
+QString ToQt(std::wstring_view text) {
+  return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+double MeasuredStretch(const TextRun& run, const QFont& font, double scale) {
+  const double natural = run.width > 0.0 ? QFontMetricsF(font).horizontalAdvance(ToQt(run.text)) * scale : 0.0;
+  return natural > 0.0 ? Bounded(run.width) / natural : 1.0;
+}
+
 bool IsOdd(double width) { return width <= 0.0 || std::fmod(std::round(width), 2.0) == 1.0; }
 
 }  // namespace
@@ -192,22 +201,26 @@ const QFont& QtGraphics::FontOf(const Font& font) {
   return found->second;
 }
 
-// Laid out at the reference size and scaled as a whole, so that every letter stands where it was measured.
+// Laid out at the reference size and scaled as a whole, so that every letter stands where it was measured. Documents
+// get the text itself, which a reader can search; pixels get its glyphs, which need no shaping again.
 void QtGraphics::DrawText(const TextRun& run) {
   const double scale = Bounded(run.pixelSize) / kReferenceEm;
   if (run.text.empty() || scale <= 0.0 || run.color == kNoColor) return;
-  const QFont& font = FontOf(run.font ? *run.font : Font());
-  const QString text = QString::fromWCharArray(run.text.data(), static_cast<qsizetype>(run.text.size()));
-  const double natural = run.width > 0.0 ? QFontMetricsF(font).horizontalAdvance(text) * scale : 0.0;
-  const double stretch = natural > 0.0 ? Bounded(run.width) / natural : 1.0;
-  painter_.save();
+  const Font usual;
+  const Font& font = run.font ? *run.font : usual;
+  const double stretch = run.stretch > 0.0 ? Bounded(run.stretch) : MeasuredStretch(run, FontOf(font), scale);
+  const QTransform kept = painter_.worldTransform();
   painter_.translate(ToQt(run.origin));
   // Tiny differences are rounding; ignoring them lets letters of one size share their pixels.
   painter_.scale(std::abs(stretch - 1.0) < 1e-3 ? scale : scale * stretch, scale);
-  painter_.setFont(font);
   painter_.setPen(ToQt(run.color));
-  painter_.drawText(QPointF(), text);
-  painter_.restore();
+  if (isRaster_) {
+    for (const QGlyphRun& glyphs : cache_.Glyphs().Runs(font, run.text)) painter_.drawGlyphRun(QPointF(), glyphs);
+  } else {
+    painter_.setFont(FontOf(font));
+    painter_.drawText(QPointF(), ToQt(run.text));
+  }
+  painter_.setWorldTransform(kept);
 }
 
 void QtGraphics::DrawPicture(const PicturePtr& picture, const RectD& target) {

@@ -1,5 +1,7 @@
 #include "model/draw/CardDrawing.h"
 
+#include <optional>
+
 #include "model/draw/Marquee.h"
 #include "model/draw/TextLayout.h"
 #include "platform/Host.h"
@@ -84,6 +86,7 @@ void DrawTextLine(Graphics& graphics, const CardArea& area, const Font& pageFont
   run.pixelSize = pixelSize;
   run.origin = area.ToDevice(PointD{line.left + shift.x, line.baseline + shift.y});
   run.width = line.width * area.scale.x;
+  run.stretch = area.scale.x / area.scale.y;
   run.color = color;
   graphics.DrawText(run);
 }
@@ -102,8 +105,11 @@ void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& styl
   if (moving) MoveAlong(bounds, shift, style.animation, time, size);
 
   const bool turned = std::isfinite(style.orientation) && style.orientation != 0.0;
-  const GraphicsState state(graphics);
-  if (turned || Exceeds(bounds, size)) graphics.ClipRect(area.device);
+  std::optional<GraphicsState> state;
+  if (turned || Exceeds(bounds, size)) {
+    state.emplace(graphics);
+    graphics.ClipRect(area.device);
+  }
   if (turned) {
     graphics.Translate(area.device.Center().x, area.device.Center().y);
     graphics.Rotate(style.orientation);

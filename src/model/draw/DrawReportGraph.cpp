@@ -53,25 +53,18 @@ class GraphPainter {
     frame_.bottom -= legend.Height() + kPlotGap;
   }
 
-  // One entry a row, as high as they are together, beside the pie.
+  // Beside the pie, in one column if all fit under each other, else in a second or third.
   void PaintLegendBeside(const std::vector<LegendEntry>& entries) {
-    const double most = frame_.Width() * kLegendBeside;
-    std::vector<Legend> rows;
-    double width = 0.0;
-    double height = 0.0;
-    for (const LegendEntry& entry : entries) {
-      Legend row(canvas_, {entry}, {most, canvas_.lineHeight * 2.0});
-      if (row.IsEmpty() || height + row.Height() > frame_.Height()) break;
-      width = std::max(width, row.Width());
-      height += row.Height();
-      rows.push_back(std::move(row));
+    constexpr std::size_t kMostColumns = 3;
+    const SizeD most{frame_.Width() * kLegendBeside, frame_.Height()};
+    for (std::size_t columns = 1; columns <= kMostColumns; ++columns) {
+      const Legend legend(canvas_, entries, most, columns);
+      if (legend.IsEmpty()) return;
+      if (legend.Count() < entries.size() && columns < kMostColumns) continue;
+      legend.Draw({frame_.right - legend.Width(), frame_.Center().y - legend.Height() * 0.5});
+      frame_.right -= legend.Width() + 2.0 * kPlotGap;
+      return;
     }
-    double top = frame_.Center().y - height * 0.5;
-    for (const Legend& row : rows) {
-      row.Draw({frame_.right - width, top});
-      top += row.Height();
-    }
-    if (!rows.empty()) frame_.right -= width + 2.0 * kPlotGap;
   }
 
   void PaintOnePie() {

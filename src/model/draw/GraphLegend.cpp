@@ -19,7 +19,8 @@ bool HasLineKey(const LegendEntry& entry) {
 
 }  // namespace
 
-Legend::Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, SizeD most) : canvas_(canvas) {
+Legend::Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, SizeD most, std::size_t mostColumns)
+    : canvas_(canvas) {
   key_ = std::any_of(entries.begin(), entries.end(), HasLineKey) ? kLineKey : kBlock;
   const double rowHeight = canvas.lineHeight * kRow;
   const double room = most.width - key_ - kKeyGap;
@@ -29,7 +30,8 @@ Legend::Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, Size
     entry.text = FitText(canvas.fonts, canvas.font, entry.text, room);
     column = std::max(column, key_ + kKeyGap + canvas.Width(entry.text));
   }
-  const auto columns = static_cast<std::size_t>(std::max(1.0, std::floor((most.width + kApart) / (column + kApart))));
+  const double fitting = std::max(1.0, std::floor((most.width + kApart) / (column + kApart)));
+  const std::size_t columns = std::min(mostColumns, static_cast<std::size_t>(fitting));
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const auto row = static_cast<double>(i / columns);
     if ((row + 1.0) * rowHeight > most.height) return;

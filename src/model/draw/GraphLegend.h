@@ -14,7 +14,8 @@ struct LegendEntry {
 // Rows of as many columns as fit; entries that find no room are left out, and long ones shortened.
 class Legend {
  public:
-  Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, SizeD most);
+  Legend(const GraphCanvas& canvas, std::vector<LegendEntry> entries, SizeD most, std::size_t mostColumns = 1000);
+  std::size_t Count() const { return placed_.size(); }
   bool IsEmpty() const { return placed_.empty(); }
   double Height() const { return height_; }
   double Width() const { return width_; }

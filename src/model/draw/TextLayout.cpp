@@ -18,10 +18,12 @@ class LineBreaker {
   LineBreaker(FontService& fonts, const Font& font, double width) : fonts_(fonts), font_(font), width_(width) {}
 
   void Paragraph(std::wstring_view text, bool wrap) {
-    if (!wrap) return Add(text);
+    const double width = fonts_.Width(font_, text);
+    if (!wrap || width <= Limit()) return Add(text, width);
     while (lines_.size() < kMostLines) {
       const std::size_t end = LineEnd(text);
-      Add(TrimRight(text.substr(0, end)));
+      const std::wstring_view line = TrimRight(text.substr(0, end));
+      Add(line, fonts_.Width(font_, line));
       text.remove_prefix(end);
       text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
       if (text.empty()) return;
@@ -30,10 +32,11 @@ class LineBreaker {
   std::vector<TextLine> Take() { return std::move(lines_); }
 
  private:
-  void Add(std::wstring_view text) {
-    if (lines_.size() < kMostLines) lines_.push_back({std::wstring(text), 0.0, 0.0, fonts_.Width(font_, text)});
+  void Add(std::wstring_view text, double width) {
+    if (lines_.size() < kMostLines) lines_.push_back({std::wstring(text), 0.0, 0.0, width});
   }
-  bool Fits(std::wstring_view text) { return fonts_.Width(font_, text) <= width_ * (1.0 + kTolerance); }
+  double Limit() const { return width_ * (1.0 + kTolerance); }
+  bool Fits(std::wstring_view text) { return fonts_.Width(font_, text) <= Limit(); }
 
   static std::wstring_view TrimRight(std::wstring_view text) { return text.substr(0, text.find_last_not_of(L' ') + 1); }
 
@@ -41,7 +44,7 @@ class LineBreaker {
   std::size_t LineEnd(std::wstring_view text) {
     if (text.size() < 2) return text.size();
     const std::size_t room = CharactersThatFit(text);
-    if (room == text.size() || text[room] == L' ') return room;
+    if (room == text.size()) return room;
     const std::size_t space = text.rfind(L' ', room);
     return space == text.npos || space == 0 ? room : space;
   }

@@ -1,0 +1,136 @@
+// The property panel: what it shows of one card, of several and of the page, and what becomes of an edit.
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "desktop/MixedSpinBox.h"
+#include "desktop/PropertyPanel.h"
+#include "desktop/WindowTest.h"
+
+namespace xrpt {
+namespace {
+
+class Panel : public WindowTest {
+ protected:
+  Panel() {
+    OpenSample();
+    title_ = CardWith("text/textStr", L"Informe mensual de energía");
+    from_ = CardWith("text/textStr", L"Desde");
+  }
+  void Select(const std::vector<std::wstring>& ids) {
+    Page().SelectControls(ids);
+    Frame().SetModified(Frame().IsModified());
+    Settle();
+  }
+  template <class Widget>
+  Widget& Field(const char* name) {
+    auto* widget = dynamic_cast<Widget*>(Window().Properties().Find(name));
+    if (!widget) throw std::runtime_error(std::string("no such field: ") + name);
+    return *widget;
+  }
+  std::wstring TextOf(const std::wstring& id, const char* field) {
+    return FindField(Card(id).GetRuntimeClass().table, field)->text(&Card(id));
+  }
+
+  std::wstring title_;
+  std::wstring from_;
+};
+
+TEST_F(Panel, FillingIsNoEdit) {
+  const std::size_t steps = Page().UndoCount();
+  Select({title_});
+  EXPECT_EQ(Field<MixedSpinBox>("x").value(), Card(title_).x);
+  EXPECT_EQ(Field<QPlainTextEdit>("text/textStr").toPlainText().toStdWString(), L"Informe mensual de energía");
+  Select({from_});
+  EXPECT_EQ(Field<QPlainTextEdit>("text/textStr").toPlainText().toStdWString(), L"Desde");
+  Window().Properties().Commit();
+  EXPECT_FALSE(Frame().IsModified());
+  EXPECT_EQ(Page().UndoCount(), steps);
+}
+
+TEST_F(Panel, EditsAreSeenAtOnceAndBecomeOneStepWhenTheUserPauses) {
+  Select({title_});
+  Page().AddUndoInfo(false);
+  const std::size_t steps = Page().UndoCount();
+  const double before = Card(title_).x;
+  auto& x = Field<MixedSpinBox>("x");
+  x.setFocus();
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&x, Qt::Key_Up);
+  EXPECT_DOUBLE_EQ(Card(title_).x, before + 3.0);
+  EXPECT_TRUE(Frame().IsModified());
+  EXPECT_EQ(Page().UndoCount(), steps);
+  QTRY_COMPARE_EQ(Page().UndoCount(), steps + 1);
+  Run("Undo");
+  EXPECT_DOUBLE_EQ(Card(title_).x, before);
+  EXPECT_DOUBLE_EQ(Field<MixedSpinBox>("x").value(), before);
+}
+
+TEST_F(Panel, UndoRightAfterTypingTakesBackWhatWasTyped) {
+  Select({title_});
+  Page().AddUndoInfo(false);
+  QTest::keyClicks(&Field<QPlainTextEdit>("text/textStr"), QStringLiteral("abc"));
+  Settle();
+  ASSERT_EQ(TextOf(title_, "text/textStr"), L"abcInforme mensual de energía");
+  Run("Undo");
+  EXPECT_EQ(TextOf(title_, "text/textStr"), L"Informe mensual de energía");
+}
+
+TEST_F(Panel, SeveralCardsShowWhatTheyShareAndChangeTogether) {
+  Select({title_, from_});
+  EXPECT_TRUE(Field<MixedSpinBox>("width").IsMixed());
+  EXPECT_EQ(Field<MixedSpinBox>("width").text().toStdString(), "");
+  EXPECT_EQ(Field<QComboBox>("horizontalAlign").currentData().toString().toStdString(), "LEFT");
+  const double title = Card(title_).width;
+  const double from = Card(from_).width;
+  ASSERT_NE(title, from);
+  auto& size = Field<MixedSpinBox>("font/size");
+  size.setFocus();
+  size.selectAll();
+  QTest::keyClicks(&size, QStringLiteral("17"));
+  EXPECT_EQ(TextOf(title_, "font/size"), L"17.00");
+  EXPECT_EQ(TextOf(from_, "font/size"), L"17.00");
+  EXPECT_EQ(Card(title_).width, title);
+  EXPECT_EQ(Card(from_).width, from);
+}
+
+TEST_F(Panel, CardsOfDifferentKindsShareTheFieldsOfTheirCommonKind) {
+  Select({title_, Page().Page().cards[Page().Page().cards.Size() - 1].id});  // a label and a picture
+  EXPECT_NE(Window().Properties().Find("x"), nullptr);
+  EXPECT_EQ(Window().Properties().Find("font/size"), nullptr);
+  EXPECT_EQ(Window().Properties().Find("text/textStr"), nullptr);
+}
+
+TEST_F(Panel, NoCardSelectedShowsThePage) {
+  Select({});
+  auto& name = Field<QLineEdit>("name");
+  name.setFocus();
+  name.selectAll();
+  QTest::keyClicks(&name, QStringLiteral("Tapa"));
+  Window().Properties().Commit();
+  EXPECT_EQ(Page().Page().properties.name, L"Tapa");
+  EXPECT_TRUE(Frame().IsModified());
+  auto& width = Field<MixedSpinBox>("width");
+  const double before = Page().Placement().pageWidthPx;
+  width.setFocus();
+  QTest::keyClick(&width, Qt::Key_Up);
+  Window().Properties().Commit();
+  EXPECT_GT(Page().Placement().pageWidthPx, before);
+}
+
+TEST_F(Panel, TheWheelChangesNothingUnlessTheFieldHasTheKeyboard) {
+  Select({title_});
+  View().setFocus();
+  auto& x = Field<MixedSpinBox>("x");
+  const double before = Card(title_).x;
+  QWheelEvent turn(QPointF(5, 5), x.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&x, &turn);
+  EXPECT_EQ(Card(title_).x, before);
+  x.setFocus();
+  QApplication::sendEvent(&x, &turn);
+  EXPECT_EQ(Card(title_).x, before + 1.0);
+}
+
+}  // namespace
+}  // namespace xrpt
