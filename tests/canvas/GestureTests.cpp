@@ -260,6 +260,41 @@ TEST_F(GestureTest, ASmallCardMoves) {
   canvas.wnd.SelectControls({L"a"});
   canvas.wnd.OnKeyDown(key::Right, kCtrl);
   ExpectBox(canvas.Box(L"a"), {21, 20, 1.6, 1.6}, "by key");
+  // Far away it has no pixel at all: it moves, and is still there when the user looks closer.
+  canvas.wnd.SetZoom(0.05);
+  canvas.wnd.OnKeyDown(key::Right, kPlain);
+  EXPECT_EQ(canvas.Box(L"a").width, 1.6);
+  EXPECT_EQ(canvas.Box(L"a").height, 1.6);
+}
+
+// Moved with the others, never resized; its edges are no handles.
+class FixedCard final : public RVCardLabel {
+ public:
+  std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<FixedCard>(*this); }
+  bool Resizable() const override { return false; }
+};
+
+TEST_F(GestureTest, ACardOfFixedSizeOnlyMoves) {
+  Canvas canvas;
+  canvas.Add(L"a", {20, 20, 40, 20});
+  auto card = std::make_unique<FixedCard>();
+  card->id = L"fixed";
+  SetRect(*card, {100, 20, 40.03, 20});
+  canvas.page.cards.PushFront(std::move(card));
+  canvas.Move({601, 201});
+  EXPECT_EQ(canvas.port.cursor, Cursor::OverCard);
+  canvas.SetGrid(7, 7);
+  canvas.wnd.SelectControls({L"a", L"fixed"});
+  canvas.Press({399, 250});
+  canvas.Move({411, 250});
+  EXPECT_EQ(canvas.wnd.Selection().Entries()[1].rect, (Rect{600, 200, 800, 300})) << "its outline stays";
+  canvas.Release({411, 250});
+  ExpectBox(canvas.Box(L"a"), {20, 20, 43, 20}, "resized to the grid");
+  ExpectBox(canvas.Box(L"fixed"), {100, 20, 40.03, 20}, "left alone");
+  canvas.SetGrid(0, 0);
+  canvas.Drag({601, 201}, {611, 201});
+  ExpectBox(canvas.Box(L"fixed"), {102, 20, 40, 20}, "moved by its edge");
+  EXPECT_NEAR(canvas.Box(L"a").x, 22, 1e-9);
 }
 
 // --- Drawing ---
@@ -413,17 +448,35 @@ TEST_F(GestureTest, CursorFollowsTheTopCard) {
     Point at;
     Cursor cursor;
   };
-  const Row rows[] = {{{300, 250}, Cursor::OverCard}, {{202, 202}, Cursor::SizeNWSE}, {{205, 202}, Cursor::SizeNWSE},
-                      {{212, 202}, Cursor::SizeNS},   {{202, 207}, Cursor::SizeWE},   {{350, 250}, Cursor::SizeWE},
-                      {{398, 250}, Cursor::OverCard}, {{549, 299}, Cursor::SizeNWSE}, {{550, 299}, Cursor::Arrow},
-                      {{202, 299}, Cursor::SizeNESW}, {{548, 203}, Cursor::SizeNESW}, {{100, 100}, Cursor::Arrow}};
+  const Row rows[] = {{{300, 250}, Cursor::OverCard}, {{202, 202}, Cursor::SizeNWSE}, {{202, 205}, Cursor::SizeNWSE},
+                      {{202, 206}, Cursor::SizeWE},   {{205, 202}, Cursor::SizeNWSE}, {{212, 202}, Cursor::SizeNS},
+                      {{202, 207}, Cursor::SizeWE},   {{350, 250}, Cursor::SizeWE},   {{398, 250}, Cursor::OverCard},
+                      {{549, 299}, Cursor::SizeNWSE}, {{550, 299}, Cursor::Arrow},    {{202, 299}, Cursor::SizeNESW},
+                      {{548, 203}, Cursor::SizeNESW}, {{100, 100}, Cursor::Arrow}};
   for (const Row& row : rows) {
     canvas.Move(row.at);
     EXPECT_EQ(canvas.port.cursor, row.cursor) << row.at.x << " " << row.at.y;
   }
-  const int paints = canvas.port.paints;
-  canvas.Move({101, 100});
-  EXPECT_EQ(canvas.port.paints, paints) << "nothing to repaint while nothing changes";
+  struct Step {
+    Point at;
+    int paints;
+  };
+  // Repainted when another card is hovered, though the cursor is the same, and not while nothing changes.
+  for (const Step& step : {Step{{300, 250}, 1}, Step{{310, 250}, 0}, Step{{420, 250}, 1}, Step{{430, 250}, 0}}) {
+    const int before = canvas.port.paints;
+    canvas.Move(step.at);
+    EXPECT_EQ(canvas.port.paints - before, step.paints) << step.at.x;
+  }
+}
+
+// Toolkits repeat the last position; that is no drag.
+TEST_F(GestureTest, TheSamePointAgainIsNoMove) {
+  Canvas canvas;
+  canvas.AddTwo();
+  canvas.Move(kOnA);
+  canvas.Press(kOnA);
+  canvas.Move(kOnA);
+  EXPECT_EQ(canvas.wnd.CurrentMouseState(), kPressCard);
 }
 
 // --- Keys ---
@@ -519,6 +572,10 @@ TEST_F(GestureTest, FramesMarchWhileSomethingIsSelected) {
     canvas.wnd.OnTimer();
     EXPECT_EQ(canvas.wnd.Phase(), phase);
   }
+  canvas.Press(kOnB);
+  EXPECT_EQ(canvas.wnd.Phase(), 0) << "a press starts the march anew";
+  canvas.Release(kOnB);
+  canvas.wnd.OnTimer();
   canvas.wnd.ClearSelection();
   canvas.wnd.OnTimer();
   EXPECT_EQ(canvas.wnd.Phase(), 0);
