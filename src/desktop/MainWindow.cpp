@@ -105,7 +105,13 @@ void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
   window.SetPictureMaker(AddPictures);
+  window.SetToolbarEntry(
+      {text::kProperties, [this] { return IsPropertiesShown(); }, [this](int) { ToggleProperties(); }});
 }
+
+bool MainWindow::IsPropertiesShown() const { return propertiesDock_ && propertiesDock_->isVisible(); }
+
+void MainWindow::ToggleProperties() { propertiesDock_->setVisible(!IsPropertiesShown()); }
 
 void MainWindow::PageWindowGone(WindowPort& port) {
   auto& page = static_cast<PagePort&>(port);

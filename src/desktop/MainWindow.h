@@ -65,6 +65,8 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void BuildCentre();
   void BuildRibbon();
   void BuildDocks();
+  bool IsPropertiesShown() const;
+  void ToggleProperties();
   QDockWidget* AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
   void BuildStatusBar();
   void BuildKeys();
@@ -110,6 +112,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   ProblemsList* problems_ = nullptr;
   StatusBar* status_ = nullptr;
   std::vector<QDockWidget*> docks_;
+  QDockWidget* propertiesDock_ = nullptr;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
   bool writeFailed_ = false;

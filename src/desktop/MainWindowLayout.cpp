@@ -80,9 +80,9 @@ void MainWindow::BuildDocks() {
   problems_ = new ProblemsList(this);
   problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
   QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
-  QDockWidget* right = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
+  propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
   QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
-  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
+  resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
   problems_->countChanged = [below](int count) {

@@ -14,6 +14,9 @@ constexpr std::pair<int, const char*> kCommands[] = {{57635, "Cut"},    {57634, 
                                                      {57643, "Undo"},   {415, "Delete"},   {57642, "SelectAll"},
                                                      {57636, "Search"}, {57641, "Replace"}};
 
+// From here on the entries are the window's own parts, shown or hidden.
+bool IsToolbar(int command) { return command >= 800 && command <= 850; }
+
 const QAction* ActionOf(int command, const Actions& actions) {
   for (const auto& [number, name] : kCommands) {
     if (number == command) return actions.Find(name);
@@ -24,10 +27,11 @@ const QAction* ActionOf(int command, const Actions& actions) {
 void AddItem(QMenu& menu, const MenuItem& item, const Actions& actions) {
   QAction* entry = menu.addAction(Translated(item.textId));
   entry->setData(item.command);
-  entry->setEnabled(item.enabled);
   entry->setCheckable(item.checked);
   entry->setChecked(item.checked);
   const QAction* command = ActionOf(item.command, actions);
+  // A command the catalogue does not have is one nobody can carry out yet.
+  entry->setEnabled(item.enabled && (command || IsToolbar(item.command)));
   if (!command) return;
   entry->setIcon(command->icon());
   entry->setShortcut(command->shortcut());
