@@ -26,6 +26,7 @@
 #include "desktop/WatchedLogger.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "platform/NamedFiles.h"
 
 namespace xrpt {
 
@@ -73,9 +74,13 @@ void MainWindow::Open(const std::wstring& nameOrPath) {
   frame_->Setup(nameOrPath);
 }
 
+// With nothing to come back to in this folder, the first of its reports says more than an empty page.
 void MainWindow::OpenLast() {
-  const std::wstring name = CurrentHost().settings->RegistryText(kLastReport);
-  if (!name.empty()) Open(name);
+  const std::vector<std::wstring> names = NamesInFolder(CurrentHost().setup->CfgPath(), kReportEnding);
+  if (names.empty()) return;
+  const std::wstring last = CurrentHost().settings->RegistryText(kLastReport);
+  const bool there = std::find(names.begin(), names.end(), last) != names.end();
+  frame_->OpenByName(there ? last : names.front());
 }
 
 void MainWindow::ReportOpened(const LoadResult& result) {

@@ -1,5 +1,7 @@
 #include "platform/NamedFiles.h"
 
+#include <algorithm>
+
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -38,6 +40,13 @@ std::wstring NameOfFile(const Path& file, std::wstring_view ending) {
   if (EndsWith(name, ending)) name.resize(name.size() - ending.size());
   const std::size_t point = name.find(L'.');
   return point == std::wstring::npos ? name : name.substr(point + 1);
+}
+
+std::vector<std::wstring> NamesInFolder(const Path& folder, std::wstring_view ending) {
+  std::vector<std::wstring> names;
+  for (const Path& file : CurrentHost().files->List(folder, ending)) names.push_back(NameOfFile(file, ending));
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 }  // namespace xrpt

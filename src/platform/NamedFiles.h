@@ -18,4 +18,7 @@ Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view n
 // The name part of a file: what follows the first point of id.name.ending, or the stem of name.ending.
 std::wstring NameOfFile(const Path& file, std::wstring_view ending);
 
+// The names of all such files of a folder, in order.
+std::vector<std::wstring> NamesInFolder(const Path& folder, std::wstring_view ending);
+
 }  // namespace xrpt

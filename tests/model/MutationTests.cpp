@@ -26,7 +26,11 @@ void PutIntoValue(std::string& xml, Random& random, std::string_view text) {
   xml.replace(end, next - end, text);
 }
 
-using Mutation = void (*)(std::string&, Random&);
+struct Named {
+  const char* name;
+  void (*mutate)(std::string&, Random&);
+};
+void PrintTo(const Named& mutation, std::ostream* out) { *out << mutation.name; }
 
 void Cut(std::string& xml, Random& random) { xml.resize(Below(random, xml.size())); }
 
@@ -106,7 +110,7 @@ class Hostile : public HostTest {
   }
 };
 
-class Mutations : public Hostile, public ::testing::WithParamInterface<Mutation> {};
+class Mutations : public Hostile, public ::testing::WithParamInterface<Named> {};
 
 TEST_P(Mutations, LoadAsSomething) {
   const std::vector<Path> samples = Samples();
@@ -116,7 +120,7 @@ TEST_P(Mutations, LoadAsSomething) {
     for (unsigned seed = 0; seed < 6; ++seed) {
       Random random(seed);
       std::string mutant = original;
-      GetParam()(mutant, random);
+      GetParam().mutate(mutant, random);
       SCOPED_TRACE(sample.filename().string() + ", seed " + std::to_string(seed));
       ASSERT_NO_FATAL_FAILURE(LoadTwice(mutant));
     }
@@ -124,8 +128,12 @@ TEST_P(Mutations, LoadAsSomething) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Mutations,
-                         ::testing::Values(Cut, EmptyValue, StrangeValue, LongValue, Entity, Repeat, Swap, WrongCase,
-                                           Attributes, Nest, Doctype, FlipByte));
+                         ::testing::Values(Named{"Cut", Cut}, Named{"EmptyValue", EmptyValue},
+                                           Named{"StrangeValue", StrangeValue}, Named{"LongValue", LongValue},
+                                           Named{"Entity", Entity}, Named{"Repeat", Repeat}, Named{"Swap", Swap},
+                                           Named{"WrongCase", WrongCase}, Named{"Attributes", Attributes},
+                                           Named{"Nest", Nest}, Named{"Doctype", Doctype}, Named{"FlipByte", FlipByte}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // The samples are what our own saver writes: they come back as they are, but for their revision.
 TEST_F(Hostile, IsNotWhatOurSamplesAre) {
