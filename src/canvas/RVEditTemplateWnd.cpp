@@ -251,6 +251,7 @@ tagDraw RVEditTemplateWnd::MakeDraw(const Rect& clip) const {
   draw.pixelsPerMmX = scale_.x;
   draw.pixelsPerMmY = scale_.y;
   draw.fontFactor = page_.fontFactor;
+  draw.animationTime = animationTime_;
   return draw;
 }
 

@@ -199,6 +199,8 @@ class RVEditTemplateWnd {
   void OnControlAnimationStart() { ++animatingCards_; }
   void OnControlAnimationStop();
   int Phase() const { return phase_; }
+  // How long the page has been shown, in milliseconds: where moving texts and pictures are on their way.
+  void SetAnimationTime(int milliseconds) { animationTime_ = milliseconds; }
 
   // --- What painting needs ---
   tagDraw MakeDraw(const Rect& clip) const;
@@ -316,6 +318,7 @@ class RVEditTemplateWnd {
   int phase_ = 0;
   int timerId_ = 0;
   int animatingCards_ = 0;
+  int animationTime_ = 0;
   int orientation_ = 0;
 
   bool smartGuides_ = false;

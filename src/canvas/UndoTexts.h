@@ -2,6 +2,17 @@
 // above it is for one card.
 #pragma once
 
+#include <string>
+
+#include "canvas/RVUndo.h"
+
+namespace xrpt {
+
+// "Move 3 cards", "Move card"; empty for a step without a name.
+std::wstring UndoText(const UndoName& name);
+
+}  // namespace xrpt
+
 namespace xrpt::text {
 
 inline constexpr int kSelect = 60400;

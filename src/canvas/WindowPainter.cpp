@@ -68,6 +68,27 @@ void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd&
   window.BackgroundDrawn();
 }
 
+std::vector<Rect> MovingCards(const RVEditTemplateWnd& window, const Rect& client) {
+  std::vector<Rect> moving;
+  const PagePlacement place = window.Placement();
+  if (!place.IsValid()) return moving;
+  const CardList& cards = window.Page().cards;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    if (!cards[i].IsAnimated()) continue;
+    const Rect rect = ToPixels(place, RectOf(cards[i]));
+    if (RVEditTemplateWnd::IsVisible(client, rect)) moving.push_back(rect);
+  }
+  return moving;
+}
+
+void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part) {
+  const GraphicsState state(graphics);
+  graphics.ClipRect(RectD(part));
+  PagePaint how;
+  how.grid = &pixels;
+  PaintPage(graphics, window.Page(), window.MakeDraw(part), how);
+}
+
 WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int painting) {
   Scene scene;
   scene.window = &window;

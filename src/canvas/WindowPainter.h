@@ -19,6 +19,11 @@ class RVEditTemplateWnd;
 // `pixels` are the ones that `graphics` paints into: the grid goes there.
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client);
 
+// Where cards in sight move, in canvas pixels.
+std::vector<Rect> MovingCards(const RVEditTemplateWnd& window, const Rect& client);
+// Paints one part of the page anew, over what was there.
+void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part);
+
 class WindowOverlay {
  public:
   // Fills `shown` with the page's picture and all that lies over it. `painting` tells one picture of the page from the

@@ -26,8 +26,9 @@ bool IsPlainKey(const QKeySequence& key) {
   return modifiers == Qt::NoModifier && !isFunctionKey;
 }
 
-QString TooltipOf(const Command& command, const QList<QKeySequence>& keys) {
-  QString tip = QStringLiteral("<b>%1</b>").arg(Translated(command.textId).toHtmlEscaped());
+QString TooltipOf(const Command& command, const QList<QKeySequence>& keys, const QString& detail = {}) {
+  const QString label = Translated(command.textId) + (detail.isEmpty() ? detail : QStringLiteral(": ") + detail);
+  QString tip = QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped());
   if (!keys.isEmpty())
     tip += QStringLiteral("&nbsp;&nbsp;%1").arg(keys[0].toString(QKeySequence::NativeText).toHtmlEscaped());
   return tip + QStringLiteral("<br>%1").arg(Translated(command.HintTextId()).toHtmlEscaped());
@@ -80,6 +81,10 @@ void Actions::RefreshOne(QAction& action) const {
   const Command& command = CommandOf(action);
   action.setEnabled(command.isEnabled(frame_));
   if (command.isChecked) action.setChecked(command.isChecked(frame_));
+  if (!command.detail) return;
+  const QString detail = ToQString(command.detail(frame_));
+  action.setToolTip(TooltipOf(command, action.shortcuts(), detail));
+  action.setStatusTip(detail.isEmpty() ? Translated(command.HintTextId()) : detail);
 }
 
 }  // namespace xrpt

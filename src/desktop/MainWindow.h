@@ -87,6 +87,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void SaveAs();
   bool AskForName(QString& name);
   void ToggleSmartGuides();
+  void ToggleAnimation();
   void ToggleRulers();
   void ToggleDarkTheme();
   void ApplySurround();

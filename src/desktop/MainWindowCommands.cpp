@@ -22,6 +22,7 @@ namespace xrpt {
 bool MainWindow::RunCommand(const char* name) {
   static constexpr std::pair<const char*, void (MainWindow::*)()> kRows[] = {
       {"SmartGuides", &MainWindow::ToggleSmartGuides},
+      {"Animation", &MainWindow::ToggleAnimation},
       {"Rulers", &MainWindow::ToggleRulers},
       {"DarkTheme", &MainWindow::ToggleDarkTheme},
       {"CommandPalette", &MainWindow::OpenPalette},
@@ -41,8 +42,10 @@ bool MainWindow::RunCommand(const char* name) {
 
 // The switches of the view, which the frame knows nothing of.
 void MainWindow::ShowSwitches() {
-  const std::pair<const char*, bool> rows[] = {
-      {"SmartGuides", smartGuides_}, {"Rulers", pages_->HasRulers()}, {"DarkTheme", IsDarkTheme()}};
+  const std::pair<const char*, bool> rows[] = {{"SmartGuides", smartGuides_},
+                                               {"Animation", pages_->View().IsAnimated()},
+                                               {"Rulers", pages_->HasRulers()},
+                                               {"DarkTheme", IsDarkTheme()}};
   for (const auto& [name, on] : rows) {
     QAction* action = actions_->Find(name);
     action->setCheckable(true);
@@ -56,6 +59,8 @@ void MainWindow::ToggleSmartGuides() {
   smartGuides_ = !smartGuides_;
   for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSmartGuides(smartGuides_);
 }
+
+void MainWindow::ToggleAnimation() { pages_->View().SetAnimated(!pages_->View().IsAnimated()); }
 
 void MainWindow::ToggleRulers() { pages_->ShowRulers(!pages_->HasRulers()); }
 

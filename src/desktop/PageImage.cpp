@@ -46,7 +46,18 @@ void PageImage::PaintPage(RVEditTemplateWnd& window, QSize size, double scale) {
   QPainter painter(&page_);
   QtGraphics graphics(painter, pictures_);
   PaintWindowPage(graphics, pixels, window, ClientOf(page_));
+  moving_ = MovingCards(window, ClientOf(page_));
   window_ = &window;
+  ++paintings_;
+}
+
+// A page that is about to be painted whole needs no parts.
+void PageImage::PaintMoving(RVEditTemplateWnd& window) {
+  if (window_ != &window || window.NeedsBackground()) return;
+  PixelBuffer pixels = BufferOf(page_);
+  QPainter painter(&page_);
+  QtGraphics graphics(painter, pictures_);
+  for (const Rect& part : moving_) PaintWindowPart(graphics, pixels, window, part);
   ++paintings_;
 }
 

@@ -15,6 +15,10 @@ class PageImage {
  public:
   // `size` in canvas pixels.
   const QImage& Paint(RVEditTemplateWnd& window, QSize size, double scale);
+  // Whether anything on the page moves.
+  bool HasMoving() const { return !moving_.empty(); }
+  // Paints what moves where it is now.
+  void PaintMoving(RVEditTemplateWnd& window);
   // The next painting starts afresh.
   void Forget() { window_ = nullptr; }
   // How often the page itself was painted.
@@ -30,6 +34,7 @@ class PageImage {
   PictureCache pictures_;
   WindowOverlay overlay_;
   const RVEditTemplateWnd* window_ = nullptr;  // whose page `page_` is
+  std::vector<Rect> moving_;                   // canvas pixels
   int paintings_ = 0;
 };
 

@@ -16,6 +16,12 @@
 
 namespace xrpt {
 
+namespace {
+
+constexpr int kAnimationStep = 40;  // milliseconds
+
+}  // namespace
+
 PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   setAccessibleName(Translated(text::kPageView));
   setFrameShape(QFrame::NoFrame);
@@ -25,6 +31,9 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   horizontalScrollBar()->setAccessibleName(Translated(text::kScrollAcross));
   verticalScrollBar()->setAccessibleName(Translated(text::kScrollDown));
+  animation_.setInterval(kAnimationStep);
+  connect(&animation_, &QTimer::timeout, this, [this] { ShowMoment(); });
+  clock_.start();
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   setMinimumSize(160, 120);
@@ -109,6 +118,26 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
   painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
+  const bool moves = animated_ && image_.HasMoving();
+  if (moves && !animation_.isActive()) animation_.start();
+  if (!moves) animation_.stop();
+}
+
+// --- Animation ---
+
+void PageView::SetAnimated(bool on) {
+  animated_ = on;
+  clock_.restart();
+  if (Window()) Window()->SetAnimationTime(0);
+  RepaintPage();
+}
+
+// Only what moves is painted, and not while the view is out of sight.
+void PageView::ShowMoment() {
+  if (!Window() || !isVisible()) return animation_.stop();
+  Window()->SetAnimationTime(static_cast<int>(clock_.elapsed() & 0x7FFFFFFF));
+  image_.PaintMoving(*Window());
+  viewport()->update();
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QElapsedTimer>
+#include <QTimer>
 #include <functional>
 
 #include "desktop/PageImage.h"
@@ -26,6 +28,10 @@ class PageView final : public QAbstractScrollArea {
   const PagePort* Port() const { return port_; }
   // The page's pixels are painted anew, for what the window could not see (the theme).
   void RepaintPage();
+
+  // Whether scrolling texts and pictures move.
+  void SetAnimated(bool on);
+  bool IsAnimated() const { return animated_; }
 
   // How often a page was painted afresh.
   int PagePaintings() const { return image_.Paintings(); }
@@ -72,12 +78,16 @@ class PageView final : public QAbstractScrollArea {
   void StopPanning();
   void ScrollByWheel(QWheelEvent& event);
   bool SelectNeighbour(bool next);
+  void ShowMoment();
   void Escape();
 
   RVEditControlWnd* frame_ = nullptr;
   const Actions* actions_ = nullptr;
   PagePort* port_ = nullptr;
   PageImage image_;
+  QTimer animation_;  // runs while something in sight moves
+  QElapsedTimer clock_;
+  bool animated_ = true;
   bool captured_ = false;
   bool spaceHeld_ = false;
   std::optional<QPoint> panFrom_;

@@ -1,5 +1,6 @@
 #include "editor/CommandCatalogue.h"
 
+#include "canvas/UndoTexts.h"
 #include "editor/CommandTexts.h"
 #include "editor/InsertTools.h"
 #include "editor/RVEditControlWnd.h"
@@ -32,6 +33,9 @@ bool HasSeveralPages(const Frame& frame) { return frame.PageCount() > 1; }
 bool IsModified(const Frame& frame) { return frame.IsModified(); }
 bool CanZoomIn(const Frame& frame) { return NextZoomIn(frame.CurrentPage().Zoom()) <= Frame::kLargestZoom; }
 bool CanZoomOut(const Frame& frame) { return NextZoomOut(frame.CurrentPage().Zoom()) >= Frame::kSmallestZoom; }
+
+std::wstring UndoDetail(const Frame& frame) { return UndoText(frame.CurrentPage().NextUndoName()); }
+std::wstring RedoDetail(const Frame& frame) { return UndoText(frame.CurrentPage().NextRedoName()); }
 
 // --- What it does on the current page ---
 
@@ -113,9 +117,9 @@ constexpr Command kCommands[] = {
     {"Delete", kHome, text::kClipboardGroup, text::kDelete, "delete", "Del", false, OneSelected, nullptr,
      OnPage<&RVEditTemplateWnd::ControlDelete>},
     {"Undo", kHome, text::kHistoryGroup, text::kUndo, "undo", "Ctrl+Z", true, CanUndo, nullptr,
-     OnPage<&RVEditTemplateWnd::ControlUndo>},
+     OnPage<&RVEditTemplateWnd::ControlUndo>, UndoDetail},
     {"Redo", kHome, text::kHistoryGroup, text::kRedo, "redo", "Ctrl+Y Ctrl+Shift+Z", true, CanRedo, nullptr,
-     OnPage<&RVEditTemplateWnd::ControlRedo>},
+     OnPage<&RVEditTemplateWnd::ControlRedo>, RedoDetail},
     {"SelectAll", kHome, text::kSelectGroup, text::kSelectAll, "select-all", "Ctrl+E Ctrl+A", true, HasCards, nullptr,
      OnPage<&RVEditTemplateWnd::ControlSelectAll>},
 
@@ -208,6 +212,8 @@ constexpr Command kCommands[] = {
     {"FitWidth", kView, text::kZoomGroup, text::kFitWidth, "fit-width", "Ctrl+9", true, Always, IsFitWidth,
      OnFrame<&Frame::FitWidth>},
     {"SmartGuides", kView, text::kShowGroup, text::kSmartGuides, "guides", "Ctrl+Shift+G", true, Always, nullptr,
+     nullptr},
+    {"Animation", kView, text::kShowGroup, text::kAnimation, "animation", "Ctrl+Shift+A", true, Always, nullptr,
      nullptr},
     {"Rulers", kView, text::kShowGroup, text::kRulers, "rulers", "Ctrl+R", true, Always, nullptr, nullptr},
     {"DarkTheme", kView, text::kShowGroup, text::kDarkTheme, "theme", "Ctrl+Shift+D", true, Always, nullptr, nullptr},

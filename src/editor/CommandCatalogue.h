@@ -31,6 +31,8 @@ struct Command {
   bool (*isChecked)(const RVEditControlWnd& frame);  // null: the command is no switch
   // True when something was done. Null: only an application with a window can do it (EditorPort::RunCommand).
   bool (*run)(RVEditControlWnd& frame, CommandArguments arguments);
+  // What it would do right now ("Move 3 cards"), shown behind the label; null: the label says it all.
+  std::wstring (*detail)(const RVEditControlWnd& frame) = nullptr;
 
   int HintTextId() const { return textId + 200; }
 };

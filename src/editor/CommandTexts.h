@@ -91,5 +91,6 @@ inline constexpr int kSaveAs = 61483;
 inline constexpr int kExportPdf = 61484;
 inline constexpr int kExportImages = 61485;
 inline constexpr int kPrint = 61486;
+inline constexpr int kAnimation = 61487;
 
 }  // namespace xrpt::text

@@ -33,6 +33,7 @@ class RVCardConditioned : public RVCardControl {
   bool DeleteCondition(std::int32_t index);
   // The inner card the editor shows; null when there is none.
   const RVCardControl* Shown() const;
+  bool IsAnimated() const override { return Shown() && Shown()->IsAnimated(); }
 
   // A file may hold more conditions than cards, or the reverse; each list keeps its own length.
   std::vector<std::unique_ptr<RVCardControl>> cards;

@@ -68,6 +68,8 @@ class RVCardControl {
   // Draws the card into its rectangle; a plain card has nothing to show.
   virtual void Draw(Graphics& graphics, const tagDraw& draw) const;
   virtual bool Resizable() const { return true; }
+  // Whether it moves while the page is shown.
+  virtual bool IsAnimated() const { return false; }
 
   // Takes the font of a style into the card; false when the kind has no font or the style is unknown.
   virtual bool GetStyleFromFile(const std::wstring& name);

@@ -35,7 +35,7 @@ class RVCardImage : public RVCardControl {
   std::wstring ImageId() const { return image_ ? image_->Id() : std::wstring(); }
   std::wstring ImagePath() const { return image_ ? image_->ImagePath() : std::wstring(); }
   PicturePtr GetPicture() const { return image_ ? image_->Current() : nullptr; }
-  bool IsAnimated() const { return animation.behavior != Behavior::None; }
+  bool IsAnimated() const override { return animation.behavior != Behavior::None; }
 
   std::int32_t horizontalAlign = kAlignCenter;
   std::int32_t verticalAlign = kAlignCenter;

@@ -24,7 +24,7 @@ class RVCardLabel : public RVCardControl {
   // What the canvas shows.
   virtual std::wstring ShownText() const { return text; }
 
-  bool IsAnimated() const { return animation.behavior != Behavior::None; }
+  bool IsAnimated() const override { return animation.behavior != Behavior::None; }
 
   Font font;                 // size in points, scaled by the page's font factor when drawn
   double orientation = 0.0;  // degrees, counter-clockwise
