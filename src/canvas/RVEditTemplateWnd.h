@@ -119,6 +119,9 @@ class RVEditTemplateWnd {
   void SelectControls(const std::vector<std::wstring>& ids);
   void ClearSelection();
   const RVSelection& Selection() const { return selection_; }
+  // Where the selected cards stand on the page, in selection order; kNowhere for an id that no card has any more. One
+  // walk over the cards however many are selected.
+  std::vector<std::size_t> SelectedIndexes() const;
   // The selected card when there is exactly one, else empty.
   std::wstring SelectedCardId() const;
   // For panels: the card to change, then the end of the change, which records an undo step and repaints.
@@ -289,7 +292,6 @@ class RVEditTemplateWnd {
   UndoName GestureName() const;
   void Scroll(ScrollInfo& info, ScrollAxis axis, ScrollCommand command, int thumb);
   void SetScroll(ScrollInfo& info, ScrollAxis axis, int client, double pagePx, bool hide);
-  std::vector<std::size_t> SelectedIndexes() const;
 
   RVReportPage& page_;
   WindowPort& port_;

@@ -75,7 +75,6 @@ void RVEditTemplateWnd::UpdateRect(std::wstring_view id, const Rect& rect) {
   if (index >= 0) selection_.SetRect(static_cast<std::size_t>(index), rect);
 }
 
-// In selection order; kNowhere for an id that no card has any more. One walk over the cards however many are selected.
 std::vector<std::size_t> RVEditTemplateWnd::SelectedIndexes() const {
   std::vector<std::size_t> indexes(selection_.Size(), CardList::kNowhere);
   std::size_t wanted = indexes.size();

@@ -43,24 +43,15 @@ std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
   return text;
 }
 
-// A style's name alone changes nothing to see: the card takes its font, too.
+}  // namespace
+
 void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
   row.assign(&card, text);
   if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
 }
 
-}  // namespace
-
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page) {
-  const std::vector<std::wstring> ids = page.Selection().Ids();
-  std::unordered_map<std::wstring_view, std::size_t> places;
-  for (std::size_t i = 0; i < ids.size(); ++i) places.emplace(ids[i], i);
-  std::vector<std::size_t> indexes(ids.size(), CardList::kNowhere);
-  const CardList& cards = page.Page().cards;
-  for (std::size_t i = 0; i < cards.Size(); ++i) {
-    const auto place = places.find(cards[i].id);
-    if (place != places.end() && indexes[place->second] == CardList::kNowhere) indexes[place->second] = i;
-  }
+  std::vector<std::size_t> indexes = page.SelectedIndexes();
   std::erase(indexes, CardList::kNowhere);
   return indexes;
 }

@@ -48,7 +48,10 @@ class SelectedFields {
   Edit open_ = Edit::None;
 };
 
-// Where the selected cards of a page stand, in selection order; one walk over the cards however many are selected.
+// Writes a text into one field of a card. A style's name alone changes nothing to see: the card takes its font, too.
+void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text);
+
+// Where the selected cards of a page stand, in selection order.
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page);
 
 // What a list of cards calls one: its kind, and the first of its contents that is not empty.

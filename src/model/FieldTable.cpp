@@ -60,6 +60,18 @@ void ReadTables(const FieldTable& table, void* object, XmlCursor& cursor, const 
   ReadRows(table.rows, object, cursor, node);
 }
 
+// A row that counts only when it is the only one.
+struct OneOfSeveral {
+  void Add(const FieldRow& row) {
+    first = &row;
+    ++count;
+  }
+  const FieldRow* Only() const { return count == 1 ? first : nullptr; }
+
+  const FieldRow* first = nullptr;
+  int count = 0;
+};
+
 }  // namespace
 
 std::string FieldRow::FullName() const {
@@ -114,19 +126,17 @@ bool EqualFields(const FieldTable& table, const void* left, const void* right) {
 }
 
 const FieldRow* FindField(const FieldTable& table, std::string_view name) {
-  const FieldRow* byBareName = nullptr;
-  const FieldRow* byFullName = nullptr;
-  int bare = 0;
+  const FieldRow* whole = nullptr;
+  OneOfSeveral bare;
+  OneOfSeveral grouped;
   ForEachField(table, [&](const FieldRow& row) {
     if (!row.name || !row.assign) return;
-    if (!byFullName && row.FullName() == name) byFullName = &row;
-    if (name == row.name) {
-      byBareName = &row;
-      ++bare;
-    }
+    if (!whole && row.FullName() == name) whole = &row;
+    if (name == row.name) bare.Add(row);
+    if (row.group && name == row.group) grouped.Add(row);
   });
-  if (byFullName) return byFullName;
-  return bare == 1 ? byBareName : nullptr;
+  if (whole) return whole;
+  return bare.Only() ? bare.Only() : grouped.Only();
 }
 
 }  // namespace xrpt

@@ -92,7 +92,8 @@ bool EqualFields(const FieldTable& table, const void* left, const void* right);
 void ReadRows(std::span<const FieldRow> rows, void* object, XmlCursor& cursor, const XmlNode& node);
 void WriteRows(std::span<const FieldRow> rows, const void* object, XmlWriter& out);
 
-// The row of a field by its full name, or by its bare name when no other row of the tables has it; null otherwise.
+// The row of a field by its full name ("font/size"), by its bare name when no other row has it ("size"), or by its
+// group when that holds nothing else ("text"); null otherwise.
 const FieldRow* FindField(const FieldTable& table, std::string_view name);
 
 // Visits every row, base first.

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "editor/CommandCatalogue.h"
+#include "editor/SelectedFields.h"
 #include "platform/Json.h"
 #include "platform/Text.h"
 #include "xrpt/ActionNames.h"
@@ -185,7 +186,7 @@ std::string ScriptRunner::Set(Arguments arguments) {
   if (!card) return "there is no card " + arguments[0];
   const FieldRow* row = FindField(card->GetRuntimeClass().table, arguments[1]);
   if (!row) return std::string("a ") + card->GetRuntimeClass().tag + " has no field " + arguments[1];
-  row->assign(Page().EditCard(id), Joined(arguments, 2));
+  AssignToCard(*Page().EditCard(id), *row, Joined(arguments, 2));
   Page().CommitEdit();
   return {};
 }
