@@ -1,5 +1,6 @@
 #!/bin/sh
-# Saving twice in a row changes the revision alone, and every sample comes back as it was.
+# Saving twice in a row changes the revision alone, every sample comes back as it was, and what the saver writes fits the
+# schema: the samples', and a page on which every kind of card was drawn.
 # usage: check_resave.sh XRPT EXAMPLES
 set -eu
 xrpt=$1
@@ -23,7 +24,21 @@ for report in "$examples"/config/*.xrpt; do
   "$xrpt" resave "$work/once.xrpt" --config "$examples/config" --images "$examples/images" -o "$work/twice.xrpt"
   same_but_revision "$report" "$work/once.xrpt"
   same_but_revision "$work/once.xrpt" "$work/twice.xrpt"
+  xmllint --noout --relaxng "$examples/../docs/xrpt.rng" "$work/twice.xrpt" 2>/dev/null
 done
+
+y=20
+for tool in label image date formule conditioned reportGraph analogBar primitive; do
+  echo "tool $tool"
+  echo "press 720 $y"
+  echo "move 820 $((y + 40))"
+  echo "release 820 $((y + 40))"
+  y=$((y + 60))
+done >"$work/draw"
+echo print >>"$work/draw"
+"$xrpt" edit "$examples/../tests/scripts/plain.xrpt" -o "$work/drawn.xrpt" --actions "$work/draw" >"$work/state"
+[ "$(grep -o '"tag"' "$work/state" | wc -l)" -eq 11 ] || { echo "not every kind was drawn"; exit 1; }
+xmllint --noout --relaxng "$examples/../docs/xrpt.rng" "$work/drawn.xrpt"
 
 "$xrpt" resave "$report" --config "$examples/config" -o "$work/renamed.xrpt" --name Other
 grep -q '<name>Other</name>' "$work/renamed.xrpt"
