@@ -73,6 +73,10 @@ const Command& Actions::CommandOf(const QAction& action) {
   return *static_cast<const Command*>(action.data().value<const void*>());
 }
 
+QString Actions::FullLabelOf(const QAction& action) {
+  return QStringLiteral("%1: %2").arg(Translated(CommandOf(action).groupTextId), action.text());
+}
+
 void Actions::Refresh() {
   for (QAction* action : actions_) RefreshOne(*action);
 }

@@ -24,6 +24,8 @@ class Actions {
   // Null for a name the catalogue does not have.
   QAction* Find(std::string_view name) const;
   static const Command& CommandOf(const QAction& action);
+  // "Align to last card: Left" says more than "Left" where the ribbon's group is not in sight.
+  static QString FullLabelOf(const QAction& action);
 
   // Asks every command whether it is enabled and checked.
   void Refresh();

@@ -25,15 +25,6 @@ int MatchScore(const QString& label, const QString& typed) {
   return score;
 }
 
-namespace {
-
-// "Align to last card: Left" says more than "Left".
-QString LabelOf(const QAction& action) {
-  return QStringLiteral("%1: %2").arg(Translated(Actions::CommandOf(action).groupTextId), action.text());
-}
-
-}  // namespace
-
 CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* parent)
     : QDialog(parent, Qt::Popup | Qt::FramelessWindowHint), actions_(actions) {
   setObjectName(QStringLiteral("palettePopup"));
@@ -63,13 +54,13 @@ CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* pa
 void CommandPalette::Fill(const QString& typed) {
   std::vector<std::pair<int, QAction*>> found;
   for (QAction* action : actions_) {
-    if (const int score = MatchScore(LabelOf(*action), typed.trimmed())) found.emplace_back(score, action);
+    if (const int score = MatchScore(Actions::FullLabelOf(*action), typed.trimmed())) found.emplace_back(score, action);
   }
   std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
   list_->clear();
   for (const auto& [score, action] : found) {
     const QString key = action->shortcut().toString(QKeySequence::NativeText);
-    const QString label = LabelOf(*action);
+    const QString label = Actions::FullLabelOf(*action);
     auto* item =
         new QListWidgetItem(action->icon(), key.isEmpty() ? label : label + QStringLiteral("    ") + key, list_);
     item->setData(Qt::UserRole, QVariant::fromValue(static_cast<QObject*>(action)));

@@ -31,6 +31,12 @@ QString KeysOf(const QAction& action) {
   return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText);
 }
 
+// Alignments and sizes mean nothing without their group.
+QString LabelOf(const QAction& action) {
+  const bool leansOnGroup = Actions::CommandOf(action).tab == RibbonTab::Arrange;
+  return leansOnGroup ? Actions::FullLabelOf(action) : action.text();
+}
+
 }  // namespace
 
 ShortcutSheet::ShortcutSheet(const std::vector<QAction*>& actions, QWidget* parent) : QDialog(parent) {
@@ -71,7 +77,7 @@ QWidget* ShortcutSheet::MakeColumns(const std::vector<QAction*>& actions) {
     QGridLayout& grid = *shortest();
     AddSection(grid, Translated(tab.textId));
     for (const QAction* action : actions) {
-      if (Actions::CommandOf(*action).tab == tab.tab) AddRow(grid, action->text(), KeysOf(*action));
+      if (Actions::CommandOf(*action).tab == tab.tab) AddRow(grid, LabelOf(*action), KeysOf(*action));
     }
   }
   QGridLayout& grid = *shortest();
