@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "model/tagDraw.h"
+
 namespace xrpt {
 namespace {
 
@@ -44,8 +46,6 @@ void SnapAxis(double& near, double& size, double step) {
 
 }  // namespace
 
-int ToPixel(double value) { return std::clamp(roundi(value), -kFarPixel, kFarPixel); }
-
 Point Bounded(Point point) {
   return {std::clamp(point.x, -kFarPixel, kFarPixel), std::clamp(point.y, -kFarPixel, kFarPixel)};
 }
@@ -83,12 +83,8 @@ void SetRect(RVCardControl& card, const CardRect& rect) {
   card.height = rect.height;
 }
 
-// Width and height are rounded apart from the corner, so that a card's size in pixels does not wobble while it moves.
 Rect ToPixels(const PagePlacement& place, const CardRect& rect) {
-  const int left = ToPixel(std::round(place.offsetX) + place.pageWidthPx * rect.x / place.pageWidth);
-  const int top = ToPixel(std::round(place.offsetY) + place.pageHeightPx * rect.y / place.pageHeight);
-  return {left, top, left + ToPixel(place.pageWidthPx * rect.width / place.pageWidth),
-          top + ToPixel(place.pageHeightPx * rect.height / place.pageHeight)};
+  return CardPixelRect(place, rect.x, rect.y, rect.width, rect.height);
 }
 
 CardRect ToMillimetres(const PagePlacement& place, const Rect& rect) {

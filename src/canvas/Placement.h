@@ -10,10 +10,7 @@ namespace xrpt {
 // Zoom before there is a window to fit the page into; the next placement makes it 1.
 inline constexpr double kUndeterminedZoom = 2.2250738585072014e-308;
 
-// Pixels are kept this far from the ends of their type, so that sums and differences of a few of them never overflow,
-// whatever a file or a script says.
-inline constexpr int kFarPixel = 1 << 26;
-int ToPixel(double value);  // rounded half away from zero
+// A point no further out than pixels go.
 Point Bounded(Point point);
 
 struct PixelsPerMm {

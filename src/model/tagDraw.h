@@ -29,15 +29,15 @@ struct tagDraw {
   std::int32_t animationTime = 0;
 };
 
-// A card's rectangle on the device. Width and height are rounded apart from the corner, so that a card's size does not
-// wobble while it is moved.
-inline Rect CardPixelRect(const tagDraw& draw, double x, double y, double width, double height) {
-  const double left = std::round(draw.offsetX) + draw.pageWidthPx * x / draw.pageWidth;
-  const double top = std::round(draw.offsetY) + draw.pageHeightPx * y / draw.pageHeight;
-  const int l = roundi(left);
-  const int t = roundi(top);
-  return {l, t, roundi(static_cast<double>(l) + roundi(draw.pageWidthPx * width / draw.pageWidth)),
-          roundi(static_cast<double>(t) + roundi(draw.pageHeightPx * height / draw.pageHeight))};
+// A card's rectangle on the device, for hit tests, outlines and painting alike. Width and height are rounded apart from
+// the corner, so that a card's size does not wobble while it is moved. `Page` says where the page lies there: a
+// tagDraw, or a window's placement.
+template <class Page>
+Rect CardPixelRect(const Page& page, double x, double y, double width, double height) {
+  const int left = ToPixel(std::round(page.offsetX) + page.pageWidthPx * x / page.pageWidth);
+  const int top = ToPixel(std::round(page.offsetY) + page.pageHeightPx * y / page.pageHeight);
+  return {left, top, left + ToPixel(page.pageWidthPx * width / page.pageWidth),
+          top + ToPixel(page.pageHeightPx * height / page.pageHeight)};
 }
 
 }  // namespace xrpt

@@ -19,6 +19,11 @@ inline int trunci(double value) {
   return static_cast<int>(std::clamp(std::trunc(value), -2147483648.0, 2147483647.0));
 }
 
+// Pixels are kept this far from the ends of their type, so that sums and differences of a few of them never overflow,
+// whatever a file or a script says.
+inline constexpr int kFarPixel = 1 << 26;
+inline int ToPixel(double value) { return std::clamp(roundi(value), -kFarPixel, kFarPixel); }
+
 struct Point {
   int x = 0;
   int y = 0;
