@@ -1,5 +1,6 @@
 #include "canvas/InsertKinds.h"
 
+#include "canvas/InsertTools.h"
 #include "model/RVAnalogBar.h"
 #include "model/RVCardConditioned.h"
 #include "model/RVCardDate.h"
@@ -12,10 +13,14 @@ namespace xrpt {
 
 const InsertKindRow* FindInsertKind(int code) {
   static const InsertKindRow kRows[] = {
-      {0, &RVCardLabel::Class, 0x0001, 0x000000},       {1, &RVCardImage::Class, 0x0002, std::nullopt},
-      {3, &RVCardDate::Class, 0x0004, 0xC000C0},        {4, &RVCardFormule::Class, 0x0008, 0x6060C0},
-      {8, &RVCardConditioned::Class, 0x0010, 0x60C060}, {9, &RVCardReportGraph::Class, 0x0020, 0x606060},
-      {10, &RVAnalogBar::Class, 0x0040, 0x000000},      {136, &RVCardPrimitive::Class, 0x4000, std::nullopt},
+      {tool::kLabel, &RVCardLabel::Class, 0x0001, 0x000000},
+      {tool::kImage, &RVCardImage::Class, 0x0002, std::nullopt},
+      {tool::kDate, &RVCardDate::Class, 0x0004, 0xC000C0},
+      {tool::kFormule, &RVCardFormule::Class, 0x0008, 0x6060C0},
+      {tool::kConditioned, &RVCardConditioned::Class, 0x0010, 0x60C060},
+      {tool::kReportGraph, &RVCardReportGraph::Class, 0x0020, 0x606060},
+      {tool::kAnalogBar, &RVAnalogBar::Class, 0x0040, 0x000000},
+      {tool::kPrimitive, &RVCardPrimitive::Class, 0x4000, std::nullopt},
   };
   for (const InsertKindRow& row : kRows) {
     if (row.code == code) return &row;

@@ -17,6 +17,4 @@ struct InsertKindRow {
 // Null for a code that inserts nothing, the pointer's among them.
 const InsertKindRow* FindInsertKind(int code);
 
-inline constexpr int kPointerTool = 2;
-
 }  // namespace xrpt

@@ -1,7 +1,7 @@
 // The mouse machine: a press starts a gesture, moves carry it on, the release ends it (DragGestures.cpp says how).
 #include "canvas/DragRules.h"
 #include "canvas/HitTest.h"
-#include "canvas/InsertKinds.h"
+#include "canvas/InsertTools.h"
 #include "canvas/MouseState.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
@@ -19,7 +19,7 @@ void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
   const bool wasSelected = hit.card && selection_.IsSelected(hit.card->id);
   const bool keeps = flags.control || flags.shift;
   // The pointer tool on empty page leaves the selection to the rubber band.
-  if (!keeps && !wasSelected && (hit.card || insertKind_ != kPointerTool)) ClearSelection();
+  if (!keeps && !wasSelected && (hit.card || insertKind_ != tool::kPointer)) ClearSelection();
   if (hit.card && !wasSelected) Select(*hit.card, hit.rect);
   RefreshRects();
   if (hit.card) {
@@ -34,7 +34,7 @@ void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
 bool RVEditTemplateWnd::StartOnPage(Point point, MouseFlags flags) {
   const PagePlacement place = Placement();
   if (!place.IsValid() || !place.PageRect().Contains(point)) return false;
-  const bool pointer = insertKind_ == kPointerTool;
+  const bool pointer = insertKind_ == tool::kPointer;
   const GridSteps grid = GridOf(page_.properties);
   mouseState_ = PressOnPage(pointer, flags.control, flags.shift);
   selection_.StartBand(

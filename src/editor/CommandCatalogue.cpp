@@ -1,8 +1,8 @@
 #include "editor/CommandCatalogue.h"
 
+#include "canvas/InsertTools.h"
 #include "canvas/UndoTexts.h"
 #include "editor/CommandTexts.h"
-#include "editor/InsertTools.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {

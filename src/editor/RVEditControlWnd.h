@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "canvas/InsertTools.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "editor/EditorPort.h"
-#include "editor/InsertTools.h"
 #include "model/RVReport.h"
 #include "platform/Messages.h"
 

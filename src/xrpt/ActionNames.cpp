@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "editor/InsertTools.h"
+#include "canvas/InsertTools.h"
 #include "platform/Window.h"
 
 namespace xrpt {
