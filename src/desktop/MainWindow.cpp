@@ -25,13 +25,13 @@
 #include "desktop/ThemedScreen.h"
 #include "desktop/WatchedLogger.h"
 #include "editor/CommandTexts.h"
+#include "editor/EditorTexts.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/NamedFiles.h"
 
 namespace xrpt {
 
 namespace {
-constexpr int kSaveChangesText = 32472;
 constexpr wchar_t kLastReport[] = L"LastInforme";
 }  // namespace
 
@@ -210,7 +210,7 @@ void MainWindow::OnLogged(int severity, const QString& message) {
 bool MainWindow::MayClose() {
   properties_->Commit();
   if (!frame_->IsModified()) return true;
-  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(kSaveChangesText),
+  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(text::kSaveChanges),
                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, this);
   box.setDefaultButton(QMessageBox::Yes);
   const int answer = box.exec();

@@ -1,14 +1,10 @@
 #include "editor/CDlgEditor.h"
 
+#include "editor/EditorTexts.h"
+
 namespace xrpt {
-namespace {
-
-constexpr int kSaveChangesText = 32472;
-
-}  // namespace
-
 void CDlgEditor::Save() {
-  if (frame_.IsModified() && port_.Ask(kSaveChangesText) == Answer::Yes) frame_.Save();
+  if (frame_.IsModified() && port_.Ask(text::kSaveChanges) == Answer::Yes) frame_.Save();
   frame_.SetModified(false);
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "editor/EditorTexts.h"
 #include "model/RVCardImage.h"
 #include "platform/Host.h"
 #include "platform/NamedFiles.h"
@@ -10,8 +11,6 @@
 namespace xrpt {
 namespace {
 
-constexpr int kUntitledText = 32468;
-constexpr int kSaveChangesText = 32472;
 constexpr double kZoomStep = 0.5;
 constexpr int kPageMode = 0;
 constexpr int kWidthMode = 101;
@@ -22,7 +21,9 @@ RVEditControlWnd::RVEditControlWnd(EditorPort& port) : port_(port) { BuildPages(
 
 RVEditControlWnd::~RVEditControlWnd() { DropPages(); }
 
-std::wstring RVEditControlWnd::Caption() const { return report_.name.empty() ? HostText(kUntitledText) : report_.name; }
+std::wstring RVEditControlWnd::Caption() const {
+  return report_.name.empty() ? HostText(text::kUntitled) : report_.name;
+}
 
 void RVEditControlWnd::SetModified(bool modified) {
   report_.modified = modified;
@@ -74,7 +75,7 @@ bool RVEditControlWnd::NewReport() {
 }
 
 bool RVEditControlWnd::LetGoOfChanges() {
-  return !report_.modified || port_.Ask(kSaveChangesText) == Answer::No || Save();
+  return !report_.modified || port_.Ask(text::kSaveChanges) == Answer::No || Save();
 }
 
 bool RVEditControlWnd::Save() {

@@ -1,0 +1,9 @@
+// Text ids of what the editor says and asks, as hosts number them.
+#pragma once
+
+namespace xrpt::text {
+
+inline constexpr int kUntitled = 32468;
+inline constexpr int kSaveChanges = 32472;  // a question
+
+}  // namespace xrpt::text
