@@ -6,6 +6,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "host/qt/TextHash.h"
 #include "platform/Fonts.h"
 
 namespace xrpt {
@@ -19,15 +20,11 @@ class GlyphCache {
   const QList<QGlyphRun>& Runs(const Font& font, std::wstring_view text);
 
  private:
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
-  };
   struct Face {
     std::wstring name;
     FontStyle style;
     QFont font;
-    std::unordered_map<std::wstring, QList<QGlyphRun>, TextHash, std::equal_to<>> texts;
+    TextMap<QList<QGlyphRun>> texts;
   };
   Face& FaceOf(const Font& font);
 

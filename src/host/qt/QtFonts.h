@@ -6,6 +6,7 @@
 #include <mutex>
 #include <unordered_map>
 
+#include "host/qt/TextHash.h"
 #include "platform/Fonts.h"
 
 namespace xrpt {
@@ -24,18 +25,13 @@ class QtFonts final : public FontService {
   double Width(const Font& font, std::wstring_view text) override;
 
  private:
-  // Finds a text among those remembered without copying it first.
-  struct TextHash {
-    using is_transparent = void;
-    std::size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
-  };
   // A face in one style, everything in ems.
   struct Face {
     std::wstring name;
     FontStyle style;
     QFont font;
     FontMetrics metrics;
-    std::unordered_map<std::wstring, double, TextHash, std::equal_to<>> widths;
+    TextMap<double> widths;
   };
   Face& FaceOf(const Font& font);
 
