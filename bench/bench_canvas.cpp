@@ -10,28 +10,13 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "host/DefaultHost.h"
 #include "model/RVCardLabel.h"
+#include "support/StillWindow.h"
 
 namespace xrpt {
 namespace {
 
 constexpr int kColumns = 100;
 constexpr int kRows = 100;
-
-class NoScreen final : public WindowPort {
- public:
-  Rect ClientRect() const override { return {0, 0, 1200, 1400}; }
-  void Invalidate() override {}
-  void SetCapture() override {}
-  void ReleaseCapture() override {}
-  void SetFocus() override {}
-  void SetCursor(Cursor) override {}
-  void SetTimer(int, int) override {}
-  void KillTimer(int) override {}
-  void SetScrollInfo(ScrollAxis, const ScrollInfo&) override {}
-  Point CursorPosition() const override { return {}; }
-  bool IsControlDown() const override { return false; }
-  void TrackPopupMenu(const std::vector<MenuItem>&, Point) override {}
-};
 
 class Nobody final : public MessageTarget {
  public:
@@ -65,7 +50,7 @@ struct Desk {
   }
 
   RVReportPage page;
-  NoScreen port;
+  StillWindow port{{0, 0, 1200, 1400}};
   MessageQueue queue;
   Nobody nobody;
   RVEditTemplateWnd window;

@@ -4,26 +4,11 @@
 #include "editor/CDlgEditor.h"
 #include "editor/CommandCatalogue.h"
 #include "host/TextCatalogue.h"
+#include "support/StillWindow.h"
 #include "support/TestHost.h"
 
 namespace xrpt {
 namespace {
-
-class StillWindow final : public WindowPort {
- public:
-  Rect ClientRect() const override { return {0, 0, 1000, 800}; }
-  void Invalidate() override {}
-  void SetCapture() override {}
-  void ReleaseCapture() override {}
-  void SetFocus() override {}
-  void SetCursor(Cursor) override {}
-  void SetTimer(int, int) override {}
-  void KillTimer(int) override {}
-  void SetScrollInfo(ScrollAxis, const ScrollInfo&) override {}
-  Point CursorPosition() const override { return {}; }
-  bool IsControlDown() const override { return false; }
-  void TrackPopupMenu(const std::vector<MenuItem>&, Point) override {}
-};
 
 class AnsweringPort final : public EditorPort {
  public:
