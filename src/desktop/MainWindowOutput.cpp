@@ -3,11 +3,11 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-#include "desktop/Export.h"
 #include "desktop/MainWindow.h"
-#include "desktop/PropertyPanel.h"
 #include "desktop/TextIds.h"
-#include "desktop/Texts.h"
+#include "desktop/dialogs/Export.h"
+#include "desktop/look/Texts.h"
+#include "desktop/panels/PropertyPanel.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
 

@@ -4,11 +4,11 @@
 #include <QApplication>
 #include <QLocale>
 
-#include "desktop/Icons.h"
 #include "desktop/MainWindow.h"
 #include "desktop/TextIds.h"
-#include "desktop/Texts.h"
-#include "desktop/Theme.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/Texts.h"
+#include "desktop/look/Theme.h"
 #include "host/qt/QtHost.h"
 #include "platform/Text.h"
 

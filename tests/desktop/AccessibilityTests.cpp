@@ -12,10 +12,10 @@
 #include <QScrollBar>
 #include <QTabBar>
 
-#include "desktop/CommandPalette.h"
-#include "desktop/OpenDialog.h"
-#include "desktop/ShortcutSheet.h"
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/CommandPalette.h"
+#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/ShortcutSheet.h"
 
 namespace xrpt {
 namespace {

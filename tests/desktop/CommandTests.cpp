@@ -5,15 +5,15 @@
 #include <QLayout>
 #include <set>
 
-#include "desktop/CommandPalette.h"
-#include "desktop/Icons.h"
-#include "desktop/Outline.h"
-#include "desktop/PropertyPanel.h"
-#include "desktop/Ribbon.h"
-#include "desktop/RibbonButton.h"
-#include "desktop/RibbonGroup.h"
-#include "desktop/Theme.h"
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/CommandPalette.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/Theme.h"
+#include "desktop/panels/Outline.h"
+#include "desktop/panels/PropertyPanel.h"
+#include "desktop/ribbon/Ribbon.h"
+#include "desktop/ribbon/RibbonButton.h"
+#include "desktop/ribbon/RibbonGroup.h"
 #include "editor/CommandCatalogue.h"
 #include "host/TextCatalogue.h"
 #include "model/CardRegistry.h"

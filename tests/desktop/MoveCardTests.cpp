@@ -1,8 +1,8 @@
 // The whole road: open a report, move a card by hand, save it, and look at what became of the file.
 #include <gmock/gmock.h>
 
-#include "desktop/PropertyPanel.h"
 #include "desktop/WindowTest.h"
+#include "desktop/panels/PropertyPanel.h"
 #include "platform/NamedFiles.h"
 
 namespace xrpt {

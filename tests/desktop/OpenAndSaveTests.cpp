@@ -5,9 +5,9 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "desktop/MessageBar.h"
-#include "desktop/ProblemsDock.h"
 #include "desktop/WindowTest.h"
+#include "desktop/panels/MessageBar.h"
+#include "desktop/panels/ProblemsDock.h"
 
 namespace xrpt {
 namespace {

@@ -2,12 +2,12 @@
 // screens.
 #include <gmock/gmock.h>
 
-#include "desktop/KeyCodes.h"
-#include "desktop/PageImage.h"
-#include "desktop/Ribbon.h"
-#include "desktop/RulerMarks.h"
-#include "desktop/StatusBar.h"
 #include "desktop/WindowTest.h"
+#include "desktop/page/KeyCodes.h"
+#include "desktop/page/PageImage.h"
+#include "desktop/page/RulerMarks.h"
+#include "desktop/panels/StatusBar.h"
+#include "desktop/ribbon/Ribbon.h"
 
 namespace xrpt {
 namespace {

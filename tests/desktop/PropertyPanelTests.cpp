@@ -5,9 +5,9 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "desktop/MixedSpinBox.h"
-#include "desktop/PropertyPanel.h"
 #include "desktop/WindowTest.h"
+#include "desktop/panels/MixedSpinBox.h"
+#include "desktop/panels/PropertyPanel.h"
 
 namespace xrpt {
 namespace {

@@ -7,10 +7,10 @@
 #include <QTest>
 
 #include "canvas/RVEditTemplateWnd.h"
-#include "desktop/Actions.h"
 #include "desktop/MainWindow.h"
-#include "desktop/PageFrame.h"
-#include "desktop/PageView.h"
+#include "desktop/page/PageFrame.h"
+#include "desktop/page/PageView.h"
+#include "desktop/ribbon/Actions.h"
 #include "editor/RVEditControlWnd.h"
 #include "support/TestHost.h"
 

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "desktop/Theme.h"
+#include "desktop/look/Theme.h"
 #include "support/TestHost.h"
 
 int main(int argc, char** argv) {

@@ -1,0 +1,156 @@
+#include "desktop/page/PageView.h"
+
+#include <QMenu>
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "desktop/TextIds.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/Texts.h"
+#include "desktop/page/PageMenu.h"
+#include "desktop/page/PagePort.h"
+#include "desktop/ribbon/Actions.h"
+#include "editor/RVEditControlWnd.h"
+
+namespace xrpt {
+
+namespace {
+
+constexpr int kAnimationStep = 40;  // milliseconds
+
+}  // namespace
+
+PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
+  setAccessibleName(Translated(text::kPageView));
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  // Always there, so that a page that begins to need them does not change the room it has.
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  horizontalScrollBar()->setAccessibleName(Translated(text::kScrollAcross));
+  verticalScrollBar()->setAccessibleName(Translated(text::kScrollDown));
+  animation_.setInterval(kAnimationStep);
+  connect(&animation_, &QTimer::timeout, this, [this] { ShowMoment(); });
+  clock_.start();
+  viewport()->setMouseTracking(true);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(160, 120);
+}
+
+void PageView::Connect(RVEditControlWnd& frame, const Actions& actions) {
+  frame_ = &frame;
+  actions_ = &actions;
+}
+
+RVEditTemplateWnd* PageView::Window() const { return port_ ? port_->Window() : nullptr; }
+
+void PageView::ShowPage(PagePort& port) {
+  if (port_ == &port) return;
+  if (port_) LoseCapture();
+  port_ = &port;
+  ShowScroll(ScrollAxis::Horizontal, port.Scroll(ScrollAxis::Horizontal));
+  ShowScroll(ScrollAxis::Vertical, port.Scroll(ScrollAxis::Vertical));
+  ShowCursor(port.LastCursor());
+  if (Window()) Window()->OnSize();
+  Repaint();
+}
+
+void PageView::Forget(const PagePort& port) {
+  if (port_ != &port) return;
+  port_ = nullptr;
+  captured_ = false;
+  image_.Forget();
+}
+
+void PageView::RepaintPage() {
+  image_.Forget();
+  Repaint();
+}
+
+// --- What a page's window asks ---
+
+Rect PageView::PageArea() const { return {0, 0, viewport()->width(), viewport()->height()}; }
+
+void PageView::Repaint() {
+  viewport()->update();
+  if (placementChanged) placementChanged();
+}
+
+// The toolkit sends a pressed mouse's events here by itself; what counts is who hears of losing it.
+void PageView::Capture(bool on) { captured_ = on; }
+
+void PageView::LoseCapture() {
+  StopPanning();
+  if (!captured_) return;
+  captured_ = false;
+  if (Window()) Window()->OnCaptureChanged();
+}
+
+void PageView::ShowCursor(Cursor cursor) {
+  if (!panFrom_ && !spaceHeld_) viewport()->setCursor(ToolkitCursor(cursor));
+}
+
+// The last position a page's window allows is one page above its maximum.
+void PageView::ShowScroll(ScrollAxis axis, const ScrollInfo& info) {
+  QScrollBar* bar = axis == ScrollAxis::Horizontal ? horizontalScrollBar() : verticalScrollBar();
+  const QSignalBlocker quiet(bar);
+  const int limit = info.visible ? std::max(info.minimum, info.maximum - info.page + 1) : info.minimum;
+  bar->setRange(info.minimum, limit);
+  bar->setPageStep(axis == ScrollAxis::Horizontal ? viewport()->width() : viewport()->height());
+  bar->setSingleStep(20);
+  bar->setValue(info.position);
+  bar->update();
+}
+
+void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
+  captured_ = false;
+  const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
+  if (command == 0 || !Window()) return;
+  Window()->OnCommand(command);
+  if (menuUsed) menuUsed();
+}
+
+// --- Painting ---
+
+void PageView::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
+  painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
+  const bool moves = animated_ && image_.HasMoving();
+  if (moves && !animation_.isActive()) animation_.start();
+  if (!moves) animation_.stop();
+}
+
+// --- Animation ---
+
+void PageView::SetAnimated(bool on) {
+  animated_ = on;
+  clock_.restart();
+  if (Window()) Window()->SetAnimationTime(0);
+  RepaintPage();
+}
+
+// Only what moves is painted, and not while the view is out of sight.
+void PageView::ShowMoment() {
+  if (!Window() || !isVisible()) return animation_.stop();
+  Window()->SetAnimationTime(static_cast<int>(clock_.elapsed() & 0x7FFFFFFF));
+  image_.PaintMoving(*Window());
+  viewport()->update();
+}
+
+void PageView::resizeEvent(QResizeEvent* event) {
+  QAbstractScrollArea::resizeEvent(event);
+  if (Window()) Window()->OnSize();
+  if (resized) resized();
+  if (placementChanged) placementChanged();
+}
+
+void PageView::scrollContentsBy(int, int) {
+  if (!Window()) return;
+  Window()->OnHScroll(ScrollCommand::Thumb, horizontalScrollBar()->value());
+  Window()->OnVScroll(ScrollCommand::Thumb, verticalScrollBar()->value());
+}
+
+}  // namespace xrpt

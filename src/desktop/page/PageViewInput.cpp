@@ -1,0 +1,176 @@
+// What mouse, wheel and keyboard do on the page view: handed on to the page's window, but for panning, zooming and
+// walking from card to card, which are the view's own.
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "desktop/page/KeyCodes.h"
+#include "desktop/page/PagePort.h"
+#include "desktop/page/PageView.h"
+#include "desktop/ribbon/Actions.h"
+#include "editor/RVEditControlWnd.h"
+
+namespace xrpt {
+
+namespace {
+
+constexpr int kPixelsPerNotch = 60;
+constexpr double kZoomPerNotch = 1.2;
+constexpr int kNotch = 120;
+
+Point PositionOf(const QMouseEvent& event) { return {event.position().toPoint().x(), event.position().toPoint().y()}; }
+
+MouseFlags FlagsOf(Qt::KeyboardModifiers modifiers) {
+  MouseFlags flags;
+  flags.control = modifiers.testFlag(Qt::ControlModifier);
+  flags.shift = modifiers.testFlag(Qt::ShiftModifier);
+  return flags;
+}
+
+DragModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
+  DragModifiers drag;
+  drag.alt = modifiers.testFlag(Qt::AltModifier);
+  drag.shift = modifiers.testFlag(Qt::ShiftModifier);
+  return drag;
+}
+
+constexpr Point kNowhere{-1, -1};
+
+}  // namespace
+
+// --- Mouse ---
+
+void PageView::mousePressEvent(QMouseEvent* event) {
+  if (!Window() || StartPanning(*event) || event->button() != Qt::LeftButton) return;
+  Window()->OnLButtonDown(PositionOf(*event), FlagsOf(event->modifiers()));
+}
+
+void PageView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void PageView::mouseMoveEvent(QMouseEvent* event) {
+  if (pointerMoved) pointerMoved(event->position().toPoint());
+  if (panFrom_) return Pan(event->position().toPoint());
+  if (Window() && !spaceHeld_) Window()->OnMouseMove(PositionOf(*event), ModifiersOf(event->modifiers()));
+}
+
+void PageView::mouseReleaseEvent(QMouseEvent* event) {
+  if (panFrom_) return StopPanning();
+  if (!Window()) return;
+  if (event->button() == Qt::LeftButton) Window()->OnLButtonUp(PositionOf(*event));
+  if (event->button() == Qt::RightButton && !captured_) Window()->OnRButtonUp(PositionOf(*event));
+}
+
+bool PageView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::Leave) {
+    if (pointerMoved) pointerMoved(std::nullopt);
+    if (Window() && !captured_) Window()->OnMouseMove(kNowhere);  // no card is under the pointer any more
+  }
+  return QAbstractScrollArea::viewportEvent(event);
+}
+
+// The mouse's own menu comes with the button's release; this is the keyboard's.
+void PageView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Keyboard && Window())
+    Window()->OnRButtonUp({viewport()->width() / 2, viewport()->height() / 2});
+}
+
+void PageView::focusOutEvent(QFocusEvent* event) {
+  if (event->reason() != Qt::PopupFocusReason) LoseCapture();
+  QAbstractScrollArea::focusOutEvent(event);
+}
+
+// --- Panning ---
+
+bool PageView::StartPanning(QMouseEvent& event) {
+  const bool pans = event.button() == Qt::MiddleButton || (spaceHeld_ && event.button() == Qt::LeftButton);
+  if (!pans || captured_) return pans;
+  panFrom_ = event.position().toPoint();
+  viewport()->setCursor(Qt::ClosedHandCursor);
+  return true;
+}
+
+void PageView::Pan(QPoint to) {
+  const QPoint step = to - *panFrom_;
+  panFrom_ = to;
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() - step.x());
+  verticalScrollBar()->setValue(verticalScrollBar()->value() - step.y());
+}
+
+void PageView::StopPanning() {
+  if (!panFrom_) return;
+  panFrom_.reset();
+  viewport()->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
+}
+
+// --- Wheel ---
+
+void PageView::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  if (!Window() || captured_) return;
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return ScrollByWheel(*event);
+  const double notches = event->angleDelta().y() / static_cast<double>(kNotch);
+  ZoomAt(std::abs(Window()->Zoom()) * std::pow(kZoomPerNotch, notches), event->position().toPoint());
+}
+
+void PageView::ScrollByWheel(QWheelEvent& event) {
+  QPoint step = event.hasPixelDelta() ? event.pixelDelta() : event.angleDelta() * kPixelsPerNotch / kNotch;
+  if (event.modifiers().testFlag(Qt::ShiftModifier)) step = {step.y(), step.x()};
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() - step.x());
+  verticalScrollBar()->setValue(verticalScrollBar()->value() - step.y());
+}
+
+// The page's point under the pixel stays there, as far as there is something to scroll.
+void PageView::ZoomAt(double zoom, QPoint at) {
+  const PagePlacement before = Window()->Placement();
+  zoom = std::clamp(zoom, RVEditControlWnd::kSmallestZoom, RVEditControlWnd::kLargestZoom);
+  const PointD fraction{(at.x() - before.offsetX) / before.pageWidthPx,
+                        (at.y() - before.offsetY) / before.pageHeightPx};
+  if (!frame_->SetZoom(zoom)) return;
+  const PagePlacement after = Window()->Placement();
+  horizontalScrollBar()->setValue(roundi(fraction.x * after.pageWidthPx - at.x()));
+  verticalScrollBar()->setValue(roundi(fraction.y * after.pageHeightPx - at.y()));
+}
+
+// --- Keyboard ---
+
+void PageView::keyPressEvent(QKeyEvent* event) {
+  if (!Window()) return;
+  if (event->key() == Qt::Key_Space) {
+    spaceHeld_ = true;
+    if (!panFrom_) viewport()->setCursor(Qt::OpenHandCursor);
+    return;
+  }
+  if (event->key() == Qt::Key_Escape) return Escape();
+  if (const int code = VirtualKey(event->key())) Window()->OnKeyDown(code, FlagsOf(event->modifiers()));
+}
+
+void PageView::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Space || event->isAutoRepeat()) return QAbstractScrollArea::keyReleaseEvent(event);
+  spaceHeld_ = false;
+  if (!panFrom_) ShowCursor(port_ ? port_->LastCursor() : Cursor::Arrow);
+}
+
+// Ends a gesture, else puts the insert tool away.
+void PageView::Escape() {
+  if (captured_) return LoseCapture();
+  QAction* pointer = actions_->Find("Pointer");
+  pointer->isChecked() ? Window()->OnKeyDown(key::Escape, {}) : pointer->trigger();
+}
+
+// Tab walks the cards, back to front, and leaves the page after the last.
+bool PageView::focusNextPrevChild(bool next) {
+  return SelectNeighbour(next) || QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+bool PageView::SelectNeighbour(bool next) {
+  if (!Window() || !hasFocus()) return false;
+  const CardList& cards = Window()->Page().cards;
+  const std::vector<std::wstring> selected = Window()->Selection().Ids();
+  const std::size_t none = next ? cards.Size() : CardList::kNowhere;
+  const std::size_t at = selected.empty() ? none : cards.IndexOf(selected.back());
+  const std::size_t neighbour = next ? at - 1 : at + 1;
+  return neighbour < cards.Size() && Window()->SelectControlById(cards[neighbour].id);
+}
+
+}  // namespace xrpt

@@ -1,0 +1,95 @@
+#include "desktop/page/Rulers.h"
+
+#include <QPaintEvent>
+
+#include "desktop/TextIds.h"
+#include "desktop/look/Texts.h"
+#include "desktop/look/Theme.h"
+
+namespace xrpt {
+
+namespace {
+
+double LengthOf(RulerMarkKind kind) {
+  switch (kind) {
+    case RulerMarkKind::Major:
+      return 9.0;
+    case RulerMarkKind::Middle:
+      return 6.0;
+    case RulerMarkKind::Minor:
+      break;
+  }
+  return 3.5;
+}
+
+}  // namespace
+
+Ruler::Ruler(Qt::Orientation orientation, QWidget* parent) : QWidget(parent), orientation_(orientation) {
+  const bool isHorizontal = orientation == Qt::Horizontal;
+  isHorizontal ? setFixedHeight(kThickness) : setFixedWidth(kThickness);
+  setAccessibleName(Translated(isHorizontal ? text::kHorizontalRuler : text::kVerticalRuler));
+  QFont small = font();
+  small.setPointSizeF(small.pointSizeF() * 0.75);
+  setFont(small);
+}
+
+void Ruler::SetScale(const RulerScale& scale, double pageMillimetres) {
+  if (scale == scale_ && pageMillimetres == page_) return;
+  scale_ = scale;
+  page_ = pageMillimetres;
+  update();
+}
+
+void Ruler::SetPointer(std::optional<int> position) {
+  if (position == pointer_) return;
+  pointer_ = position;
+  update();
+}
+
+void Ruler::SetSelection(std::optional<std::pair<int, int>> range) {
+  if (range == selection_) return;
+  selection_ = range;
+  update();
+}
+
+QRectF Ruler::Along(double from, double to, double near, double far) const {
+  return orientation_ == Qt::Horizontal ? QRectF(QPointF(from, kThickness - far), QPointF(to, kThickness - near))
+                                        : QRectF(QPointF(kThickness - far, from), QPointF(kThickness - near, to));
+}
+
+void Ruler::paintEvent(QPaintEvent*) {
+  const ThemeColors& colors = CurrentTheme();
+  QPainter painter(this);
+  painter.fillRect(rect(), colors.window);
+  painter.fillRect(Along(scale_.origin, scale_.origin + page_ * scale_.pixelsPerMm, 0, kThickness), colors.panel);
+  if (selection_) {
+    QColor tint = colors.accent;
+    tint.setAlphaF(0.28F);
+    painter.fillRect(Along(selection_->first, selection_->second + 1, 0, kThickness), tint);
+  }
+  for (const RulerMark& mark : RulerMarks(scale_, 0, Length())) PaintMark(painter, mark);
+  painter.fillRect(Along(0, Length(), 0, 1), colors.border);
+  if (pointer_) painter.fillRect(Along(*pointer_, *pointer_ + 1, 0, kThickness), colors.accent);
+}
+
+void Ruler::PaintMark(QPainter& painter, const RulerMark& mark) const {
+  const double at = std::floor(mark.position);
+  painter.fillRect(Along(at, at + 1, 0, LengthOf(mark.kind)), CurrentTheme().muted);
+  if (mark.kind == RulerMarkKind::Major) PaintLabel(painter, mark);
+}
+
+void Ruler::PaintLabel(QPainter& painter, const RulerMark& mark) const {
+  painter.setPen(CurrentTheme().muted);
+  const QString label = locale().toString(mark.millimetres, 'g', 6);
+  if (orientation_ == Qt::Horizontal) {
+    painter.drawText(QPointF(std::floor(mark.position) + 3, 9), label);
+    return;
+  }
+  painter.save();
+  painter.translate(9, std::floor(mark.position) - 3);
+  painter.rotate(-90);
+  painter.drawText(QPointF(0, 0), label);
+  painter.restore();
+}
+
+}  // namespace xrpt

@@ -1,0 +1,40 @@
+// A ruler in millimetres along an edge of the page view, with marks where the pointer and the selection are.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+
+#include "desktop/page/RulerMarks.h"
+
+namespace xrpt {
+
+class Ruler final : public QWidget {
+ public:
+  static constexpr int kThickness = 20;
+
+  explicit Ruler(Qt::Orientation orientation, QWidget* parent = nullptr);
+
+  void SetScale(const RulerScale& scale, double pageMillimetres);
+  // In pixels; nothing when the pointer is elsewhere.
+  void SetPointer(std::optional<int> position);
+  // First and last pixel of the selection; nothing without one.
+  void SetSelection(std::optional<std::pair<int, int>> range);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int Length() const { return orientation_ == Qt::Horizontal ? width() : height(); }
+  // A rectangle along the ruler, whichever way it lies.
+  QRectF Along(double from, double to, double near, double far) const;
+  void PaintMark(QPainter& painter, const RulerMark& mark) const;
+  void PaintLabel(QPainter& painter, const RulerMark& mark) const;
+
+  Qt::Orientation orientation_;
+  RulerScale scale_;
+  double page_ = 0.0;
+  std::optional<int> pointer_;
+  std::optional<std::pair<int, int>> selection_;
+};
+
+}  // namespace xrpt

@@ -1,0 +1,246 @@
+#include "desktop/panels/FieldEditors.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QFontComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QStringListModel>
+
+#include "desktop/TextIds.h"
+#include "desktop/look/Texts.h"
+#include "desktop/panels/ColorButton.h"
+#include "desktop/panels/MixedSpinBox.h"
+#include "platform/NamedFiles.h"
+#include "platform/Numbers.h"
+#include "platform/Text.h"
+
+namespace xrpt {
+
+namespace {
+
+constexpr std::wstring_view kStyleEnding = L".XSTY";
+
+// What all of them share: the toolkit's widget and who hears of edits.
+template <class Control>
+class EditorOf : public FieldEditorWidget {
+ public:
+  EditorOf(Edited edited, QWidget* parent) : control_(new Control(parent)), edited_(std::move(edited)) {}
+  QWidget* Widget() override { return control_; }
+
+ protected:
+  void Tell(std::string text) const { edited_(std::move(text)); }
+  void Tell(const QString& text) const { edited_(text.toStdString()); }
+
+  Control* control_;
+
+ private:
+  Edited edited_;
+};
+
+class TextEditor final : public EditorOf<QLineEdit> {
+ public:
+  TextEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    QObject::connect(control_, &QLineEdit::textEdited, control_, [this](const QString& text) { Tell(text); });
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    const QString shown = ToQString(text.value_or(L""));
+    control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
+    if (control_->text() != shown) control_->setText(shown);
+  }
+  // Names to complete what is typed from.
+  void Offer(const QStringList& names) {
+    auto* completer = new QCompleter(names, control_);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setFilterMode(Qt::MatchContains);
+    control_->setCompleter(completer);
+    QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), control_,
+                     [this](const QString& text) { Tell(text); });
+  }
+};
+
+class LinesEditor final : public EditorOf<QPlainTextEdit> {
+ public:
+  LinesEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    control_->setTabChangesFocus(true);
+    control_->setFixedHeight(control_->fontMetrics().lineSpacing() * 4 + 10);
+    control_->setFrameShape(QFrame::StyledPanel);
+    control_->viewport()->setAutoFillBackground(false);  // the style fills the whole field
+    QObject::connect(control_, &QPlainTextEdit::textChanged, control_, [this] { Tell(control_->toPlainText()); });
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    const QString shown = ToQString(text.value_or(L""));
+    control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
+    if (control_->toPlainText() == shown) return;
+    const QSignalBlocker quiet(control_);
+    control_->setPlainText(shown);
+  }
+};
+
+class CheckEditor final : public EditorOf<QCheckBox> {
+ public:
+  CheckEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    QObject::connect(control_, &QCheckBox::clicked, control_, [this](bool checked) {
+      control_->setTristate(false);
+      Tell(std::string(checked ? "T" : "F"));
+    });
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    const QSignalBlocker quiet(control_);
+    control_->setTristate(!text);
+    control_->setCheckState(!text ? Qt::PartiallyChecked : *text == L"T" ? Qt::Checked : Qt::Unchecked);
+  }
+};
+
+class NumberEditor final : public EditorOf<MixedSpinBox> {
+ public:
+  NumberEditor(const FieldRow& row, Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    const bool isInteger = row.panel.editor == FieldEditor::Integer;
+    const bool hasRange = row.panel.maximum > row.panel.minimum;
+    control_->setDecimals(isInteger ? 0 : 2);
+    control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
+    if (row.panel.editor == FieldEditor::Angle) AsAngle();
+    QObject::connect(control_, &QDoubleSpinBox::valueChanged, control_, [this, isInteger](double value) {
+      if (!control_->IsMixed()) Tell(FormatFixed(value, isInteger ? 0 : 2));
+    });
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    if (!text) return control_->ShowMixed();
+    const double value = ParseDecimal(*text);
+    if (control_->IsMixed() || control_->value() != value) control_->ShowValue(value);
+  }
+
+ private:
+  void AsAngle() {
+    control_->setSuffix(QStringLiteral("°"));
+    control_->setSingleStep(15.0);
+  }
+};
+
+class ColorEditor final : public EditorOf<ColorButton> {
+ public:
+  ColorEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    control_->chosen = [this](Color color) { Tell(FormatColor(color)); };
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    control_->Show(text ? std::optional(ParseColor(*text)) : std::nullopt);
+  }
+};
+
+// Lists that change nothing when the wheel passes over them.
+class QuietComboBox final : public QComboBox {
+ public:
+  explicit QuietComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override { hasFocus() ? QComboBox::wheelEvent(event) : event->ignore(); }
+};
+
+class ChoiceEditor final : public EditorOf<QuietComboBox> {
+ public:
+  ChoiceEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    control_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    control_->setMinimumContentsLength(6);
+    QObject::connect(control_, &QComboBox::activated, control_,
+                     [this](int index) { Tell(control_->itemData(index).toString()); });
+  }
+  void Offer(const QString& label, const QString& text) { control_->addItem(label, text); }
+  void Show(const std::optional<std::wstring>& text) override {
+    const QSignalBlocker quiet(control_);
+    int index = text ? control_->findData(ToQString(*text)) : -1;
+    if (text && index < 0) {  // a text that is no word of the list is kept and shown
+      control_->addItem(ToQString(*text), ToQString(*text));
+      index = control_->count() - 1;
+    }
+    control_->setCurrentIndex(index);
+    control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
+  }
+};
+
+class FaceEditor final : public EditorOf<QFontComboBox> {
+ public:
+  FaceEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
+    control_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    control_->setMinimumContentsLength(8);
+    QObject::connect(control_, &QComboBox::textActivated, control_, [this](const QString& face) { Tell(face); });
+    QObject::connect(control_->lineEdit(), &QLineEdit::editingFinished, control_, [this] {
+      if (control_->lineEdit()->isModified() && !control_->currentText().isEmpty()) Tell(control_->currentText());
+      control_->lineEdit()->setModified(false);
+    });
+  }
+  void Show(const std::optional<std::wstring>& text) override {
+    const QSignalBlocker quiet(control_);
+    control_->setEditText(ToQString(text.value_or(L"")));
+    control_->lineEdit()->setCursorPosition(0);
+    control_->lineEdit()->setPlaceholderText(text ? QString() : Translated(text::kMixed));
+  }
+};
+
+QStringList VariableNames() {
+  QStringList names;
+  for (const Device& device : CurrentHost().devices->Devices()) {
+    for (const DeviceVariable& variable : device.variables)
+      names.append(ToQString(CurrentHost().variables->JoinDriverVariable({device.id, variable.id, {}, {}})));
+  }
+  return names;
+}
+
+std::unique_ptr<FieldEditorWidget> MakeChoice(const FieldRow& row, FieldEditorWidget::Edited edited, QWidget* parent) {
+  auto choice = std::make_unique<ChoiceEditor>(std::move(edited), parent);
+  for (const Word& word : row.words) {
+    const QString text = QString::fromLatin1(word.text);
+    choice->Offer(word.textId ? Translated(word.textId) : text, text);
+  }
+  return choice;
+}
+
+std::unique_ptr<FieldEditorWidget> MakeStyle(FieldEditorWidget::Edited edited, QWidget* parent) {
+  auto choice = std::make_unique<ChoiceEditor>(std::move(edited), parent);
+  choice->Offer(Translated(text::kNoStyle), QString());
+  for (const Path& file : CurrentHost().files->List(CurrentHost().setup->CfgPath(), kStyleEnding)) {
+    const QString name = ToQString(NameOfFile(file, kStyleEnding));
+    choice->Offer(name, name);
+  }
+  return choice;
+}
+
+std::unique_ptr<FieldEditorWidget> MakeVariable(FieldEditorWidget::Edited edited, QWidget* parent) {
+  auto field = std::make_unique<TextEditor>(std::move(edited), parent);
+  field->Offer(VariableNames());
+  return field;
+}
+
+}  // namespace
+
+std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
+                                                   QWidget* parent) {
+  switch (row.panel.editor) {
+    case FieldEditor::None:
+      return nullptr;
+    case FieldEditor::Text:
+      return std::make_unique<TextEditor>(std::move(edited), parent);
+    case FieldEditor::Lines:
+      return std::make_unique<LinesEditor>(std::move(edited), parent);
+    case FieldEditor::Check:
+      return std::make_unique<CheckEditor>(std::move(edited), parent);
+    case FieldEditor::Decimal:
+    case FieldEditor::Integer:
+    case FieldEditor::Angle:
+      return std::make_unique<NumberEditor>(row, std::move(edited), parent);
+    case FieldEditor::Color:
+      return std::make_unique<ColorEditor>(std::move(edited), parent);
+    case FieldEditor::Choice:
+      return MakeChoice(row, std::move(edited), parent);
+    case FieldEditor::FontFace:
+      return std::make_unique<FaceEditor>(std::move(edited), parent);
+    case FieldEditor::Style:
+      return MakeStyle(std::move(edited), parent);
+    case FieldEditor::Variable:
+      return MakeVariable(std::move(edited), parent);
+  }
+  return nullptr;
+}
+
+}  // namespace xrpt

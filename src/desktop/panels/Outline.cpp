@@ -1,0 +1,138 @@
+#include "desktop/panels/Outline.h"
+
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QSplitter>
+
+#include "canvas/RVEditTemplateWnd.h"
+#include "desktop/TextIds.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/Texts.h"
+#include "editor/RVEditControlWnd.h"
+#include "editor/SelectedFields.h"
+
+namespace xrpt {
+
+QString CardIconName(const char* tag) {
+  QString name;
+  for (const QChar letter : QString::fromLatin1(tag ? tag : "")) {
+    if (letter.isUpper()) name += QLatin1Char('-');
+    name += letter.toLower();
+  }
+  // A kind of image without a drawing of its own has that of all images.
+  return HasIcon(name) ? name : name.mid(name.lastIndexOf(QLatin1Char('-')) + 1);
+}
+
+// --- Pages ---
+
+int PagesModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(frame_.PageCount());
+}
+
+QVariant PagesModel::data(const QModelIndex& index, int role) const {
+  const auto page = static_cast<std::size_t>(index.row());
+  if (page >= frame_.PageCount()) return {};
+  const RVGlobalProperties& properties = frame_.Page(page).Page().properties;
+  if (role == Qt::DecorationRole)
+    return ThemedIcon(properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait"));
+  if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+  const QString number = Translated(text::kPageNumber, QString::number(index.row() + 1));
+  return properties.name.empty() ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
+}
+
+void PagesModel::Reset() {
+  beginResetModel();
+  endResetModel();
+}
+
+// --- Cards ---
+
+int CardsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
+
+QVariant CardsModel::data(const QModelIndex& index, int role) const {
+  const CardList& cards = frame_.CurrentPage().Page().cards;
+  const auto at = static_cast<std::size_t>(index.row());
+  if (at >= cards.Size()) return {};
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return ToQString(CardCaption(cards[at]));
+  if (role == Qt::DecorationRole) return ThemedIcon(CardIconName(cards[at].GetRuntimeClass().tag));
+  return {};
+}
+
+void CardsModel::Reset() {
+  const int count = frame_.PageCount() == 0 ? 0 : static_cast<int>(frame_.CurrentPage().Page().cards.Size());
+  if (count == count_) {
+    emit dataChanged(index(0), index(std::max(0, count - 1)));
+    return;
+  }
+  beginResetModel();
+  count_ = count;
+  endResetModel();
+}
+
+// --- Both ---
+
+Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
+    : QWidget(parent), frame_(frame), pageModel_(new PagesModel(frame, this)), cardModel_(new CardsModel(frame, this)) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* split = new QSplitter(Qt::Vertical, this);
+  split->setChildrenCollapsible(false);
+  pages_ = MakeList(pageModel_, text::kPages);
+  cards_ = MakeList(cardModel_, text::kCards);
+  cards_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  split->addWidget(pages_);
+  split->addWidget(cards_);
+  split->setSizes({160, 420});
+  column->addWidget(split);
+  connect(pages_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
+    if (!isFilling_ && pageChosen && index.isValid()) pageChosen(static_cast<std::size_t>(index.row()));
+  });
+  connect(cards_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
+    const CardList& cards = frame_.CurrentPage().Page().cards;
+    const auto at = static_cast<std::size_t>(index.row());
+    if (!isFilling_ && cardChosen && index.isValid() && at < cards.Size()) cardChosen(cards[at].id);
+  });
+}
+
+QListView* Outline::MakeList(QAbstractListModel* model, int nameTextId) {
+  auto* list = new QListView(this);
+  list->setModel(model);
+  list->setAccessibleName(Translated(nameTextId));
+  list->setFrameShape(QFrame::NoFrame);
+  list->setUniformItemSizes(true);
+  list->setIconSize({16, 16});
+  list->setTextElideMode(Qt::ElideRight);
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  return list;
+}
+
+void Outline::RefreshPages() {
+  isFilling_ = true;
+  pageModel_->Reset();
+  pages_->setCurrentIndex(pageModel_->index(static_cast<int>(frame_.CurrentPageIndex())));
+  isFilling_ = false;
+  RefreshCards();
+}
+
+void Outline::RefreshCards() {
+  isFilling_ = true;
+  cardModel_->Reset();
+  ShowSelection();
+  isFilling_ = false;
+}
+
+void Outline::ShowSelection() {
+  QItemSelection shown;
+  QModelIndex last;
+  for (const std::size_t at : SelectedIndexes(frame_.CurrentPage())) {
+    last = cardModel_->index(static_cast<int>(at));
+    shown.append(QItemSelectionRange(last));
+  }
+  cards_->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
+  cards_->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+  if (last.isValid()) cards_->scrollTo(last);
+}
+
+void Outline::FocusCards() { cards_->setFocus(Qt::ShortcutFocusReason); }
+
+}  // namespace xrpt

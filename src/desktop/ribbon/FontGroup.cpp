@@ -1,0 +1,150 @@
+#include "desktop/ribbon/FontGroup.h"
+
+#include <QFontComboBox>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "desktop/TextIds.h"
+#include "desktop/look/Icons.h"
+#include "desktop/look/Texts.h"
+#include "desktop/panels/ColorButton.h"
+#include "desktop/panels/MixedSpinBox.h"
+#include "editor/SelectedFields.h"
+#include "model/FieldTexts.h"
+#include "platform/Numbers.h"
+
+namespace xrpt {
+
+FontGroup::FontGroup(SelectedFields& fields, QWidget* parent) : QWidget(parent), fields_(fields) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 2, 0, 0);
+  column->setSpacing(4);
+  auto* upper = new QHBoxLayout();
+  auto* lower = new QHBoxLayout();
+  upper->setSpacing(4);
+  lower->setSpacing(1);
+  column->addLayout(upper);
+  column->addLayout(lower);
+  AddFace(*upper);
+  AddSize(*upper);
+  AddStyleButton(*lower, bold_, "bold", text::kBold);
+  AddStyleButton(*lower, italic_, "italic", text::kItalic);
+  lower->addSpacing(6);
+  AddWordButton(*lower, "text-left", text::kTextLeft, "horizontalAlign", "LEFT");
+  AddWordButton(*lower, "text-center", text::kTextCenter, "horizontalAlign", "CENTER");
+  AddWordButton(*lower, "text-right", text::kTextRight, "horizontalAlign", "RIGHT");
+  lower->addSpacing(6);
+  AddWordButton(*lower, "text-top", text::kTextTop, "verticalAlign", "TOP");
+  AddWordButton(*lower, "text-middle", text::kTextMiddle, "verticalAlign", "CENTER");
+  AddWordButton(*lower, "text-bottom", text::kTextBottom, "verticalAlign", "BOTTOM");
+  lower->addStretch(1);
+  AddColor(*lower);
+}
+
+void FontGroup::AddFace(QBoxLayout& row) {
+  face_ = new QFontComboBox(this);
+  face_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  face_->setMinimumContentsLength(10);
+  face_->setAccessibleName(Translated(text::kFontFace));
+  face_->setToolTip(Translated(text::kFontFace));
+  connect(face_, &QComboBox::textActivated, this,
+          [this](const QString& face) { Assign("font/name", face.toStdString()); });
+  row.addWidget(face_, 1);
+}
+
+void FontGroup::AddSize(QBoxLayout& row) {
+  size_ = new MixedSpinBox(this);
+  size_->setRange(0.5, 500.0);
+  size_->setDecimals(1);
+  size_->setMinimumWidth(72);
+  size_->setAccessibleName(Translated(text::kFontSize));
+  size_->setToolTip(Translated(text::kFontSize));
+  connect(size_, &QDoubleSpinBox::valueChanged, this, [this](double size) {
+    if (!size_->IsMixed()) Assign("font/size", FormatDecimal(size));
+  });
+  row.addWidget(size_);
+}
+
+QToolButton* FontGroup::MakeButton(const char* icon, int textId) {
+  auto* button = new QToolButton(this);
+  button->setProperty("flat", true);
+  button->setIcon(ThemedIcon(QLatin1String(icon)));
+  button->setIconSize({18, 18});
+  button->setCheckable(true);
+  button->setAccessibleName(Translated(textId));
+  button->setToolTip(Translated(textId));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+void FontGroup::AddStyleButton(QBoxLayout& row, QToolButton*& button, const char* icon, int textId) {
+  button = MakeButton(icon, textId);
+  connect(button, &QToolButton::clicked, this, [this] { AssignStyle(); });
+  row.addWidget(button);
+}
+
+void FontGroup::AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word) {
+  QToolButton* button = MakeButton(icon, textId);
+  connect(button, &QToolButton::clicked, this, [this, field, word] {
+    Assign(field, word);
+    Refresh();
+  });
+  row.addWidget(button);
+  words_.push_back({button, field, word});
+}
+
+void FontGroup::AddColor(QBoxLayout& row) {
+  color_ = new ColorButton(this);
+  color_->setAccessibleName(Translated(text::kColor));
+  color_->chosen = [this](Color color) { Assign("color", FormatColor(color)); };
+  row.addWidget(color_);
+}
+
+void FontGroup::AssignStyle() {
+  static constexpr const char* kWords[] = {"NORMAL", "BOLD", "ITALIC", "ITALICBOLD"};
+  Assign("font/style", kWords[(bold_->isChecked() ? 1 : 0) + (italic_->isChecked() ? 2 : 0)]);
+}
+
+void FontGroup::Assign(const char* field, const std::string& text) {
+  const auto state = fields_.Find(field);
+  if (!state) return;
+  fields_.Assign(*state->row, text);
+  if (edited) edited();
+}
+
+std::optional<std::wstring> FontGroup::TextOf(const char* field, bool& isThere) const {
+  const auto state = fields_.Find(field);
+  isThere = state.has_value();
+  return state ? state->text : std::nullopt;
+}
+
+void FontGroup::Refresh() {
+  bool isThere = false;
+  const QSignalBlocker quiet(face_);
+  const auto face = TextOf("font/name", isThere);
+  face_->setEnabled(isThere);
+  face_->setEditText(ToQString(face.value_or(L"")));
+  face_->lineEdit()->setCursorPosition(0);
+  const auto size = TextOf("font/size", isThere);
+  size_->setEnabled(isThere);
+  if (!size) {
+    size_->ShowMixed();
+  } else if (size_->IsMixed() || size_->value() != ParseDecimal(*size)) {
+    size_->ShowValue(ParseDecimal(*size));
+  }
+  const std::wstring style = TextOf("font/style", isThere).value_or(L"");
+  bold_->setEnabled(isThere);
+  italic_->setEnabled(isThere);
+  bold_->setChecked(style == L"BOLD" || style == L"ITALICBOLD");
+  italic_->setChecked(style == L"ITALIC" || style == L"ITALICBOLD");
+  for (const WordButton& word : words_) {
+    const auto text = TextOf(word.field, isThere);
+    word.button->setEnabled(isThere);
+    word.button->setChecked(text && ToQString(*text) == QLatin1String(word.word));
+  }
+  const auto color = TextOf("color", isThere);
+  color_->setEnabled(isThere);
+  color_->Show(color ? std::optional(ParseColor(*color)) : std::nullopt);
+}
+
+}  // namespace xrpt
