@@ -12,31 +12,31 @@ namespace xrpt {
 namespace {
 
 // Rows of the first card's tables that the others' tables have too: kinds share the rows of the kind they derive from.
-std::vector<const FieldRow*> CommonRows(const std::vector<const RVCardControl*>& cards) {
-  std::vector<const FieldRow*> common;
-  ForEachField(cards.front()->GetRuntimeClass().table, [&common](const FieldRow& row) {
+std::vector<const CardRow*> CommonRows(const std::vector<const RVCardControl*>& cards) {
+  std::vector<const CardRow*> common;
+  ForEachField(cards.front()->GetRuntimeClass().table, [&common](const CardRow& row) {
     if (row.panel.textId != 0) common.push_back(&row);
   });
   std::set<const CardClass*> kinds;
   for (const RVCardControl* card : cards) {
     if (!kinds.insert(&card->GetRuntimeClass()).second) continue;
-    std::set<const FieldRow*> rows;
-    ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.insert(&row); });
-    std::erase_if(common, [&rows](const FieldRow* row) { return rows.count(row) == 0; });
+    std::set<const CardRow*> rows;
+    ForEachField(card->GetRuntimeClass().table, [&rows](const CardRow& row) { rows.insert(&row); });
+    std::erase_if(common, [&rows](const CardRow* row) { return rows.count(row) == 0; });
   }
   return common;
 }
 
-std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<const RVCardControl*>& cards) {
-  std::wstring text = row.text(cards.front());
+std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  std::wstring text = row.text(*cards.front());
   const bool same =
-      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
+      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(*card) == text; });
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
 // What people read: a word of a list in their language.
-std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
-  const std::wstring text = row.text(&card);
+std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
+  const std::wstring text = row.text(card);
   for (const Word& word : row.words) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }
@@ -45,8 +45,8 @@ std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
 
 }  // namespace
 
-void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
-  row.assign(&card, text);
+void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text) {
+  row.assign(card, text);
   if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
 }
 
@@ -77,19 +77,19 @@ std::vector<FieldState> SelectedFields::Fields() const {
   const auto cards = Cards();
   if (cards.empty()) {
     const RVGlobalProperties& page = frame_.CurrentPage().Page().properties;
-    ForEachField(RVGlobalProperties::Table(), [&](const FieldRow& row) {
-      if (row.panel.textId != 0) fields.push_back({&row, row.text(&page)});
+    ForEachField(RVGlobalProperties::Table(), [&](const PageRow& row) {
+      if (row.panel.textId != 0) fields.push_back({&row, row.text(page)});
     });
     return fields;
   }
-  for (const FieldRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
+  for (const CardRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
   return fields;
 }
 
 std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
   const auto cards = Cards();
   if (cards.empty()) return std::nullopt;
-  for (const FieldRow* row : CommonRows(cards)) {
+  for (const CardRow* row : CommonRows(cards)) {
     if (row->FullName() == name) return FieldState{row, CommonText(*row, cards)};
   }
   return std::nullopt;
@@ -101,8 +101,11 @@ void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   open_ = cards.empty() ? Edit::OfPage : Edit::OfCards;
   std::vector<std::wstring> ids;
   for (const RVCardControl* card : cards) ids.push_back(card->id);
-  if (cards.empty()) row.assign(static_cast<RVGlobalProperties::FieldRoot*>(&page.Page().properties), text);
-  for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), row, text);
+  if (cards.empty()) {
+    if (const PageRow* own = RowOfTable(RVGlobalProperties::Table(), row)) own->assign(page.Page().properties, text);
+  } else if (const CardRow* common = RowOfTable(cards.front()->GetRuntimeClass().table, row)) {
+    for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), *common, text);
+  }
   page.RedrawBackground();
   frame_.SetModified(true);
 }
@@ -115,7 +118,7 @@ void SelectedFields::Commit() {
 
 std::wstring CardCaption(const RVCardControl& card) {
   std::wstring content;
-  ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content)
       content = ShownText(row, card);
   });

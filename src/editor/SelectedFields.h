@@ -8,11 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "model/FieldTable.h"
+#include "model/RVCardControl.h"
 
 namespace xrpt {
 
-class RVCardControl;
 class RVEditControlWnd;
 class RVEditTemplateWnd;
 
@@ -49,7 +48,7 @@ class SelectedFields {
 };
 
 // Writes a text into one field of a card. A style's name alone changes nothing to see: the card takes its font, too.
-void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text);
+void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text);
 
 // Where the selected cards of a page stand, in selection order.
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page);

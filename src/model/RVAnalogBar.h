@@ -43,7 +43,7 @@ class RVAnalogBar : public RVCardControl {
   bool showAnnotation = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void AssignPosition(std::string_view text);
   const char* PositionText() const;
   std::span<const Word> PositionWords() const;

@@ -15,15 +15,16 @@ bool SameRow(const Picture& left, const Picture& right, int row) {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardButton::Rows() {
+std::span<const CardRow> RVCardButton::Rows() {
   using Button = RVCardButton;
   using VisualizationCodec = codec::OneOf<kVisualizationWords, codec::kNone, codec::kNone>;
   constexpr auto aligned = AlignmentRows<Button, &Button::horizontalAlign, &Button::verticalAlign>();
   constexpr auto scaled = ScalingRows<Button, &Button::maintainAspectRatio, &Button::maintainRealSize>();
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Button, VisualizationCodec, &Button::visualization>(
           nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
-      Only<Button, &Button::IsButton>(Constant(nullptr, [](const void*, XmlWriter& out) { out.Bool("button", true); })),
+      Only<Button, &Button::IsButton>(
+          Constant<Button>(nullptr, [](const RVCardControl&, XmlWriter& out) { out.Bool("button", true); })),
       // A missing caption reads as none, not as a new button's.
       Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadText>(
           WriteBy<Button, &Button::WriteText>(Field<Button, codec::String, &Button::text>(

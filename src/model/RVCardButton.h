@@ -60,7 +60,7 @@ class RVCardButton : public RVCardControl {
   double orientation = 0.0;  // degrees, of a text
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   bool HasTextPart() const { return IsButton() || IsText(); }
   bool IsAligned() const { return IsImage() || IsText(); }
   bool HasImageId() const { return !imageId.empty(); }

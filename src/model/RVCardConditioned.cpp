@@ -2,6 +2,7 @@
 
 #include "model/CardRegistry.h"
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
 
 namespace xrpt {
@@ -15,9 +16,9 @@ bool Same(const CardPointer& left, const CardPointer& right) { return left && ri
 
 }  // namespace
 
-std::span<const FieldRow> RVCardConditioned::Rows() {
+std::span<const CardRow> RVCardConditioned::Rows() {
   using Conditioned = RVCardConditioned;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>(),
       Field<Conditioned, codec::Integer, &Conditioned::current>(nullptr, nullptr, nullptr),
   };

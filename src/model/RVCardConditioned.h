@@ -42,7 +42,7 @@ class RVCardConditioned : public RVCardControl {
   std::unique_ptr<RVCardControl> auxiliary;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadControls(const XmlNode& node);
   void ReadControl(const XmlNode& control);
   void WriteControls(XmlWriter& out) const;

@@ -3,7 +3,9 @@
 #include <stdexcept>
 
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
+#include "model/FieldWalk.h"
 #include "platform/Host.h"
 
 namespace xrpt {
@@ -19,7 +21,7 @@ constexpr FieldPanel Millimetres(int textId, double minimum) {
 using Card = RVCardControl;
 
 // A file's card without "id" deliberately gets an empty one, not a fresh GUID, so that it is written back without.
-const FieldRow RVCardControl::kRows[] = {
+const CardRow RVCardControl::kRows[] = {
     WhenNotEmpty<Card, &Card::id>(Field<Card, codec::String, &Card::id>(nullptr, "id", "")),
     Field<Card, codec::Decimal, &Card::x>(nullptr, "x", nullptr, Millimetres(text::kX, -10000.0)),
     Field<Card, codec::Decimal, &Card::y>(nullptr, "y", nullptr, Millimetres(text::kY, -10000.0)),
@@ -51,17 +53,17 @@ bool RVCardControl::operator==(const RVCardControl& other) const {
 }
 
 bool RVCardControl::isEqual(const RVCardControl& other) const {
-  return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, this, &other) && EqualFlags(other);
+  return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, *this, other) && EqualFlags(other);
 }
 
 bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
   const CardClass& kind = GetRuntimeClass();
   if (!makeOwnElement || !kind.tag) {
-    WriteFields(kind.table, this, *node);
+    WriteFields(kind.table, *this, *node);
     return true;
   }
   const XmlElement element(*node, kind.tag);
-  WriteFields(kind.table, this, *node);
+  WriteFields(kind.table, *this, *node);
   return true;
 }
 
@@ -74,11 +76,11 @@ void RVCardControl::SaveInside(const RVCardControl& container, XmlWriter* node) 
   common.height = container.height;
   const CardClass& kind = GetRuntimeClass();
   const XmlElement element(*node, kind.tag ? kind.tag : "card");
-  WriteFields(kind.table, this, &common, *node);
+  WriteFields(kind.table, *this, common, *node);
 }
 
 bool RVCardControl::GetFromXml(const XmlNode& node) {
-  ReadFields(GetRuntimeClass().table, this, node);
+  ReadFields(GetRuntimeClass().table, *this, node);
   return true;
 }
 

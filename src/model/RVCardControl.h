@@ -16,11 +16,15 @@ class RVCardControl;
 class RVReportPage;
 struct tagDraw;
 
+// The rows of all kinds of card.
+using CardRow = FieldOf<RVCardControl>;
+using CardTable = FieldTable<RVCardControl>;
+
 // What the system knows of a kind of card, stated once by its class.
 struct CardClass {
-  const char* tag;   // its element; null for a kind that has none of its own
-  int textId;        // its name for people
-  FieldTable table;  // its own rows; `base` leads to the kind it derives from
+  const char* tag;  // its element; null for a kind that has none of its own
+  int textId;       // its name for people
+  CardTable table;  // its own rows; `base` leads to the kind it derives from
   const CardClass* base;
   std::unique_ptr<RVCardControl> (*create)();
 
@@ -29,7 +33,7 @@ struct CardClass {
 
 // The description of a kind that adds rows to those of its base.
 template <class Card>
-CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const FieldRow> rows) {
+CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const CardRow> rows) {
   return {tag, textId, {&base.table, rows}, &base, [] { return std::unique_ptr<RVCardControl>(new Card()); }};
 }
 
@@ -106,7 +110,7 @@ class RVCardControl {
   RVReportPage* parent = nullptr;
 
  private:
-  static const FieldRow kRows[];
+  static const CardRow kRows[];
   bool HasBackColor() const { return backcolor != kNoColor; }
   bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }
 };

@@ -18,9 +18,9 @@ std::tm Now() {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardDate::Rows() {
+std::span<const CardRow> RVCardDate::Rows() {
   using Date = RVCardDate;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Date, codec::String, &Date::pattern>(nullptr, "pattern", nullptr,
                                                  {text::kPattern, FieldGroup::Format, FieldEditor::Text}),
       WhenNotEmpty<Date, &Date::value>(Field<Date, codec::String, &Date::value>(

@@ -20,7 +20,7 @@ class RVCardDate : public RVCardLabel {
   std::wstring value;  // sample shown while editing: the moment the card was made, as the user writes dates
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
 };
 
 }  // namespace xrpt

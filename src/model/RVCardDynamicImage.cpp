@@ -39,7 +39,7 @@ PicturePtr DrawPlaceholder() {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardDynamicImage::Rows() {
+std::span<const CardRow> RVCardDynamicImage::Rows() {
   using Image = RVCardDynamicImage;
   static constexpr auto kRows =
       JoinRows(RowsOf(ReadBy<Image, &Image::ReadVariable>(

@@ -16,7 +16,7 @@ class RVCardForceValues : public RVCardButton {
   bool DeleteVariable(std::int32_t index);
   // Removes all variables.
   void Clear();
-  static const ListTable& Variables();
+  static const ListTable<RVCardControl>& Variables();
 
   // Entry i of each belongs to variable i.
   std::vector<std::wstring> variables;  // names in brackets: "[DEVICE.VARIABLE]"
@@ -26,7 +26,7 @@ class RVCardForceValues : public RVCardButton {
   std::int32_t current = -1;  // the one selected in the editor, -1: none
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadVariables(const XmlNode& node);
 };
 

@@ -8,9 +8,9 @@ namespace xrpt {
 
 // The two paddings are written as the count they pad to, not as T or F, and read as "more than 0": padding to a free or
 // zero count does not survive a save.
-std::span<const FieldRow> RVCardFormule::Rows() {
+std::span<const CardRow> RVCardFormule::Rows() {
   using Formule = RVCardFormule;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       WhenNotEmpty<Formule, &Formule::value>(Field<Formule, codec::String, &Formule::value>(
           nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Text})),
       Field<Formule, codec::Integer, &Formule::integers>(

@@ -28,7 +28,7 @@ class RVCardFormule : public RVCardLabel {
   bool enableVariableDefaultValue = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   bool HasVariableDefault() const { return enableVariableDefaultValue; }
   void ReadLeftPadding(const XmlNode& count);
   void WriteLeftPadding(XmlWriter& out) const;

@@ -4,7 +4,7 @@
 
 namespace xrpt {
 
-std::span<const FieldRow> RVCardImage::Rows() {
+std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.

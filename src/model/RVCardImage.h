@@ -44,7 +44,7 @@ class RVCardImage : public RVCardControl {
   Animation animation;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadImage(const XmlNode& image);
   void WriteImage(XmlWriter& out) const;
 

@@ -4,7 +4,7 @@
 
 namespace xrpt {
 
-std::span<const FieldRow> RVCardLabel::Rows() {
+std::span<const CardRow> RVCardLabel::Rows() {
   using Label = RVCardLabel;
   static constexpr auto kRows = JoinRows(
       AlignmentRows<Label, &Label::horizontalAlign, &Label::verticalAlign>(),

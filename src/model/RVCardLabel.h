@@ -35,7 +35,7 @@ class RVCardLabel : public RVCardControl {
   std::wstring text;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
 };

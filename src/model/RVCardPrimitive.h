@@ -30,7 +30,7 @@ class RVCardPrimitive : public RVCardControl {
   bool isBackTransparent = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
 };
 
 }  // namespace xrpt

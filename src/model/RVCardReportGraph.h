@@ -45,7 +45,7 @@ class RVCardReportGraph : public RVCardControl {
   // Removes all series.
   void Clear();
   void SetDefaultStyle();
-  static const ListTable& Series();
+  static const ListTable<RVCardControl>& Series();
   // What a series that lacks its type is drawn and written as.
   SeriesType TypeOf(std::size_t index) const { return index < types.size() ? types[index] : SeriesType::Line; }
 
@@ -74,7 +74,7 @@ class RVCardReportGraph : public RVCardControl {
   std::vector<double> maxBind;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadStyle(const XmlNode& node);
   void WriteStyle(XmlWriter& out) const;
   std::span<const Word> LineStyleWords(std::size_t index) const;

@@ -1,7 +1,9 @@
 #include "model/RVGlobalProperties.h"
 
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
+#include "model/FieldWalk.h"
 #include "model/RVCardImage.h"
 #include "platform/Host.h"
 
@@ -15,11 +17,11 @@ constexpr FieldPanel Millimetres(int textId, double minimum) {
 }
 
 template <auto Member>
-constexpr FieldRow Size(const char* name, int textId, double minimum) {
+constexpr PageRow Size(const char* name, int textId, double minimum) {
   return Field<Page, codec::Decimal, Member>(nullptr, name, nullptr, Millimetres(textId, minimum));
 }
 
-constexpr FieldRow kRows[] = {
+constexpr PageRow kRows[] = {
     Field<Page, codec::String, &Page::id>(nullptr, "id", nullptr),
     Field<Page, codec::String, &Page::name>(nullptr, "name", nullptr,
                                             {text::kPageName, FieldGroup::Page, FieldEditor::Text}),
@@ -56,13 +58,13 @@ RVGlobalProperties::RVGlobalProperties()
   background_->height = height;
 }
 
-const FieldTable& RVGlobalProperties::Table() {
-  static constexpr FieldTable kTable{nullptr, kRows};
+const PageTable& RVGlobalProperties::Table() {
+  static constexpr PageTable kTable{nullptr, kRows};
   return kTable;
 }
 
 bool RVGlobalProperties::operator==(const RVGlobalProperties& other) const {
-  return EqualFields(Table(), this, &other) && *background_ == *other.background_ && lists == other.lists;
+  return EqualFields(Table(), *this, other) && *background_ == *other.background_ && lists == other.lists;
 }
 
 bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
@@ -71,7 +73,7 @@ bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
   return true;
 }
 
-void RVGlobalProperties::ReadValues(const XmlNode& page) { ReadFields(Table(), this, page); }
+void RVGlobalProperties::ReadValues(const XmlNode& page) { ReadFields(Table(), *this, page); }
 
 void RVGlobalProperties::ReadBackground(const XmlNode& element) {
   if (element) {
@@ -88,7 +90,7 @@ bool RVGlobalProperties::SaveTemplate(XmlWriter* page) const {
     LogMessage(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
     return false;
   }
-  WriteFields(Table(), this, *page);
+  WriteFields(Table(), *this, *page);
   if (background_->HasImageId()) {
     const XmlElement element(*page, kBackgroundTag);
     background_->SaveTemplate(page, false);

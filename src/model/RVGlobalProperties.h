@@ -12,6 +12,10 @@
 namespace xrpt {
 
 class RVCardImage;
+class RVGlobalProperties;
+
+using PageRow = FieldOf<RVGlobalProperties>;
+using PageTable = FieldTable<RVGlobalProperties>;
 
 // What a page measures on the screen it was made on: the screen's business, so neither copied nor compared.
 struct ScreenScale {
@@ -48,7 +52,7 @@ class RVGlobalProperties {
   RVGlobalProperties& operator=(const RVGlobalProperties&) = default;
   virtual ~RVGlobalProperties() = default;
 
-  static const FieldTable& Table();
+  static const PageTable& Table();
   static constexpr const char* kBackgroundTag = "backgroundImage";
 
   // The grid is left out: changing it alone is no change of the page. NaN differs from everything.

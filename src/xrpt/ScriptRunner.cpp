@@ -184,7 +184,7 @@ std::string ScriptRunner::Set(Arguments arguments) {
   const std::wstring id = FromUtf8(arguments[0]);
   const RVCardControl* card = Page().GetControlById(id);
   if (!card) return "there is no card " + arguments[0];
-  const FieldRow* row = FindField(card->GetRuntimeClass().table, arguments[1]);
+  const CardRow* row = FindField(card->GetRuntimeClass().table, arguments[1]);
   if (!row) return std::string("a ") + card->GetRuntimeClass().tag + " has no field " + arguments[1];
   AssignToCard(*Page().EditCard(id), *row, Joined(arguments, 2));
   Page().CommitEdit();

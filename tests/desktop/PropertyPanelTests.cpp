@@ -31,7 +31,7 @@ class Panel : public WindowTest {
     return *widget;
   }
   std::wstring TextOf(const std::wstring& id, const char* field) {
-    return FindField(Card(id).GetRuntimeClass().table, field)->text(&Card(id));
+    return FindField(Card(id).GetRuntimeClass().table, field)->text(Card(id));
   }
 
   std::wstring title_;

@@ -55,21 +55,20 @@ std::string TextFor(std::span<const Word> words) {
   return fromList ? words[*rc::gen::inRange<std::size_t>(0, words.size())].text : AnyText();
 }
 
-void FillList(const ListTable& table, void* object) {
-  ClearItems(table, object);
+void FillList(const ListTable<RVCardControl>& table, RVCardControl& card) {
+  ClearItems(table, card);
   const int items = *rc::gen::inRange(0, 4);
   for (int i = 0; i < items; ++i) {
-    for (const ListRow& row : table.rows) row.append(object, TextFor(row.words));
+    for (const auto& row : table.rows) row.append(card, TextFor(row.words));
   }
 }
 
 void FillRows(RVCardControl& card) {
-  void* object = &card;
-  ForEachField(card.GetRuntimeClass().table, [object](const FieldRow& row) {
-    if (row.list) FillList(row.list(), object);
+  ForEachField(card.GetRuntimeClass().table, [&card](const CardRow& row) {
+    if (row.list) FillList(row.list(), card);
     static constexpr Word kYesNo[] = {{"T", 1}, {"F", 0}};
     const bool yesNo = row.panel.editor == FieldEditor::Check;
-    if (row.assign) row.assign(object, TextFor(yesNo ? kYesNo : row.WordsFor(object)));
+    if (row.assign) row.assign(card, TextFor(yesNo ? kYesNo : row.WordsFor(card)));
   });
 }
 
@@ -138,19 +137,19 @@ void Note(const RVCardControl& card, const std::string& xml, Seen& seen) {
   const auto note = [&](const char* name) {
     if (name && Holds(xml, name)) seen[&kind].insert(name);
   };
-  ForEachField(kind.table, [&](const FieldRow& row) {
+  ForEachField(kind.table, [&](const CardRow& row) {
     note(row.name);
     if (!row.list) return;
-    for (const ListRow& entry : row.list().rows) note(entry.name);
+    for (const auto& entry : row.list().rows) note(entry.name);
   });
 }
 
 std::string NeverSeen(const RVCardControl& card, const std::set<std::string>& seen) {
   std::string missing;
-  ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (row.name && !seen.count(row.name)) missing += std::string(row.name) + " ";
     if (!row.list) return;
-    for (const ListRow& entry : row.list().rows) {
+    for (const auto& entry : row.list().rows) {
       if (!seen.count(entry.name)) missing += std::string(entry.name) + " ";
     }
   });
@@ -196,25 +195,25 @@ TEST_F(CardProperties, CloneEqualsItsSourceUntilItsIdChanges) {
 }
 
 // A text that changes a field, or nothing when none does (a field that does not apply).
-std::string ChangingText(const FieldRow& row, const RVCardControl& card) {
-  const std::wstring before = row.text(&card);
+std::string ChangingText(const CardRow& row, const RVCardControl& card) {
+  const std::wstring before = row.text(card);
   for (const char* text : {"T", "F", "1.5", "3", "00FF00", "other", "LEFT", "TOP", "BOLD", "BEHAVIOR_SCROLL",
                            "DIRECTION_UP", "PF", "MIN", "V", "BOTTOM", "BOX", "DASH", "IMAGE"}) {
     const std::unique_ptr<RVCardControl> copy = card.GetClone();
-    row.assign(static_cast<RVCardControl*>(copy.get()), text);
-    if (row.text(copy.get()) != before) return text;
+    row.assign(*copy, text);
+    if (row.text(*copy) != before) return text;
   }
   return {};
 }
 
 TEST_F(CardProperties, EqualityLooksAtExactlyTheRowsThatCount) {
   for (const auto& card : OneOfEachKind()) {
-    ForEachField(card->GetRuntimeClass().table, [&card](const FieldRow& row) {
+    ForEachField(card->GetRuntimeClass().table, [&card](const CardRow& row) {
       if (!row.assign) return;
       const std::unique_ptr<RVCardControl> other = card->GetClone();
       const std::string text = ChangingText(row, *card);
       ASSERT_FALSE(text.empty()) << row.FullName();
-      row.assign(static_cast<RVCardControl*>(other.get()), text);
+      row.assign(*other, text);
       // The label's font colour is the card's own colour a second time.
       const bool counts = row.counts || row.FullName() == "font/color";
       const bool graph = card->IsKindOf(RVCardReportGraph::Class());
@@ -239,7 +238,7 @@ TEST_F(CardProperties, NoTwoKindsAreEqual) {
 TEST_F(CardProperties, PagePropertiesSurviveASaveAndALoad) {
   EXPECT_TRUE(rc::check("page", [] {
     RVGlobalProperties page;
-    ForEachField(RVGlobalProperties::Table(), [&page](const FieldRow& row) { row.assign(&page, AnyText()); });
+    ForEachField(RVGlobalProperties::Table(), [&page](const PageRow& row) { row.assign(page, AnyText()); });
     const auto xmlOf = [](const RVGlobalProperties& properties) {
       std::string xml;
       XmlWriter out(xml);
