@@ -2,7 +2,10 @@
 #pragma once
 
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <type_traits>
+#include <vector>
 
 #include "model/FieldTable.h"
 
@@ -45,8 +48,21 @@ const auto& Get(const typename Owner::FieldRoot& object) {
   return Follow<Members...>(As<Owner>(object));
 }
 
-// What rows and lists alike are described by.
-template <class Codec, class Row>
+// To the last bit, so that a number that is none is the same as its copy.
+template <class T>
+bool SameValue(const T& left, const T& right) {
+  return left == right;
+}
+inline bool SameValue(double left, double right) {
+  return std::bit_cast<std::uint64_t>(left) == std::bit_cast<std::uint64_t>(right);
+}
+inline bool SameValue(const std::vector<double>& left, const std::vector<double>& right) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [](double a, double b) { return SameValue(a, b); });
+}
+
+// What rows and lists alike are described by, and how their values compare.
+template <class Owner, class Codec, auto... Members, class Row>
 constexpr void Describe(Row& row, const char* group, const char* name, const char* missing, const FieldPanel& panel) {
   row.group = group;
   row.groupKey = group;
@@ -55,6 +71,13 @@ constexpr void Describe(Row& row, const char* group, const char* name, const cha
   row.missing = missing;
   row.panel = panel;
   row.words = Codec::Words();
+  using Root = typename Owner::FieldRoot;
+  row.equal = [](const Root& left, const Root& right) {
+    return Get<Owner, Members...>(left) == Get<Owner, Members...>(right);
+  };
+  row.same = [](const Root& left, const Root& right) {
+    return SameValue(Get<Owner, Members...>(left), Get<Owner, Members...>(right));
+  };
 }
 
 }  // namespace detail
@@ -65,15 +88,12 @@ template <class Owner, class Codec, auto... Members>
 constexpr RowOf<Owner> Field(const char* group, const char* name, const char* missing, FieldPanel panel = {}) {
   using Root = typename Owner::FieldRoot;
   RowOf<Owner> row;
-  detail::Describe<Codec>(row, group, name, missing, panel);
+  detail::Describe<Owner, Codec, Members...>(row, group, name, missing, panel);
   row.assign = [](Root& object, std::string_view text) { Codec::Assign(detail::Get<Owner, Members...>(object), text); };
   row.write = [](const Root& object, XmlWriter& out, const char* tag) {
     Codec::Write(detail::Get<Owner, Members...>(object), out, tag);
   };
   row.text = [](const Root& object) { return Codec::Text(detail::Get<Owner, Members...>(object)); };
-  row.equal = [](const Root& left, const Root& right) {
-    return detail::Get<Owner, Members...>(left) == detail::Get<Owner, Members...>(right);
-  };
   return row;
 }
 
@@ -152,6 +172,20 @@ constexpr Row NotCompared(Row row) {
   return row;
 }
 
+// Compared by functions of the class, `bool Equal(const Owner&) const`: as equality does, and as the history does.
+template <class Owner, auto Equal, auto Same>
+constexpr RowOf<Owner> ComparedBy(RowOf<Owner> row) {
+  using Root = typename Owner::FieldRoot;
+  row.counts = true;
+  row.equal = [](const Root& left, const Root& right) {
+    return (detail::As<Owner>(left).*Equal)(detail::As<Owner>(right));
+  };
+  row.same = [](const Root& left, const Root& right) {
+    return (detail::As<Owner>(left).*Same)(detail::As<Owner>(right));
+  };
+  return row;
+}
+
 // What every object has in the file and nobody reads.
 template <class Owner>
 constexpr RowOf<Owner> Constant(const char* group, void (*write)(const typename Owner::FieldRoot&, XmlWriter&)) {
@@ -162,7 +196,8 @@ constexpr RowOf<Owner> Constant(const char* group, void (*write)(const typename 
   return NotCompared(row);
 }
 
-// A row for elements that are no single field: a picture, or, without a name, a list of alternatives.
+// A row for elements that are no single field: a picture, or, without a name, a list of alternatives. Compared when
+// `ComparedBy` says how.
 template <class Owner, auto Read, auto Write>
 constexpr RowOf<Owner> Irregular(const char* name = nullptr) {
   RowOf<Owner> row;

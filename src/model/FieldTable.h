@@ -71,7 +71,10 @@ struct FieldOf : FieldRow {
   void (*assign)(Root& object, std::string_view text) = nullptr;
   void (*write)(const Root& object, XmlWriter& out, const char* name) = nullptr;
   std::wstring (*text)(const Root& object) = nullptr;
+  // As cards are compared: NaN differs from everything.
   bool (*equal)(const Root& left, const Root& right) = nullptr;
+  // As steps of the history are: to the last bit. Null for a row that has no value.
+  bool (*same)(const Root& left, const Root& right) = nullptr;
 
   // An irregular row reads by itself: its own element when it has a name (a handle on nothing when it is missing), else
   // the whole element of the object. And it writes into the latter.

@@ -122,4 +122,13 @@ bool EqualFields(const FieldTable<Root>& table, const std::type_identity_t<Root>
   return std::all_of(table.rows.begin(), table.rows.end(), equal);
 }
 
+// All fields, to the last bit.
+template <class Root>
+bool SameFields(const FieldTable<Root>& table, const std::type_identity_t<Root>& left,
+                const std::type_identity_t<Root>& right) {
+  if (table.base && !SameFields(*table.base, left, right)) return false;
+  const auto same = [&](const FieldOf<Root>& row) { return !row.same || row.same(left, right); };
+  return std::all_of(table.rows.begin(), table.rows.end(), same);
+}
+
 }  // namespace xrpt

@@ -1,8 +1,6 @@
 // Makes the rows of a class's parallel lists, and the field row that stands for them.
 #pragma once
 
-#include <vector>
-
 #include "model/FieldRows.h"
 #include "model/ListTable.h"
 
@@ -18,7 +16,7 @@ constexpr ListRowOf<Owner> List(const char* group, const char* name, const char*
   using Entries = std::decay_t<decltype(detail::Get<Owner, Members...>(std::declval<Root&>()))>;
   using Entry = typename Entries::value_type;
   ListRowOf<Owner> row;
-  detail::Describe<Codec>(row, group, name, missing, panel);
+  detail::Describe<Owner, Codec, Members...>(row, group, name, missing, panel);
   row.size = [](const Root& object) { return detail::Get<Owner, Members...>(object).size(); };
   row.append = [](Root& object, std::string_view text) {
     Entry entry{};
@@ -43,9 +41,6 @@ constexpr ListRowOf<Owner> List(const char* group, const char* name, const char*
     entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(index));
   };
   row.clear = [](Root& object) { detail::Get<Owner, Members...>(object).clear(); };
-  row.equal = [](const Root& left, const Root& right) {
-    return detail::Get<Owner, Members...>(left) == detail::Get<Owner, Members...>(right);
-  };
   return row;
 }
 
@@ -87,6 +82,7 @@ constexpr auto Items() {
   row.readNode = [](Root& object, const XmlNode& node) { ReadItems(Table(), object, node); };
   row.writeNode = [](const Root& object, XmlWriter& out) { WriteItems(Table(), object, out); };
   row.equal = [](const Root& left, const Root& right) { return EqualItems(Table(), left, right); };
+  row.same = [](const Root& left, const Root& right) { return SameItems(Table(), left, right); };
   return row;
 }
 

@@ -24,7 +24,8 @@ struct ListOf : FieldRow {
   std::wstring (*text)(const Root& object, std::size_t index) = nullptr;
   void (*erase)(Root& object, std::size_t index) = nullptr;
   void (*clear)(Root& object) = nullptr;
-  bool (*equal)(const Root& left, const Root& right) = nullptr;
+  bool (*equal)(const Root& left, const Root& right) = nullptr;  // as in a field's row
+  bool (*same)(const Root& left, const Root& right) = nullptr;
 
   bool Has(const Root& object, std::size_t index) const { return index < size(object); }
   std::span<const Word> WordsFor(const Root& object, std::size_t index) const {
@@ -124,6 +125,14 @@ bool EqualItems(const ListTable<Root>& table, const std::type_identity_t<Root>& 
                 const std::type_identity_t<Root>& right) {
   const auto equal = [&](const ListOf<Root>& row) { return !row.counts || row.equal(left, right); };
   return std::all_of(table.rows.begin(), table.rows.end(), equal);
+}
+
+// All of them.
+template <class Root>
+bool SameItems(const ListTable<Root>& table, const std::type_identity_t<Root>& left,
+               const std::type_identity_t<Root>& right) {
+  const auto same = [&](const ListOf<Root>& row) { return row.same(left, right); };
+  return std::all_of(table.rows.begin(), table.rows.end(), same);
 }
 
 }  // namespace xrpt

@@ -45,7 +45,8 @@ std::span<const CardRow> RVCardButton::Rows() {
       Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(
           NotCompared(Field<Button, codec::String, &Button::imagePath, &NotCopied<std::wstring>::value>(
               "image", "imagePath", "", {text::kImagePath, FieldGroup::Content, FieldEditor::Text})))),
-      Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>()),
+      ComparedBy<Button, &Button::EqualPicture, &Button::SamePicture>(
+          Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>())),
       Only<Button, &Button::IsAligned>(aligned[0]),
       Only<Button, &Button::IsAligned>(aligned[1]),
       Only<Button, &Button::IsImage>(scaled[0]),
@@ -90,9 +91,8 @@ void RVCardButton::TakePlaceOf(const RVCardControl& source) {
   imagePath.value = static_cast<const RVCardButton&>(source).imagePath.value;
 }
 
-bool RVCardButton::isEqual(const RVCardControl& other) const {
-  return RVCardControl::isEqual(other) &&
-         EqualSampled(GetPicture(), static_cast<const RVCardButton&>(other).GetPicture());
+bool RVCardButton::EqualPicture(const RVCardButton& other) const {
+  return EqualSampled(GetPicture(), other.GetPicture());
 }
 
 bool EqualSampled(const PicturePtr& left, const PicturePtr& right) {

@@ -28,7 +28,6 @@ class RVCardButton : public RVCardControl {
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardButton>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
   void TakePlaceOf(const RVCardControl& source) override;
 
   bool GetStyleFromFile(const std::wstring& name) override;
@@ -69,6 +68,8 @@ class RVCardButton : public RVCardControl {
   void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
   void ReadImage(const XmlNode& node);
+  bool EqualPicture(const RVCardButton& other) const;
+  bool SamePicture(const RVCardButton& other) const { return image_ == other.image_; }
 
   ImageRecordPtr image_;
 };

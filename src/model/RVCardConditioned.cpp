@@ -12,14 +12,26 @@ using CardPointer = std::unique_ptr<RVCardControl>;
 
 CardPointer CloneOf(const CardPointer& card) { return card ? card->GetClone() : nullptr; }
 
-bool Same(const CardPointer& left, const CardPointer& right) { return left && right ? *left == *right : left == right; }
+bool Equal(const CardPointer& left, const CardPointer& right) {
+  return left && right ? *left == *right : left == right;
+}
+
+bool Same(const CardPointer& left, const CardPointer& right) {
+  return left && right ? left->HasSameRows(*right) : left == right;
+}
+
+template <class Compare>
+bool SameAll(const std::vector<CardPointer>& left, const std::vector<CardPointer>& right, const Compare& compare) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(), compare);
+}
 
 }  // namespace
 
 std::span<const CardRow> RVCardConditioned::Rows() {
   using Conditioned = RVCardConditioned;
   static constexpr CardRow kRows[] = {
-      Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>(),
+      ComparedBy<Conditioned, &Conditioned::EqualControls, &Conditioned::SameControls>(
+          Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>()),
       Field<Conditioned, codec::Integer, &Conditioned::current>(nullptr, nullptr, nullptr),
   };
   return kRows;
@@ -49,11 +61,12 @@ void RVCardConditioned::TakeAlternatives(const RVCardConditioned& other) {
   auxiliary = CloneOf(other.auxiliary);
 }
 
-bool RVCardConditioned::isEqual(const RVCardControl& other) const {
-  if (!RVCardControl::isEqual(other)) return false;
-  const auto& right = static_cast<const RVCardConditioned&>(other);
-  return conditions == right.conditions && Same(auxiliary, right.auxiliary) &&
-         std::equal(cards.begin(), cards.end(), right.cards.begin(), right.cards.end(), Same);
+bool RVCardConditioned::EqualControls(const RVCardConditioned& other) const {
+  return conditions == other.conditions && Equal(auxiliary, other.auxiliary) && SameAll(cards, other.cards, Equal);
+}
+
+bool RVCardConditioned::SameControls(const RVCardConditioned& other) const {
+  return conditions == other.conditions && Same(auxiliary, other.auxiliary) && SameAll(cards, other.cards, Same);
 }
 
 void RVCardConditioned::TakePlaceOf(const RVCardControl& source) {

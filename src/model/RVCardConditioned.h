@@ -18,7 +18,6 @@ class RVCardConditioned : public RVCardControl {
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardConditioned>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
   void TakePlaceOf(const RVCardControl& source) override;
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
@@ -46,6 +45,8 @@ class RVCardConditioned : public RVCardControl {
   void ReadControls(const XmlNode& node);
   void ReadControl(const XmlNode& control);
   void WriteControls(XmlWriter& out) const;
+  bool EqualControls(const RVCardConditioned& other) const;
+  bool SameControls(const RVCardConditioned& other) const;
   void TakeAlternatives(const RVCardConditioned& other);
 };
 

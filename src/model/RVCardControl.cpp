@@ -56,6 +56,11 @@ bool RVCardControl::isEqual(const RVCardControl& other) const {
   return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, *this, other) && EqualFlags(other);
 }
 
+bool RVCardControl::HasSameRows(const RVCardControl& other) const {
+  const CardClass& kind = GetRuntimeClass();
+  return &kind == &other.GetRuntimeClass() && SameFields(kind.table, *this, other) && EqualFlags(other);
+}
+
 bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
   const CardClass& kind = GetRuntimeClass();
   if (!makeOwnElement || !kind.tag) {

@@ -57,6 +57,10 @@ class RVCardControl {
   // one's is never equal.
   virtual bool isEqual(const RVCardControl& other) const;
 
+  // Same kind and the same in every row, also in those that equality passes over, to the last bit: what the history
+  // asks. Cards that read the same from a file may still differ here, by what a save rounds.
+  bool HasSameRows(const RVCardControl& other) const;
+
   // Writes the card into the element that is open; with its own element when asked, else its values alone. True.
   virtual bool SaveTemplate(XmlWriter* node, bool makeOwnElement) const;
   // Writes a card that fills another one: with its own element and the other's rectangle.

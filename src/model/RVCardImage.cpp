@@ -8,7 +8,8 @@ std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.
-      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image")),
+      RowsOf(ComparedBy<Image, &Image::EqualImage, &Image::SameImage>(
+          Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image"))),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
       ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
@@ -26,10 +27,8 @@ RVCardImage::RVCardImage() {
   backcolor = kNewBackColor;
 }
 
-bool RVCardImage::isEqual(const RVCardControl& other) const {
-  if (!RVCardControl::isEqual(other)) return false;
-  const auto& image = static_cast<const RVCardImage&>(other);
-  return ImageId() == image.ImageId() && ImagePath() == image.ImagePath();
+bool RVCardImage::EqualImage(const RVCardImage& other) const {
+  return ImageId() == other.ImageId() && ImagePath() == other.ImagePath();
 }
 
 bool RVCardImage::LoadOriginalImage(const std::wstring& id, const std::wstring& path) {

@@ -18,7 +18,6 @@ class RVCardImage : public RVCardControl {
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardImage>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
 
@@ -47,6 +46,8 @@ class RVCardImage : public RVCardControl {
   static std::span<const CardRow> Rows();
   void ReadImage(const XmlNode& image);
   void WriteImage(XmlWriter& out) const;
+  bool EqualImage(const RVCardImage& other) const;
+  bool SameImage(const RVCardImage& other) const { return image_ == other.image_; }
 
   ImageRecordPtr image_;
 };

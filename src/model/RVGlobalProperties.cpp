@@ -67,6 +67,10 @@ bool RVGlobalProperties::operator==(const RVGlobalProperties& other) const {
   return EqualFields(Table(), *this, other) && *background_ == *other.background_ && lists == other.lists;
 }
 
+bool RVGlobalProperties::HasSameRows(const RVGlobalProperties& other) const {
+  return SameFields(Table(), *this, other) && background_->HasSameRows(*other.background_) && lists == other.lists;
+}
+
 bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
   ReadValues(page);
   ReadBackground(page.Node(kBackgroundTag));

@@ -59,6 +59,9 @@ class RVGlobalProperties {
   bool operator==(const RVGlobalProperties& other) const;
   bool operator!=(const RVGlobalProperties& other) const { return !(*this == other); }
 
+  // The same in every row, in the picture and in the lists, the grid included, to the last bit: what the history asks.
+  bool HasSameRows(const RVGlobalProperties& other) const;
+
   // Takes what the "page" element holds; missing values stay as they are. True.
   virtual bool GetFromXml(const XmlNode& page);
   // The two halves of it, for whoever goes through the page's elements anyway: the values, and the element of the

@@ -206,7 +206,7 @@ std::string ChangingText(const CardRow& row, const RVCardControl& card) {
   return {};
 }
 
-TEST_F(CardProperties, EqualityLooksAtExactlyTheRowsThatCount) {
+TEST_F(CardProperties, EqualityLooksAtTheRowsThatCountAndTheHistoryAtAll) {
   for (const auto& card : OneOfEachKind()) {
     ForEachField(card->GetRuntimeClass().table, [&card](const CardRow& row) {
       if (!row.assign) return;
@@ -219,7 +219,94 @@ TEST_F(CardProperties, EqualityLooksAtExactlyTheRowsThatCount) {
       const bool graph = card->IsKindOf(RVCardReportGraph::Class());
       EXPECT_EQ(*other != *card, graph ? row.counts : counts)
           << card->GetRuntimeClass().tag << " " << row.FullName() << " " << text;
+      EXPECT_FALSE(card->HasSameRows(*other)) << card->GetRuntimeClass().tag << " " << row.FullName() << " " << text;
     });
+  }
+}
+
+// A copy that takes its source's place, as the history makes it.
+std::unique_ptr<RVCardControl> InPlaceOf(const RVCardControl& card) {
+  std::unique_ptr<RVCardControl> copy = card.GetClone();
+  copy->TakePlaceOf(card);
+  return copy;
+}
+
+TEST_F(CardProperties, ACopyInPlaceHasTheSameRowsUntilAnyEntryOfAListChanges) {
+  EXPECT_TRUE(rc::check("rows are the same", [] {
+    for (const auto& card : OneOfEachKind()) {
+      Fill(*card);
+      const auto copy = InPlaceOf(*card);
+      RC_ASSERT(copy->HasSameRows(*card));
+      ForEachField(card->GetRuntimeClass().table, [&](const CardRow& row) {
+        if (!row.list) return;
+        for (const auto& entry : row.list().rows) {
+          const auto longer = InPlaceOf(*card);
+          entry.append(*longer, "1");
+          RC_ASSERT(!longer->HasSameRows(*card));
+        }
+      });
+    }
+  }));
+}
+
+struct RowChange {
+  const char* what;
+  bool equal;  // to card equality
+  void (*change)(RVCardConditioned&);
+};
+
+template <class Card>
+Card& InnerCard(RVCardConditioned& container) {
+  for (const auto& card : container.cards) {
+    if (auto* found = dynamic_cast<Card*>(card.get())) return *found;
+  }
+  throw std::logic_error("the test's container has one of each kind");
+}
+
+// What no assignable row says: pictures, inner cards, flags, and numbers that compare strangely.
+TEST_F(CardProperties, WhatTheHistoryNotices) {
+  RVCardConditioned original;
+  for (const auto& card : {"label", "staticImage", "forceValues"}) {
+    original.cards.push_back(NewInnerCard(card));
+    original.conditions.emplace_back(L"1");
+  }
+  const RowChange changes[] = {
+      {"condition", false, [](auto& card) { card.conditions[0] = L"2"; }},
+      {"a condition without a card", false, [](auto& card) { card.conditions.emplace_back(); }},
+      {"shown one", false, [](auto& card) { card.current = 1; }},
+      {"flags", false, [](auto& card) { card.SetFlags(7); }},
+      {"inner label", false, [](auto& card) { InnerCard<RVCardLabel>(card).text = L"new"; }},
+      {"inner picture", false, [](auto& card) { InnerCard<RVCardImage>(card).LoadOriginalImage(L"p", L"./"); }},
+      {"inner button's folder", true, [](auto& card) { InnerCard<RVCardButton>(card).imagePath.value = L"plant"; }},
+      {"sign of a zero", true, [](auto& card) { card.x = -0.0; }},
+      {"less than a file keeps", false, [](auto& card) { card.y = 1e-9; }},
+  };
+  for (const RowChange& change : changes) {
+    const auto changed = InPlaceOf(original);
+    ASSERT_TRUE(original.HasSameRows(*changed));
+    change.change(static_cast<RVCardConditioned&>(*changed));
+    EXPECT_FALSE(original.HasSameRows(*changed)) << change.what;
+    EXPECT_EQ(original == *changed, change.equal) << change.what;
+  }
+  original.width = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_TRUE(original.HasSameRows(*InPlaceOf(original)));
+  EXPECT_FALSE(RVCardLabel().HasSameRows(RVCardDate()));
+}
+
+TEST_F(CardProperties, ThePagesRowsAreItsGridAndItsPictureToo) {
+  const RVGlobalProperties page;
+  void (*const changes[])(RVGlobalProperties&) = {
+      [](auto& changed) { changed.xgrid = 5.0; },
+      [](auto& changed) { changed.ygrid = 5.0; },
+      [](auto& changed) { changed.Background().maintainRealSize = true; },
+      [](auto& changed) { changed.Background().LoadOriginalImage(L"p", L"./"); },
+      [](auto& changed) { changed.lists[3].emplace_back(); },
+  };
+  for (std::size_t i = 0; i < std::size(changes); ++i) {
+    RVGlobalProperties changed = page;
+    ASSERT_TRUE(changed.HasSameRows(page));
+    changes[i](changed);
+    EXPECT_FALSE(changed.HasSameRows(page)) << i;
   }
 }
 
