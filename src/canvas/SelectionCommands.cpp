@@ -97,7 +97,7 @@ bool RVEditTemplateWnd::Supports(int kind) const {
 std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
   const InsertKindRow* row = FindInsertKind(kind);
   if (!row || !Supports(kind)) return nullptr;
-  std::unique_ptr<RVCardControl> card = row->kind().create();
+  std::unique_ptr<RVCardControl> card = row->kind().Create();
   if (row->frameColor) card->color = *row->frameColor;
   if (&card->GetRuntimeClass() == &RVCardLabel::Class()) {
     static_cast<RVCardLabel&>(*card).text = HostText(kDefaultLabelText);

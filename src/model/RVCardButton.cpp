@@ -1,7 +1,6 @@
 #include "model/RVCardButton.h"
 
 #include "model/StyleReference.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -60,9 +59,14 @@ const CardClass& RVCardButton::Class() {
   return kind;
 }
 
-RVCardButton::RVCardButton() : text(HostText(kCaptionTextId)) { font.size = kFontSize; }
+RVCardButton::RVCardButton(ModelServices& services)
+    : RVCardControl(services), text(services.texts->Text(kCaptionTextId)) {
+  font.size = kFontSize;
+}
 
-bool RVCardButton::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
+bool RVCardButton::GetStyleFromFile(const std::wstring& name) {
+  return TakeStyle(*Services().styles, name, font, fontColor);
+}
 
 void RVCardButton::ReadText(const XmlNode& element) { text = element.Value("textStr"); }
 
@@ -73,17 +77,17 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, reference, styleName)) GetStyleFromFile(styleName);
 }
 
-void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
 
 void RVCardButton::ReadImage(const XmlNode& node) {
   if (node.Node("image")) LoadImage();
 }
 
 void RVCardButton::LoadImage() {
-  ImageRecordPtr record = CurrentHost().pictureStore.Attach(imageId, imagePath.value);
+  ImageRecordPtr record = Services().pictureStore.Attach(imageId, imagePath.value);
   if (record->Current()) image_ = std::move(record);
 }
 

@@ -23,7 +23,7 @@ struct NotCopied {
 
 class RVCardButton : public RVCardControl {
  public:
-  RVCardButton();
+  explicit RVCardButton(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }

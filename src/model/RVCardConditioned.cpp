@@ -122,7 +122,7 @@ void RVCardConditioned::ReadControl(const XmlNode& control) {
   for (const XmlNode& child : control) {
     if (child.Tag() == "condition") {
       conditions.push_back(child.Value());
-    } else if (CardPointer card = NewInnerCard(child.Tag())) {
+    } else if (CardPointer card = NewInnerCard(child.Tag(), Services())) {
       card->SetParent(parent);
       card->GetFromXml(child);
       cards.push_back(std::move(card));

@@ -10,6 +10,7 @@ namespace xrpt {
 
 class RVCardConditioned : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
   RVCardConditioned() = default;
   // Inner cards are cloned, never shared.
   RVCardConditioned(const RVCardConditioned& other);

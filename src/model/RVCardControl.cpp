@@ -6,7 +6,6 @@
 #include "model/FieldRows.h"
 #include "model/FieldTexts.h"
 #include "model/FieldWalk.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -41,7 +40,7 @@ bool CardClass::IsKindOf(const CardClass& other) const {
   return kind != nullptr;
 }
 
-RVCardControl::RVCardControl() { InitializeId(); }
+RVCardControl::RVCardControl(ModelServices& services) : services_(&services) { InitializeId(); }
 
 const CardClass& RVCardControl::Class() {
   static const CardClass kind{nullptr, 0, {nullptr, kRows}, nullptr, nullptr};
@@ -109,7 +108,7 @@ bool RVCardControl::SetFlags(const Flags& set) {
   return true;
 }
 
-void RVCardControl::InitializeId() { id = CurrentHost().guids->NewGuidText(); }
+void RVCardControl::InitializeId() { id = services_->guids->NewGuidText(); }
 
 RVReportPage* RVCardControl::GetParent() const {
   if (!parent) throw std::logic_error("a card must be given its page before anything asks for it");

@@ -8,6 +8,7 @@
 
 #include "model/FieldTable.h"
 #include "platform/Color.h"
+#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -26,7 +27,10 @@ struct CardClass {
   int textId;       // its name for people
   CardTable table;  // its own rows; `base` leads to the kind it derives from
   const CardClass* base;
-  std::unique_ptr<RVCardControl> (*create)();
+  std::unique_ptr<RVCardControl> (*make)(ModelServices& services);  // null for the plain card
+
+  // A new card of the kind.
+  std::unique_ptr<RVCardControl> Create(ModelServices& services = InstalledServices()) const { return make(services); }
 
   bool IsKindOf(const CardClass& other) const;
 };
@@ -34,7 +38,9 @@ struct CardClass {
 // The description of a kind that adds rows to those of its base.
 template <class Card>
 CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const CardRow> rows) {
-  return {tag, textId, {&base.table, rows}, &base, [] { return std::unique_ptr<RVCardControl>(new Card()); }};
+  return {tag, textId, {&base.table, rows}, &base, [](ModelServices& services) {
+            return std::unique_ptr<RVCardControl>(new Card(services));
+          }};
 }
 
 class RVCardControl {
@@ -43,7 +49,8 @@ class RVCardControl {
   static constexpr int kFlagCount = 34;
   using Flags = std::bitset<kFlagCount>;
 
-  RVCardControl();
+  // The services are the card's, and its copies', for life.
+  explicit RVCardControl(ModelServices& services = InstalledServices());
   virtual ~RVCardControl() = default;
 
   static const CardClass& Class();
@@ -93,6 +100,8 @@ class RVCardControl {
   // A fresh identity.
   void InitializeId();
 
+  ModelServices& Services() const { return *services_; }
+
   virtual void SetParent(RVReportPage* page) { parent = page; }
   // The page the card stands on. Asking a card that was never given one is a programming error and throws.
   RVReportPage* GetParent() const;
@@ -114,6 +123,8 @@ class RVCardControl {
   RVReportPage* parent = nullptr;
 
  private:
+  ModelServices* services_;
+
   static const CardRow kRows[];
   bool HasBackColor() const { return backcolor != kNoColor; }
   bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }

@@ -7,7 +7,7 @@ namespace xrpt {
 
 class RVCardDate : public RVCardLabel {
  public:
-  RVCardDate();
+  explicit RVCardDate(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }

@@ -10,7 +10,7 @@ namespace xrpt {
 
 class RVCardDynamicImage : public RVCardControl {
  public:
-  RVCardDynamicImage();
+  explicit RVCardDynamicImage(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }

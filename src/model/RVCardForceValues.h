@@ -8,6 +8,8 @@ namespace xrpt {
 
 class RVCardForceValues : public RVCardButton {
  public:
+  using RVCardButton::RVCardButton;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardForceValues>(*this); }

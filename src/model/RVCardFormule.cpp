@@ -1,7 +1,6 @@
 #include "model/RVCardFormule.h"
 
 #include "model/NumberFormat.h"
-#include "platform/Host.h"
 #include "platform/Numbers.h"
 
 namespace xrpt {
@@ -48,7 +47,7 @@ void RVCardFormule::ParseFormat(std::wstring_view format, std::int32_t& integers
 std::wstring RVCardFormule::ShownText() const {
   const auto number = ReadWholeNumber(value);
   if (!number) return value;
-  const LocaleService& locale = *CurrentHost().locale;
+  const LocaleService& locale = *Services().locale;
   return FormatDouble(*number, {integers, decimals, thousandSeparator, leftPadding, rightPadding},
                       {locale.DecimalSeparator(), locale.ThousandsSeparator()});
 }

@@ -7,6 +7,8 @@ namespace xrpt {
 
 class RVCardFormule : public RVCardLabel {
  public:
+  using RVCardLabel::RVCardLabel;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardFormule>(*this); }

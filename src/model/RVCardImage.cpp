@@ -1,7 +1,5 @@
 #include "model/RVCardImage.h"
 
-#include "platform/Host.h"
-
 namespace xrpt {
 
 std::span<const CardRow> RVCardImage::Rows() {
@@ -22,7 +20,7 @@ const CardClass& RVCardImage::Class() {
   return kind;
 }
 
-RVCardImage::RVCardImage() {
+RVCardImage::RVCardImage(ModelServices& services) : RVCardControl(services) {
   color = 0xC06060;
   backcolor = kNewBackColor;
 }
@@ -32,7 +30,7 @@ bool RVCardImage::EqualImage(const RVCardImage& other) const {
 }
 
 bool RVCardImage::LoadOriginalImage(const std::wstring& id, const std::wstring& path) {
-  image_ = CurrentHost().pictureStore.Attach(id, path);
+  image_ = Services().pictureStore.Attach(id, path);
   return true;
 }
 
@@ -46,7 +44,7 @@ bool RVCardImage::ReLoadOriginalImage() {
   return image_ != nullptr;
 }
 
-void RVCardImage::ReLoadAllOriginalImages() { CurrentHost().pictureStore.ReloadAll(); }
+void RVCardImage::ReLoadAllOriginalImages() { InstalledServices().pictureStore.ReloadAll(); }
 
 void RVCardImage::ReadImage(const XmlNode& image) {
   if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));
@@ -54,7 +52,9 @@ void RVCardImage::ReadImage(const XmlNode& image) {
 
 void RVCardImage::WriteImage(XmlWriter& out) const {
   if (!image_) return;
-  if (image_->Id().empty()) return LogMessage(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  if (image_->Id().empty()) {
+    return Services().logger->Log(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  }
   const XmlElement element(out, "image");
   out.Value("imageId", image_->Id());
   out.Value("imagePath", image_->ImagePath());

@@ -13,7 +13,7 @@ class RVCardImage : public RVCardControl {
   // yet, not one to see round a picture.
   static constexpr Color kNewBackColor = 0x00FFFF;
 
-  RVCardImage();
+  explicit RVCardImage(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }

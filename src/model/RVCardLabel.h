@@ -8,6 +8,7 @@ namespace xrpt {
 
 class RVCardLabel : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
   RVCardLabel() = default;
   RVCardLabel(const RVCardLabel&) = default;
   RVCardLabel& operator=(const RVCardLabel&) = default;

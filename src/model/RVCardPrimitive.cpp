@@ -29,7 +29,7 @@ const CardClass& RVCardPrimitive::Class() {
   return kind;
 }
 
-RVCardPrimitive::RVCardPrimitive() {
+RVCardPrimitive::RVCardPrimitive(ModelServices& services) : RVCardControl(services) {
   color = kBlack;
   backcolor = kWhite;
 }

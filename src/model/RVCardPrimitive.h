@@ -15,7 +15,7 @@ inline constexpr Word kContourTypeWords[] = {
 
 class RVCardPrimitive : public RVCardControl {
  public:
-  RVCardPrimitive();
+  explicit RVCardPrimitive(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }

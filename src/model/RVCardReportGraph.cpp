@@ -100,13 +100,15 @@ const CardClass& RVCardReportGraph::Class() {
   return kind;
 }
 
-bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
-
-void RVCardReportGraph::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(node.Node("style"), styleName)) GetStyleFromFile(styleName);
+bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) {
+  return TakeStyle(*Services().styles, name, font, fontColor);
 }
 
-void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+void RVCardReportGraph::ReadStyle(const XmlNode& node) {
+  if (ReadStyleReference(*Services().styles, node.Node("style"), styleName)) GetStyleFromFile(styleName);
+}
+
+void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
 
 bool RVCardReportGraph::DeleteVariable(std::int32_t index) { return RemoveItem(Series(), *this, index); }
 

@@ -31,6 +31,8 @@ inline constexpr Word kMarkerWords[] = {{"POINT", 0, 60165},      {"CIRCLE5X5", 
 
 class RVCardReportGraph : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardReportGraph>(*this); }

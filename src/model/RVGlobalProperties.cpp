@@ -5,7 +5,6 @@
 #include "model/FieldTexts.h"
 #include "model/FieldWalk.h"
 #include "model/RVCardImage.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -37,10 +36,12 @@ constexpr PageRow kRows[] = {
 
 }  // namespace
 
-ScreenScale::ScreenScale()
-    : pixelsPerMmX(CurrentHost().screen->DpiX() / 25.4), pixelsPerMmY(CurrentHost().screen->DpiY() / 25.4) {}
+ScreenScale::ScreenScale(ModelServices& from)
+    : pixelsPerMmX(from.screen->DpiX() / 25.4), pixelsPerMmY(from.screen->DpiY() / 25.4), services(&from) {}
 
-BackgroundCard::BackgroundCard() : card_(std::make_unique<RVCardImage>()) { card_->backcolor = kWhite; }
+BackgroundCard::BackgroundCard(ModelServices& services) : card_(std::make_unique<RVCardImage>(services)) {
+  card_->backcolor = kWhite;
+}
 
 BackgroundCard::BackgroundCard(const BackgroundCard& other) : card_(std::make_unique<RVCardImage>(*other)) {}
 
@@ -51,8 +52,12 @@ BackgroundCard& BackgroundCard::operator=(const BackgroundCard& other) {
 
 BackgroundCard::~BackgroundCard() = default;
 
-RVGlobalProperties::RVGlobalProperties()
-    : id(CurrentHost().guids->NewGuidText()), name(id), backcolor(CurrentHost().screen->ButtonFace()) {
+RVGlobalProperties::RVGlobalProperties(ModelServices& services)
+    : id(services.guids->NewGuidText()),
+      name(id),
+      backcolor(services.screen->ButtonFace()),
+      screen(services),
+      background_(services) {
   // A new page's picture covers it; reading a page without one does the same.
   background_->width = width;
   background_->height = height;
@@ -91,7 +96,7 @@ void RVGlobalProperties::ReadBackground(const XmlNode& element) {
 
 bool RVGlobalProperties::SaveTemplate(XmlWriter* page) const {
   if (!page) {
-    LogMessage(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
+    screen.services->logger->Log(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
     return false;
   }
   WriteFields(Table(), *this, *page);

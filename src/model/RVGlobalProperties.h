@@ -8,6 +8,7 @@
 
 #include "model/FieldTable.h"
 #include "platform/Color.h"
+#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -19,19 +20,20 @@ using PageTable = FieldTable<RVGlobalProperties>;
 
 // What a page measures on the screen it was made on: the screen's business, so neither copied nor compared.
 struct ScreenScale {
-  ScreenScale();
-  ScreenScale(const ScreenScale&) : ScreenScale() {}
+  explicit ScreenScale(ModelServices& services);
+  ScreenScale(const ScreenScale& other) : ScreenScale(*other.services) {}
   ScreenScale& operator=(const ScreenScale&) { return *this; }
 
   double pixelsPerMmX = 0.0;
   double pixelsPerMmY = 0.0;
   double scale = 1.0;
+  ModelServices* services;
 };
 
 // A page's background picture: always there, and copied with the page.
 class BackgroundCard {
  public:
-  BackgroundCard();
+  explicit BackgroundCard(ModelServices& services);
   BackgroundCard(const BackgroundCard& other);
   BackgroundCard& operator=(const BackgroundCard& other);
   ~BackgroundCard();
@@ -47,7 +49,7 @@ class RVGlobalProperties {
   using FieldRoot = RVGlobalProperties;
   using StringLists = std::array<std::vector<std::wstring>, 4>;
 
-  RVGlobalProperties();
+  explicit RVGlobalProperties(ModelServices& services = InstalledServices());
   RVGlobalProperties(const RVGlobalProperties&) = default;
   RVGlobalProperties& operator=(const RVGlobalProperties&) = default;
   virtual ~RVGlobalProperties() = default;

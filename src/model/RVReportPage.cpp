@@ -1,7 +1,6 @@
 #include "model/RVReportPage.h"
 
 #include "model/CardRegistry.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -19,7 +18,7 @@ bool RVReportPage::Read(XmlNode page, bool takes) {
 }
 
 bool RVReportPage::ReadCard(const XmlNode& element) {
-  std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
+  std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag(), services_);
   if (!card) return false;
   card->SetParent(this);
   card->GetFromXml(element);
@@ -30,7 +29,7 @@ bool RVReportPage::ReadCard(const XmlNode& element) {
 void RVReportPage::SaveTemplate(XmlWriter& root) const {
   const XmlElement element(root, "page");
   if (!properties.SaveTemplate(&root)) {
-    LogMessage(4, L"RVEditTemplateWnd::SaveTemplate(): could not save page node template!");
+    services_.logger->Log(4, L"RVEditTemplateWnd::SaveTemplate(): could not save page node template!");
   }
   SaveCtrlsTemplate(root);
 }

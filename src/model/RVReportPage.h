@@ -9,7 +9,7 @@ namespace xrpt {
 
 class RVReportPage {
  public:
-  RVReportPage() = default;
+  explicit RVReportPage(ModelServices& services = InstalledServices()) : properties(services), services_(services) {}
   RVReportPage(const RVReportPage&) = delete;  // cards point back to their page
   RVReportPage& operator=(const RVReportPage&) = delete;
 
@@ -23,6 +23,8 @@ class RVReportPage {
   // Appends every card, front to back, to the "page" element that is open.
   void SaveCtrlsTemplate(XmlWriter& page) const;
 
+  ModelServices& Services() const { return services_; }
+
   RVGlobalProperties properties;
   CardList cards;
   double fontFactor = 1.0;  // font sizes are multiplied by it
@@ -30,6 +32,8 @@ class RVReportPage {
  private:
   bool Read(XmlNode page, bool takes);
   bool ReadCard(const XmlNode& element);
+
+  ModelServices& services_;
 };
 
 }  // namespace xrpt

@@ -87,7 +87,7 @@ void Fill(RVCardControl& card);
 void FillAlternatives(RVCardConditioned& card) {
   for (const RegistryRow& row : CardRegistry()) {
     if (!row.inConditioned) continue;
-    card.cards.push_back(row.kind().create());
+    card.cards.push_back(row.kind().Create());
     Fill(*card.cards.back());
     card.conditions.push_back(FromUtf8(AnyText()));
   }
@@ -96,7 +96,7 @@ void FillAlternatives(RVCardConditioned& card) {
 // What the editor never leaves behind and a save is known to change: a padding to no digits, a style whose font was not
 // applied, a variable without a name, no background on a kind whose new cards have one, an empty date.
 void MakeOrdinary(RVCardControl& card) {
-  if (card.GetRuntimeClass().create()->backcolor != kNoColor) card.backcolor &= 0xFFFFFF;
+  if (card.GetRuntimeClass().Create()->backcolor != kNoColor) card.backcolor &= 0xFFFFFF;
   if (auto* formule = dynamic_cast<RVCardFormule*>(&card)) {
     if (formule->leftPadding) formule->integers = std::max(formule->integers, 1);
     if (formule->rightPadding) formule->decimals = std::max(formule->decimals, 1);

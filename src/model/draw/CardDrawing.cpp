@@ -4,7 +4,6 @@
 
 #include "model/draw/Marquee.h"
 #include "model/draw/TextLayout.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -46,7 +45,7 @@ CardArea TurnedArea(const CardArea& area, SizeD box) {
 
 // On a plate of its own, so that the crossed lines do not strike it out.
 void DrawMissingName(Graphics& graphics, const CardArea& area, std::wstring_view name) {
-  FontService& fonts = *CurrentHost().fonts;
+  FontService& fonts = *area.fonts;
   const Font font{L"Arial", 7.0, FontStyle::Normal};
   const double margin = 2.0;
   const std::wstring label = FitText(fonts, font, name, area.points.width - 2.0 * margin);
@@ -94,7 +93,7 @@ void DrawTextLine(Graphics& graphics, const CardArea& area, const Font& pageFont
 void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& style, std::wstring_view text,
                  std::int32_t time) {
   if (text.empty() || area.IsEmpty()) return;
-  FontService& fonts = *CurrentHost().fonts;
+  FontService& fonts = *area.fonts;
   const Font font = PageFont(style.font, area.scale);
   const SizeD size = TurnedBox(area.points, style.orientation, fonts.Metrics(font).lineSpacing);
   const bool moving = IsMoving(style.animation, time);
