@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
@@ -45,9 +46,35 @@ std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
 
 }  // namespace
 
+namespace {
+
+const CardRow* StyleRow(const RVCardControl& card) {
+  const CardRow* found = nullptr;
+  ForEachField(card.GetRuntimeClass().table, [&found](const CardRow& row) {
+    if (row.panel.editor == FieldEditor::Style) found = &row;
+  });
+  return found;
+}
+
+// What the card's style says of a field holds when the report is read again: an edit that it would take back lets go of
+// the style.
+void LetGoOfStyle(RVCardControl& card, const CardRow& edited) {
+  const CardRow* style = StyleRow(card);
+  if (!style || style->text(card).empty()) return;
+  const std::unique_ptr<RVCardControl> styled = card.GetClone();
+  styled->UpdateStyleFromFile();
+  if (edited.text(*styled) != edited.text(card)) style->assign(card, "");
+}
+
+}  // namespace
+
 void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text) {
   row.assign(card, text);
-  if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
+  if (row.panel.editor == FieldEditor::Style) {
+    card.UpdateStyleFromFile();
+  } else {
+    LetGoOfStyle(card, row);
+  }
 }
 
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page) {
@@ -97,24 +124,22 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
 
 void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   RVEditTemplateWnd& page = frame_.CurrentPage();
-  const auto cards = Cards();
-  open_ = cards.empty() ? Edit::OfPage : Edit::OfCards;
-  std::vector<std::wstring> ids;
-  for (const RVCardControl* card : cards) ids.push_back(card->id);
-  if (cards.empty()) {
-    if (const PageRow* own = RowOfTable(RVGlobalProperties::Table(), row)) own->assign(page.Page().properties, text);
-  } else if (const CardRow* common = RowOfTable(cards.front()->GetRuntimeClass().table, row)) {
-    for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), *common, text);
-  }
-  page.RedrawBackground();
-  frame_.SetModified(true);
+  const std::vector<std::size_t> indexes = SelectedIndexes(page);
+  if (indexes.empty()) return AssignToPage(page, row, text);
+  const CardRow* common = RowOfTable(page.Page().cards[indexes.front()].GetRuntimeClass().table, row);
+  if (!common) return;
+  PageEdit edit = page.Edit({text::kChangeField, static_cast<int>(indexes.size()), row.panel.textId}, row.FullName());
+  for (const std::size_t index : indexes) AssignToCard(edit.Card(index), *common, text);
 }
 
-void SelectedFields::Commit() {
-  const Edit ended = std::exchange(open_, Edit::None);
-  if (ended == Edit::OfPage) frame_.CurrentPage().CommitPageEdit();
-  if (ended == Edit::OfCards) frame_.CurrentPage().CommitEdit();
+void SelectedFields::AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text) {
+  const PageRow* own = RowOfTable(RVGlobalProperties::Table(), row);
+  if (!own) return;
+  PageEdit edit = page.Edit({text::kChangePageField, 0, row.panel.textId}, row.FullName());
+  own->assign(edit.Properties(), text);
 }
+
+void SelectedFields::Commit() { frame_.EndEdits(); }
 
 std::wstring CardCaption(const RVCardControl& card) {
   std::wstring content;

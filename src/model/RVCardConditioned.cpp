@@ -76,6 +76,14 @@ void RVCardConditioned::TakePlaceOf(const RVCardControl& source) {
   }
 }
 
+// The cards inside are cards of their own too.
+void RVCardConditioned::RenewIds() {
+  RVCardControl::RenewIds();
+  for (const CardPointer& card : cards) {
+    if (card) card->RenewIds();
+  }
+}
+
 void RVCardConditioned::SetParent(RVReportPage* page) {
   RVCardControl::SetParent(page);
   for (const CardPointer& card : cards) card->SetParent(page);

@@ -23,6 +23,7 @@ class RVCardConditioned : public RVCardControl {
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
   void SetParent(RVReportPage* page) override;
+  void RenewIds() override;
   bool UpdateStyleFromFile() override;
 
   // Nothing is shown.

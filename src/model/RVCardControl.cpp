@@ -1,5 +1,6 @@
 #include "model/RVCardControl.h"
 
+#include <atomic>
 #include <stdexcept>
 
 #include "model/Codecs.h"
@@ -108,7 +109,16 @@ bool RVCardControl::SetFlags(const Flags& set) {
   return true;
 }
 
-void RVCardControl::InitializeId() { id = services_->guids->NewGuidText(); }
+void RVCardControl::InitializeId() {
+  id = services_->guids->NewGuidText();
+  key_ = NextKey();
+}
+
+// Reports may be read on other threads.
+CardKey RVCardControl::NextKey() {
+  static std::atomic<CardKey> last = 0;
+  return ++last;
+}
 
 RVReportPage* RVCardControl::GetParent() const {
   if (!parent) throw std::logic_error("a card must be given its page before anything asks for it");

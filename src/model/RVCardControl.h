@@ -3,6 +3,7 @@
 #pragma once
 
 #include <bitset>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -42,6 +43,10 @@ CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::sp
             return std::unique_ptr<RVCardControl>(new Card(services));
           }};
 }
+
+// Tells cards apart while the program runs, whatever ids a file gave them: two may share one or have none. A clone is
+// the same card.
+using CardKey = std::uint64_t;
 
 class RVCardControl {
  public:
@@ -99,6 +104,9 @@ class RVCardControl {
 
   // A fresh identity.
   void InitializeId();
+  CardKey Key() const { return key_; }
+  // The same for the card and the cards it holds, when it becomes a card of its own.
+  virtual void RenewIds() { InitializeId(); }
 
   ModelServices& Services() const { return *services_; }
 
@@ -127,7 +135,10 @@ class RVCardControl {
 
   static const CardRow kRows[];
   bool HasBackColor() const { return backcolor != kNoColor; }
+  static CardKey NextKey();
   bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }
+
+  CardKey key_ = NextKey();
 };
 
 }  // namespace xrpt

@@ -92,7 +92,7 @@ void RVReport::ReadPages(const XmlNode& root) {
 }
 
 RVReportPage& RVReport::AddPage() {
-  RVReportPage& page = *pages.emplace_back(std::make_unique<RVReportPage>(*host_));
+  RVReportPage& page = *pages.emplace_back(std::make_shared<RVReportPage>(*host_));
   page.fontFactor = fontFactor;
   return page;
 }

@@ -54,7 +54,7 @@ class RVReport {
   XmlDocument formules{"formules"};
   XmlDocument virtualDevices{"virtualDevices"};
   XmlDocument goBackVariables{"goBackVariables"};
-  std::vector<std::unique_ptr<RVReportPage>> pages;  // never empty
+  std::vector<std::shared_ptr<RVReportPage>> pages;  // never empty
   bool modified = false;
 
  private:

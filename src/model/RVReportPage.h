@@ -18,6 +18,8 @@ class RVReportPage {
   // The same for a document that nobody reads again: each card's element is taken out once the card is made, so that
   // the next cards are made in its memory and a large report costs little more than its document.
   bool TakeTemplate(const XmlNode& page) { return Read(page, true); }
+  // The same page again, with identities of its own throughout.
+  std::unique_ptr<RVReportPage> Duplicate() const;
   // Appends a "page" element to the root that is open.
   void SaveTemplate(XmlWriter& root) const;
   // Appends every card, front to back, to the "page" element that is open.
