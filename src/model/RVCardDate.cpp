@@ -3,7 +3,6 @@
 #include <ctime>
 
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
 #include "platform/Host.h"
 
 namespace xrpt {
@@ -37,9 +36,10 @@ const CardClass& RVCardDate::Class() {
 RVCardDate::RVCardDate() { value = CurrentHost().locale->DateTimeText(Now()); }
 
 std::wstring RVCardDate::ShownText() const {
-  const LocaleService& locale = *CurrentHost().locale;
-  const auto moment = ReadMoment(value, locale);
-  return ParseDate(pattern, moment ? *moment : Now(), locale);
+  const Host& host = CurrentHost();
+  RVDateTime moment{};
+  if (!host.dates->String2DateTime(value, moment)) moment = Now();
+  return ParseDate(pattern, moment, *host.locale);
 }
 
 }  // namespace xrpt
