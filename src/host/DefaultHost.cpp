@@ -20,6 +20,7 @@
 #include "host/SystemLocale.h"
 #include "host/TextCatalogue.h"
 #include "host/VariableNames.h"
+#include "host/expressions/EmbeddedExpressions.h"
 
 namespace xrpt {
 namespace {
@@ -50,6 +51,7 @@ void AddPlant(Host& host) {
   host.variables = std::make_unique<VariableNames>();
   host.driverVariables = std::make_unique<PlantVariables>(host);
   host.values = std::make_unique<NoValues>();
+  host.expressions = std::make_unique<EmbeddedExpressions>(host);
 }
 
 void AddScreenAndPaper(Host& host, const HostOptions& options) {
