@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/Color.h"
+#include "platform/Expressions.h"
 #include "platform/Fonts.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
@@ -153,6 +154,14 @@ class LocaleService {
   virtual std::wstring DateTimeText(const std::tm& local) const = 0;
 };
 
+using RVDateTime = std::tm;  // local time
+class DateService {
+ public:
+  virtual ~DateService() = default;
+  // A moment as people write it in the user's locale; false for a text without a date that can be.
+  virtual bool String2DateTime(std::wstring_view text, RVDateTime& moment) const = 0;
+};
+
 class ScreenService {
  public:
   virtual ~ScreenService() = default;
@@ -185,11 +194,46 @@ struct DriverVariable {
   std::wstring kind;
   std::wstring period;  // all that follows GOBACK
 };
+// The same with the parts of hosts that filter what they read; a name of the embedded naming leaves both filters empty.
+struct FilteredDriverVariable {
+  std::wstring device;
+  std::wstring variable;
+  std::wstring kind;
+  std::wstring filter;
+  std::wstring period;
+  std::wstring backFilter;
+};
 class VariableNaming {
  public:
   virtual ~VariableNaming() = default;
   virtual DriverVariable SplitDriverVariable(std::wstring_view name) const = 0;
   virtual std::wstring JoinDriverVariable(const DriverVariable& parts) const = 0;
+  virtual FilteredDriverVariable SplitFilterDriverVariable(std::wstring_view name) const = 0;
+  virtual FilteredDriverVariable SplitBackFilterDriverVariable(std::wstring_view name) const = 0;
+};
+
+// Looks driver variables up, one after another. It sees the plant as it was when it was made.
+class RVDriverVariable {
+ public:
+  virtual ~RVDriverVariable() = default;
+  // The variable's full name, without brackets.
+  virtual void Setup(std::wstring_view name) = 0;
+  // Whether the plant has it. The kind of a name plays no part.
+  virtual bool Lock() = 0;
+  // What is known of the variable that was locked last.
+  virtual std::optional<DeviceVariable> Info() const = 0;
+};
+class DriverVariableService {
+ public:
+  virtual ~DriverVariableService() = default;
+  virtual std::unique_ptr<RVDriverVariable> NewDriverVariable() = 0;
+};
+
+class ValueService {
+ public:
+  virtual ~ValueService() = default;
+  // The present reading of a driver variable (full name, without brackets), or nothing.
+  virtual std::optional<double> Reading(std::wstring_view variable) = 0;
 };
 
 // What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
@@ -202,8 +246,12 @@ struct ModelServices {
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
   std::unique_ptr<LocaleService> locale;
+  std::unique_ptr<DateService> dates;
   std::unique_ptr<ScreenService> screen;
   std::unique_ptr<VariableNaming> variables;
+  std::unique_ptr<DriverVariableService> driverVariables;
+  std::unique_ptr<ValueService> values;
+  std::unique_ptr<ExpressionService> expressions;
   PictureStore pictureStore;
 
   // Without a way to read pictures the store has none.

@@ -4,7 +4,6 @@
 #include "draw/Drawing.h"
 #include "model/CardRegistry.h"
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
 #include "model/NumberFormat.h"
 #include "model/RVAnalogBar.h"
 #include "model/RVCardButton.h"
@@ -44,8 +43,9 @@ TEST_F(CardDrawTest, ReadsMomentsAsPeopleWriteThem) {
       {L"999999999999 1 1", L"-"},
   };
   for (const auto& row : rows) {
-    const auto moment = ReadMoment(row.text, *CurrentHost().locale);
-    const std::wstring shown = moment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", *moment, *CurrentHost().locale) : L"-";
+    RVDateTime moment{};
+    const bool isMoment = host->dates->String2DateTime(row.text, moment);
+    const std::wstring shown = isMoment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", moment, *host->locale) : L"-";
     EXPECT_EQ(shown, row.shown) << ToUtf8(row.text);
   }
 }
