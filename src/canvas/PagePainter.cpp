@@ -23,7 +23,9 @@ void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw&
   if (!page.properties.ThereAreBackground()) return;
   const GraphicsState state(graphics);
   if (rounded) graphics.ClipRoundRect(paper, draw.roundedPxX, draw.roundedPxY);
-  PaintCard(graphics, page.properties.Background(), draw);
+  tagDraw plain = draw;
+  plain.flag1 = 0;  // a stand-in as large as the page would hide it
+  PaintCard(graphics, page.properties.Background(), plain);
 }
 
 void DrawFailure(Graphics& graphics, const Rect& card) {
