@@ -77,6 +77,20 @@ TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
   EXPECT_EQ(drawn.First(CallKind::FillRoundRect).first, 12.0);
 }
 
+TEST_F(PagePainterTest, CardsAreSeenOnThePageOnly) {
+  Put(L"outside", 200, 10);
+  tagDraw draw = DrawAt();
+  draw.offsetX = 20.4;
+  RecordingGraphics drawn = Painted(draw);
+  EXPECT_EQ(drawn.First(CallKind::ClipRect).rect, RectD(20, 0, 20 + 794 + 1, 1123 + 1));
+  draw.roundedPxX = draw.roundedPxY = 12.0;
+  EXPECT_EQ(Painted(draw).First(CallKind::ClipRoundRect).first, 12.0);
+  drawn = {};
+  RenderPage(drawn, page, 96.0);
+  EXPECT_EQ(drawn.calls[1].kind, CallKind::Save);
+  EXPECT_NE(drawn.calls[2].kind, CallKind::ClipRect);
+}
+
 TEST_F(PagePainterTest, AMissingPictureIsMarkedInTheEditorAndTheBackgroundsNowhere) {
   page.properties.Background().LoadOriginalImage(L"gone", L"./");
   ASSERT_TRUE(page.properties.ThereAreBackground());
