@@ -120,7 +120,7 @@ struct XmlName {
 };
 
 // Looks up the children of one element, which it goes through once. Among children of one name the first counts; names
-// asked for in the order of the file are found at once.
+// asked for in the order of the file are found at once. Each name is asked for once: a second time it may be missed.
 class XmlCursor {
  public:
   explicit XmlCursor(const XmlNode& parent);

@@ -146,6 +146,18 @@ TEST_F(CardDrawTest, ConditionedCardsDrawTheirAlternativeInTheirOwnRectangle) {
   EXPECT_EQ(Recorded(card, draw).Count(CallKind::FillPolygon), 0u);
 }
 
+TEST_F(CardDrawTest, PicturesStandOnTheGroundTheyAreGiven) {
+  auto card = CardOf<RVCardImage>(20, 10);
+  for (const Color ground : {Rgb(0xFF, 0xFF, 0x00), kWhite, kBlack}) {
+    card.backcolor = ground;
+    EXPECT_EQ(Recorded(card).First(CallKind::FillRect).color, ground);
+  }
+  card.backcolor = kNoColor;
+  tagDraw paper = DrawAt();
+  paper.flag1 = 0;
+  EXPECT_EQ(Recorded(card, paper).calls.size(), 0u);
+}
+
 TEST_F(CardDrawTest, ShapesKeepTheirContourInside) {
   auto card = CardOf<RVCardPrimitive>(20, 10);
   card.type = PrimitiveType::Box;
