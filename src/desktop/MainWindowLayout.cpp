@@ -20,6 +20,7 @@
 #include "desktop/ribbon/FontGroup.h"
 #include "desktop/ribbon/Ribbon.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -45,9 +46,9 @@ void MainWindow::BuildRibbon() {
   ribbon_ = new Ribbon(*actions_, this);
   font_ = new FontGroup(*fields_, this);
   font_->edited = [this] { RefreshSoon(); };
-  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_);
+  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_, ThemedIcon(QStringLiteral("bold")));
   corner_ = new CornerBar(*frame_, *actions_, this);
-  ribbon_->AddCorner(corner_);
+  ribbon_->SetCorner(corner_);
   setMenuWidget(ribbon_);
 }
 

@@ -14,9 +14,14 @@ class RibbonButton final : public QToolButton {
  public:
   RibbonButton(QAction& action, ButtonShape shape, QWidget* parent = nullptr);
   void SetShape(ButtonShape shape);
+  ButtonShape Shape() const { return shape_; }
+  // What it would take in a shape, whichever it has now.
+  QSize SizeAs(ButtonShape shape) const;
+  QSize sizeHint() const override { return SizeAs(shape_); }
 
  private:
   void TakeFromAction();
+  QString LabelAs(ButtonShape shape) const;
 
   QAction& action_;
   ButtonShape shape_;
