@@ -14,6 +14,7 @@
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
@@ -28,6 +29,7 @@ namespace xrpt {
 namespace {
 constexpr wchar_t kSection[] = L"Desktop";
 constexpr int kLayoutVersion = 1;
+constexpr int kNarrowestPanel = 40;
 }  // namespace
 
 void MainWindow::BuildCentre() {
@@ -57,6 +59,7 @@ QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* conten
   dock->setObjectName(QLatin1String(name));
   dock->setWidget(content);
   GiveTitle(*dock);
+  content->setMinimumWidth(kNarrowestPanel);
   addDockWidget(area, dock);
   docks_.push_back(dock);
   return dock;
@@ -83,6 +86,7 @@ void MainWindow::BuildDocks() {
   QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
   propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
   QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, propertiesDock_});
   resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
@@ -139,6 +143,7 @@ void MainWindow::WatchLog() {
 }
 
 void MainWindow::StoreLayout() {
+  sideDocks_->BringBack();
   SettingsService& settings = *CurrentHost().settings;
   const auto store = [&settings](const wchar_t* name, const QByteArray& bytes) {
     settings.SetProfileText(kSection, name, QString::fromLatin1(bytes.toBase64()).toStdWString());

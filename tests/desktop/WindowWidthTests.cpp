@@ -2,6 +2,7 @@
 // show is a click away.
 #include <gmock/gmock.h>
 
+#include <QDockWidget>
 #include <QMenu>
 #include <QTabBar>
 #include <random>
@@ -154,9 +155,9 @@ class WindowWidths : public WindowTest, public ::testing::WithParamInterface<Loo
 TEST_P(WindowWidths, NoCommandIsOutOfReachOnTheWayFromWideToNarrowAndBack) {
   std::vector<int> widths;
   for (int width = 4000; width > 1400; width -= 400) widths.push_back(width);
-  for (int width = 1400; width >= 600; width -= 13) widths.push_back(width);
-  widths.push_back(600);
-  for (int width = 630; width <= 1800; width += 97) widths.push_back(width);
+  for (int width = 1400; width >= 200; width -= 13) widths.push_back(width);
+  widths.push_back(200);
+  for (int width = 230; width <= 1800; width += 97) widths.push_back(width);
   for (const int width : widths) {
     Resize(width);
     ASSERT_EQ(Window().width(), width);
@@ -198,6 +199,38 @@ TEST_P(WindowWidths, TheCornerIsThereAtEveryWidth) {
     EXPECT_GE(tabs->width(), std::min(80, width)) << width;
     EXPECT_LE(tabs->geometry().right(), corner.geometry().left()) << width;
   }
+}
+
+class SideDocksTest : public WindowTest {
+ protected:
+  bool IsShown(const char* dock) { return Window().findChild<QDockWidget*>(QLatin1String(dock))->isVisible(); }
+  QDockWidget& Dock(const char* dock) { return *Window().findChild<QDockWidget*>(QLatin1String(dock)); }
+  std::vector<bool> ShownAt(int width) {
+    Window().resize(width, 700);
+    Settle();
+    return {IsShown("outline"), IsShown("properties")};
+  }
+};
+
+TEST_F(SideDocksTest, GiveWayToThePageAndComeBackAsWideAsTheyWere) {
+  EXPECT_THAT(ShownAt(1280), ElementsAre(true, true));
+  Window().resizeDocks({&Dock("outline"), &Dock("properties")}, {230, 310}, Qt::Horizontal);
+  Settle();
+  EXPECT_THAT(ShownAt(790), ElementsAre(true, true));
+  EXPECT_THAT(ShownAt(770), ElementsAre(false, true));
+  EXPECT_THAT(ShownAt(530), ElementsAre(false, false));
+  EXPECT_GE(View().width(), 500);
+  EXPECT_THAT(ShownAt(200), ElementsAre(false, false));
+  EXPECT_THAT(ShownAt(770), ElementsAre(false, true));
+  EXPECT_THAT(ShownAt(1280), ElementsAre(true, true));
+  EXPECT_EQ(Dock("outline").width(), 230);
+  EXPECT_EQ(Dock("properties").width(), 310);
+}
+
+TEST_F(SideDocksTest, OneThatTheUserHidStaysHidden) {
+  Dock("outline").hide();
+  EXPECT_THAT(ShownAt(300), ElementsAre(false, false));
+  EXPECT_THAT(ShownAt(1280), ElementsAre(false, true));
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, WindowWidths,

@@ -36,7 +36,7 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   clock_.start();
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(160, 120);
+  setMinimumSize(60, 60);
 }
 
 void PageView::Connect(RVEditControlWnd& frame, const Actions& actions) {
