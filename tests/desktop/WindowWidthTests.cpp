@@ -155,7 +155,7 @@ class WindowWidths : public WindowTest, public ::testing::WithParamInterface<Loo
 TEST_P(WindowWidths, NoCommandIsOutOfReachOnTheWayFromWideToNarrowAndBack) {
   std::vector<int> widths;
   for (int width = 4000; width > 1400; width -= 400) widths.push_back(width);
-  for (int width = 1400; width >= 200; width -= 13) widths.push_back(width);
+  for (int width = 1400; width >= 200; width -= 11) widths.push_back(width);
   widths.push_back(200);
   for (int width = 230; width <= 1800; width += 97) widths.push_back(width);
   for (const int width : widths) {

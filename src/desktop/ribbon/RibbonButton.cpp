@@ -72,8 +72,20 @@ QString RibbonButton::LabelAs(ButtonShape shape) const {
   return shape == ButtonShape::Large ? InTwoLines(action_.text()) : action_.text();
 }
 
+// Groups ask at every width the window passes through.
 QSize RibbonButton::SizeAs(ButtonShape shape) const {
   ensurePolished();
+  QSize& size = sizes_[static_cast<std::size_t>(shape)];
+  if (!size.isValid()) size = Measure(shape);
+  return size;
+}
+
+void RibbonButton::changeEvent(QEvent* event) {
+  QToolButton::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) sizes_.fill({});
+}
+
+QSize RibbonButton::Measure(ButtonShape shape) const {
   QStyleOptionToolButton option;
   initStyleOption(&option);
   option.iconSize = IconSizeOf(shape);
@@ -91,6 +103,7 @@ QSize RibbonButton::SizeAs(ButtonShape shape) const {
 }
 
 void RibbonButton::TakeFromAction() {
+  if (accessibleName() != action_.text()) sizes_.fill({});
   setIcon(action_.icon());
   setText(LabelAs(shape_));
   setAccessibleName(action_.text());
