@@ -45,7 +45,7 @@ PopupButton::PopupButton(QWidget* parent) : QToolButton(parent), popup_(new Popu
 }
 
 void PopupButton::Hold(QWidget* widget) {
-  popup_->layout()->addWidget(widget);
+  static_cast<QBoxLayout*>(popup_->layout())->insertWidget(0, widget);
   widget->show();
 }
 

@@ -9,7 +9,7 @@ class PopupButton final : public QToolButton {
  public:
   explicit PopupButton(QWidget* parent = nullptr);
 
-  // The widget stands in the popup, below those that are there, until it gets another parent.
+  // The widget stands in the popup, above those that are there, until it gets another parent.
   void Hold(QWidget* widget);
   // Opens the popup under a widget, this button where there is room for it.
   void OpenUnder(const QWidget& anchor);
