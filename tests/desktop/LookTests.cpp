@@ -1,10 +1,13 @@
 // What the eye needs: texts that stand out from what is behind them, and the keyboard's place in sight.
 #include <gmock/gmock.h>
 
+#include <QScrollArea>
+#include <QTabBar>
 #include <QToolTip>
 
 #include "desktop/WindowTest.h"
 #include "desktop/look/Theme.h"
+#include "desktop/ribbon/Ribbon.h"
 
 namespace xrpt {
 namespace {
@@ -57,6 +60,43 @@ TEST_P(Look, TooltipsCanBeRead) {
   const QImage picture = tip->grab(tip->rect().adjusted(2, 2, -2, -2)).toImage();
   EXPECT_GT(BestContrast(picture), 7.0);
   QToolTip::hideText();
+}
+
+// Places that look clearly different in one picture and the other.
+int ClearDifferences(const QImage& one, const QImage& other) {
+  int count = 0;
+  for (int y = 0; y < std::min(one.height(), other.height()); ++y) {
+    for (int x = 0; x < std::min(one.width(), other.width()); ++x)
+      count += Contrast(one.pixel(x, y), other.pixel(x, y)) >= 2.0 ? 1 : 0;
+  }
+  return count;
+}
+
+bool TakesTheKeyboard(const QWidget& widget) {
+  const bool isPartOfAnother = widget.focusProxy() || widget.objectName().startsWith(QLatin1String("qt_"));
+  return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !isPartOfAnother;
+}
+
+// More than a text cursor shows.
+TEST_P(Look, TheKeyboardsPlaceCanBeSeen) {
+  constexpr int kEnough = 40;
+  OpenSample();
+  Page().SelectControls({CardWith("text/textStr", L"Desde")});
+  Frame().SetModified(false);
+  Settle();
+  int looked = 0;
+  for (QWidget* widget : Window().findChildren<QWidget*>()) {
+    if (!TakesTheKeyboard(*widget) || qobject_cast<QScrollArea*>(widget)) continue;
+    QWidget* elsewhere = widget == &View() ? Window().Tabs().findChild<QTabBar*>() : static_cast<QWidget*>(&View());
+    widget->setFocus(Qt::TabFocusReason);
+    const QImage with = widget->grab().toImage();
+    elsewhere->setFocus(Qt::TabFocusReason);
+    const QImage without = widget->grab().toImage();
+    EXPECT_GE(ClearDifferences(with, without), kEnough)
+        << widget->metaObject()->className() << " " << widget->accessibleName().toStdString();
+    ++looked;
+  }
+  EXPECT_GT(looked, 30);
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, Look, ::testing::Values(ThemeChoice::Light, ThemeChoice::Dark));
