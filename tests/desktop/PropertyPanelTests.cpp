@@ -8,6 +8,7 @@
 #include "desktop/WindowTest.h"
 #include "desktop/panels/MixedSpinBox.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/TypedNumber.h"
 
 namespace xrpt {
 namespace {
@@ -117,6 +118,71 @@ TEST_F(Panel, NoCardSelectedShowsThePage) {
   QTest::keyClick(&width, Qt::Key_Up);
   Window().Properties().Commit();
   EXPECT_GT(Page().Placement().pageWidthPx, before);
+}
+
+TEST(TypedNumbers, CommaAndPointAreBothDecimal) {
+  const std::pair<const char*, double> rows[] = {{"12,5", 12.5},
+                                                 {"12.5", 12.5},
+                                                 {"-0,25", -0.25},
+                                                 {".5", 0.5},
+                                                 {"7.", 7.0},
+                                                 {"1.234,5", 1234.5},
+                                                 {"1,234.5", 1234.5},
+                                                 {"1.234.567", 1234567.0},
+                                                 {"1,234,567", 1234567.0},
+                                                 {"1 234,5", 1234.5},
+                                                 {"+3", 3.0},
+                                                 {"\u2212"
+                                                  "4,5",
+                                                  -4.5},
+                                                 {"1.234.567,8", 1234567.8},
+                                                 {"12,345", 12.345}};
+  for (const auto& [text, value] : rows) {
+    ASSERT_TRUE(NumberTyped(QString::fromUtf8(text))) << text;
+    EXPECT_DOUBLE_EQ(*NumberTyped(QString::fromUtf8(text)), value) << text;
+  }
+  for (const char* text : {"", "-", ",", "1e3", "0x10", "inf", "nan", "5-", "--5", "abc"})
+    EXPECT_FALSE(NumberTyped(QString::fromUtf8(text))) << text;
+  for (const char* text : {"", "-", "12,", ","}) EXPECT_TRUE(MayBecomeNumber(QString::fromUtf8(text))) << text;
+  for (const char* text : {"1e", "5-", "a"}) EXPECT_FALSE(MayBecomeNumber(QString::fromUtf8(text))) << text;
+}
+
+// What is typed is what is meant, whichever of the two stands on the keyboard.
+TEST_F(Panel, NumbersTakeCommaAndPointInEveryLanguage) {
+  for (const QLocale& locale : {QLocale(QLocale::English), QLocale(QLocale::Spanish), QLocale(QLocale::German)}) {
+    QLocale::setDefault(locale);
+    CloseWindow();
+    OpenSample();
+    Select({title_});
+    for (const char* typed : {"12,5", "12.5"}) {
+      Select({from_});
+      Select({title_});
+      auto& x = Field<MixedSpinBox>("x");
+      x.setLocale(locale);
+      x.setFocus();
+      x.selectAll();
+      QTest::keyClicks(&x, QString::fromLatin1(typed));
+      EXPECT_DOUBLE_EQ(Card(title_).x, 12.5) << typed << " in " << locale.name().toStdString();
+      QTest::keyClick(&x, Qt::Key_Return);
+      EXPECT_DOUBLE_EQ(x.value(), 12.5) << typed << " in " << locale.name().toStdString();
+      EXPECT_EQ(x.text(), locale.toString(12.5, 'f', 2));
+    }
+  }
+  QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(Panel, NumbersBeyondTheRangeComeToItsEnd) {
+  Select({title_});
+  auto& size = Field<MixedSpinBox>("font/size");
+  size.setFocus();
+  size.selectAll();
+  QTest::keyClicks(&size, QStringLiteral("9999"));
+  EXPECT_DOUBLE_EQ(size.value(), 99.0);
+  QTest::keyClick(&size, Qt::Key_Return);
+  EXPECT_DOUBLE_EQ(size.value(), size.maximum());
+  size.selectAll();
+  QTest::keyClicks(&size, QStringLiteral("x7y"));
+  EXPECT_DOUBLE_EQ(size.value(), 7.0);
 }
 
 TEST_F(Panel, TheWheelChangesNothingUnlessTheFieldHasTheKeyboard) {
