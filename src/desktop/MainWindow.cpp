@@ -62,7 +62,9 @@ MainWindow::MainWindow() {
   pages_->View().setFocus();
 }
 
+// A field that the keyboard leaves now still tells what was typed.
 MainWindow::~MainWindow() {
+  if (QWidget* field = focusWidget()) field->clearFocus();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
   frame_.reset();

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QComboBox>
+#include <QFontComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -76,6 +77,59 @@ TEST_F(Panel, UndoRightAfterTypingTakesBackWhatWasTyped) {
   ASSERT_EQ(TextOf(title_, "text/textStr"), L"abcInforme mensual de energía");
   Run("Undo");
   EXPECT_EQ(TextOf(title_, "text/textStr"), L"Informe mensual de energía");
+}
+
+class FieldUndo : public Panel, public ::testing::WithParamInterface<const char*> {
+ protected:
+  FieldUndo() {
+    Select({title_});
+    Page().AddUndoInfo(false);
+    field_ = Window().Properties().Find(GetParam());
+    field_->setFocus();
+  }
+  std::wstring Now() { return TextOf(title_, GetParam()); }
+  void Type(const char* keys) {
+    Press(Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field_, QString::fromLatin1(keys));
+    Settle();
+  }
+  void Press(Qt::Key key, Qt::KeyboardModifiers held) {
+    QTest::keyClick(field_, key, held);
+    Settle();
+  }
+  QWidget* field_;
+};
+
+TEST_P(FieldUndo, TakesBackWhatIsBeingTypedThenWhatTheReportHas) {
+  const std::wstring before = Now();
+  Type("7");
+  ASSERT_NE(Now(), before);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Now(), before);
+  Type("8");
+  const std::wstring typed = Now();
+  Window().Properties().Commit();
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Now(), before);
+  EXPECT_TRUE(Page().IsActionRedoEnabled());
+  Press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Now(), typed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Fields, FieldUndo, ::testing::Values("x", "font/size", "text/textStr"));
+
+TEST_F(Panel, ATypedFontFaceCountsWhenACommandOrTheEndOfTheWindowComes) {
+  Select({title_});
+  auto& face = Field<QFontComboBox>("font/name");
+  face.setFocus();
+  face.lineEdit()->selectAll();
+  QTest::keyClicks(&face, QStringLiteral("Verdana"));
+  EXPECT_EQ(TextOf(title_, "font/name"), L"Arial");
+  Run("Grid");
+  EXPECT_EQ(TextOf(title_, "font/name"), L"Verdana");
+  face.setFocus();
+  QTest::keyClicks(&face, QStringLiteral("x"));
+  CloseWindow();
 }
 
 TEST_F(Panel, SeveralCardsShowWhatTheyShareAndChangeTogether) {
