@@ -10,9 +10,9 @@ RectD PageRect(const tagDraw& draw) {
                     trunci(draw.offsetY + draw.pageHeightPx)});
 }
 
-void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, bool surround) {
-  const Color behind = page.properties.backcolor;
-  if (surround && behind != kNoColor) graphics.FillRect(RectD(draw.clip), behind);
+void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
+  const Color behind = how.surroundColor.value_or(page.properties.backcolor);
+  if (how.surround && behind != kNoColor) graphics.FillRect(RectD(draw.clip), behind);
   const RectD paper = PageRect(draw);
   const bool rounded = draw.roundedPxX > 0.0 && draw.roundedPxY > 0.0;
   if (rounded) {
@@ -92,7 +92,7 @@ void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw) 
 }
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
-  DrawBackground(graphics, page, draw, how.surround);
+  DrawBackground(graphics, page, draw, how);
   if (how.grid) DrawGrid(*how.grid, page.properties, draw);
   PaintCards(graphics, page.cards, draw);
 }

@@ -2,6 +2,8 @@
 // PNG, SVG, PDF and print all come through here.
 #pragma once
 
+#include <optional>
+
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
 #include "platform/Graphics.h"
@@ -10,7 +12,8 @@
 namespace xrpt {
 
 struct PagePaint {
-  bool surround = true;         // fill what lies round the page with the page's back colour
+  bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
+  std::optional<Color> surroundColor;
   PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
 };
 

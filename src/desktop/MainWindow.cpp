@@ -40,7 +40,7 @@ MainWindow::MainWindow() {
   setObjectName(QStringLiteral("editor"));
   ThemedScreen::Install(CurrentHost());
   BuildCentre();
-  frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this));
+  frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this), EditingOptions::Comfort());
   fields_ = std::make_unique<SelectedFields>(*frame_);
   actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
   actions_->beforeRun = [this] { properties_->Commit(); };

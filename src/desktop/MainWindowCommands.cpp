@@ -71,15 +71,11 @@ void MainWindow::ToggleDarkTheme() {
   ApplySurround();
 }
 
-// What lies round a page follows the theme, unless the user gave the page a colour of its own.
+// What lies round a page follows the theme.
 void MainWindow::ApplySurround() {
   if (!frame_) return;
   const Color surround = CurrentHost().screen->ButtonFace();
-  const auto known = {ThemeSurround(true), ThemeSurround(false)};
-  for (std::size_t page = 0; page < frame_->PageCount(); ++page) {
-    Color& color = frame_->Page(page).Page().properties.backcolor;
-    if (std::find(known.begin(), known.end(), color) != known.end()) color = surround;
-  }
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSurround(surround);
   pages_->View().RepaintPage();
 }
 

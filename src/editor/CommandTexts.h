@@ -92,5 +92,8 @@ inline constexpr int kExportPdf = 61484;
 inline constexpr int kExportImages = 61485;
 inline constexpr int kPrint = 61486;
 inline constexpr int kAnimation = 61487;
+inline constexpr int kDuplicatePage = 61488;
+inline constexpr int kMovePageUp = 61489;
+inline constexpr int kMovePageDown = 61490;
 
 }  // namespace xrpt::text

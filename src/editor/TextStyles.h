@@ -16,7 +16,7 @@ inline constexpr std::wstring_view kStyleEnding = L".XSTY";
 // One style as the edit dialog holds it.
 struct tagStyleCfg {
   using FieldRoot = tagStyleCfg;
-  static const FieldTable& Table();
+  static const FieldTable<tagStyleCfg>& Table();
   bool operator==(const tagStyleCfg& other) const;
 
   std::wstring name;  // empty: a new style

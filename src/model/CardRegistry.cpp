@@ -32,11 +32,12 @@ const std::vector<XmlName>& Tags() {
   return tags;
 }
 
-std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place) {
+std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place, ModelServices& services) {
   const XmlName name(tag);
   const std::vector<XmlName>& tags = Tags();
   for (std::size_t i = 0; i < tags.size(); ++i) {
-    if (kRows[i].*place && name.head == tags[i].head && name.text == tags[i].text) return kRows[i].kind().create();
+    const bool found = kRows[i].*place && name.head == tags[i].head && name.text == tags[i].text;
+    if (found) return kRows[i].kind().Create(services);
   }
   return nullptr;
 }
@@ -45,8 +46,12 @@ std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*
 
 std::span<const RegistryRow> CardRegistry() { return kRows; }
 
-std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag) { return NewCard(tag, &RegistryRow::onPage); }
+std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag, ModelServices& services) {
+  return NewCard(tag, &RegistryRow::onPage, services);
+}
 
-std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag) { return NewCard(tag, &RegistryRow::inConditioned); }
+std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag, ModelServices& services) {
+  return NewCard(tag, &RegistryRow::inConditioned, services);
+}
 
 }  // namespace xrpt

@@ -1,14 +1,13 @@
 #include "model/RVCardImage.h"
 
-#include "platform/Host.h"
-
 namespace xrpt {
 
-std::span<const FieldRow> RVCardImage::Rows() {
+std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.
-      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image")),
+      RowsOf(ComparedBy<Image, &Image::EqualImage, &Image::SameImage>(
+          Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image"))),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
       ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
@@ -21,19 +20,17 @@ const CardClass& RVCardImage::Class() {
   return kind;
 }
 
-RVCardImage::RVCardImage() {
+RVCardImage::RVCardImage(ModelServices& services) : RVCardControl(services) {
   color = 0xC06060;
   backcolor = kNewBackColor;
 }
 
-bool RVCardImage::isEqual(const RVCardControl& other) const {
-  if (!RVCardControl::isEqual(other)) return false;
-  const auto& image = static_cast<const RVCardImage&>(other);
-  return ImageId() == image.ImageId() && ImagePath() == image.ImagePath();
+bool RVCardImage::EqualImage(const RVCardImage& other) const {
+  return ImageId() == other.ImageId() && ImagePath() == other.ImagePath();
 }
 
 bool RVCardImage::LoadOriginalImage(const std::wstring& id, const std::wstring& path) {
-  image_ = CurrentHost().pictureStore.Attach(id, path);
+  image_ = Services().pictureStore.Attach(id, path);
   return true;
 }
 
@@ -47,7 +44,7 @@ bool RVCardImage::ReLoadOriginalImage() {
   return image_ != nullptr;
 }
 
-void RVCardImage::ReLoadAllOriginalImages() { CurrentHost().pictureStore.ReloadAll(); }
+void RVCardImage::ReLoadAllOriginalImages() { InstalledServices().pictureStore.ReloadAll(); }
 
 void RVCardImage::ReadImage(const XmlNode& image) {
   if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));
@@ -55,7 +52,9 @@ void RVCardImage::ReadImage(const XmlNode& image) {
 
 void RVCardImage::WriteImage(XmlWriter& out) const {
   if (!image_) return;
-  if (image_->Id().empty()) return LogMessage(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  if (image_->Id().empty()) {
+    return Services().logger->Log(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  }
   const XmlElement element(out, "image");
   out.Value("imageId", image_->Id());
   out.Value("imagePath", image_->ImagePath());

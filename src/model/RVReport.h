@@ -23,7 +23,7 @@ struct LoadResult {
 class RVReport {
  public:
   // A new, empty report: one page, no name.
-  RVReport();
+  explicit RVReport(Host& host = CurrentHost());
 
   // Opens by name (the configuration folder's file of that name, whatever its identifier) or, when no file has it, by
   // path. A stored name that differs from the one asked for gives way to it, and the report gets a new identity. Asking
@@ -54,10 +54,11 @@ class RVReport {
   XmlDocument formules{"formules"};
   XmlDocument virtualDevices{"virtualDevices"};
   XmlDocument goBackVariables{"goBackVariables"};
-  std::vector<std::unique_ptr<RVReportPage>> pages;  // never empty
+  std::vector<std::shared_ptr<RVReportPage>> pages;  // never empty
   bool modified = false;
 
  private:
+  Path ConfigFolder() const { return host_->setup->CfgPath(); }
   void ReadTemplate(const XmlNode& root, const std::wstring* askedName);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
   void ReadFontScale(const XmlNode& root);
@@ -65,6 +66,8 @@ class RVReport {
   void ReadPages(const XmlNode& root);
   bool EnsureName();
   void WriteDocuments(XmlWriter& out) const;
+
+  Host* host_;
 };
 
 }  // namespace xrpt

@@ -192,24 +192,36 @@ class VariableNaming {
   virtual std::wstring JoinDriverVariable(const DriverVariable& parts) const = 0;
 };
 
-struct Host {
+// What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
+// that a page needs no installed host.
+struct ModelServices {
   std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
-  std::unique_ptr<SetupService> setup;
-  std::unique_ptr<FileService> files;
   std::unique_ptr<TextService> texts;
-  std::unique_ptr<SettingsService> settings;
-  std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<StyleTable> styles;
   std::unique_ptr<GuidService> guids;
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
-  std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<LocaleService> locale;
   std::unique_ptr<ScreenService> screen;
-  std::unique_ptr<DeviceCatalogue> devices;
   std::unique_ptr<VariableNaming> variables;
   PictureStore pictureStore;
 
+  // Without a way to read pictures the store has none.
+  explicit ModelServices(PictureStore::Reader readPicture = {});
+  ~ModelServices();
+  ModelServices(const ModelServices&) = delete;
+  ModelServices& operator=(const ModelServices&) = delete;
+};
+
+struct Host : ModelServices {
+  std::unique_ptr<SetupService> setup;
+  std::unique_ptr<FileService> files;
+  std::unique_ptr<SettingsService> settings;
+  std::unique_ptr<IdentifierCache> identifiers;
+  std::unique_ptr<ClipboardService> clipboard;
+  std::unique_ptr<DeviceCatalogue> devices;
+
+  // Its store has the pictures of the images folder.
   Host();
   ~Host();
   Host(const Host&) = delete;
@@ -221,6 +233,9 @@ struct Host {
 Host& CurrentHost();
 // Returns the host installed before, so that a fixture can put it back.
 Host* InstallHost(Host* host);
+
+// Those of the installed host: what a page or a card is made with when its maker has no others to hand it.
+ModelServices& InstalledServices();
 
 // Short forms for what is asked often.
 std::wstring HostText(int id);

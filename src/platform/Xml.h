@@ -13,6 +13,7 @@
 
 namespace xrpt {
 
+class FileService;
 class XmlWriter;
 
 // Why a text is no document. `offset` counts bytes from its start; `message` is for people.
@@ -160,7 +161,9 @@ class XmlDocument {
   const std::filesystem::path& FileName() const { return path_; }
   // Empties the document and gives it a root.
   XmlNode Create(std::string_view rootTag);
-  // Reads a file through the host's file service and remembers its name. False leaves the document without a root.
+  // Reads a file and remembers its name; through the installed host's files when told no others. False leaves the
+  // document without a root.
+  bool Load(FileService& files, const std::filesystem::path& path, XmlError* error = nullptr);
   bool Load(const std::filesystem::path& path, XmlError* error = nullptr);
   // Parses a whole document. False leaves the document without a root.
   bool Parse(std::string text, XmlError* error = nullptr);

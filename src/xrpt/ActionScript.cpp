@@ -22,6 +22,7 @@ bool IsNumber(std::string_view word) { return ScriptNumber(word).has_value(); }
 bool IsZoom(std::string_view word) {
   return word == "fit" || word == "width" || ScriptNumber(word).value_or(0.0) > 0.0;
 }
+bool IsAnswer(std::string_view word) { return word == "yes" || word == "no"; }
 bool IsAny(std::string_view) { return true; }
 bool IsTool(std::string_view word) { return ToolOf(word).has_value(); }
 bool IsKey(std::string_view word) { return KeyOf(word).has_value(); }
@@ -52,6 +53,7 @@ const std::vector<Shape>& Shapes() {
       {"command", {IsCommand}, IsAny},
       {"tick", {IsCount}, nullptr},
       {"set", {IsAny, IsAny, IsAny}, IsAny},
+      {"answer", {IsAnswer}, nullptr},
       {"print", {}, nullptr},
   };
   return shapes;

@@ -88,11 +88,11 @@ TEST_F(CommandWindow, DarkThemeLeavesThePageWhiteAndTheReportUnchanged) {
   Run("DarkTheme");
   EXPECT_TRUE(IsDarkTheme());
   EXPECT_FALSE(Frame().IsModified());
-  EXPECT_EQ(Page().Page().properties.backcolor, ThemeSurround(true));
+  EXPECT_EQ(Page().Surround(), ThemeSurround(true));
   const QImage shown = View().viewport()->grab().toImage();
   EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::white));
   Run("DarkTheme");
-  EXPECT_EQ(Page().Page().properties.backcolor, ThemeSurround(false));
+  EXPECT_EQ(Page().Surround(), ThemeSurround(false));
 }
 
 TEST_F(CommandWindow, NarrowRibbonFoldsGroupsFromTheRight) {

@@ -69,8 +69,8 @@ class WindowTest : public HostTest {
   std::wstring CardWith(std::string_view field, std::wstring_view text) {
     const CardList& cards = Page().Page().cards;
     for (std::size_t i = 0; i < cards.Size(); ++i) {
-      const FieldRow* row = FindField(cards[i].GetRuntimeClass().table, field);
-      if (row && row->text(&cards[i]) == text) return cards[i].id;
+      const CardRow* row = FindField(cards[i].GetRuntimeClass().table, field);
+      if (row && row->text(cards[i]) == text) return cards[i].id;
     }
     return {};
   }

@@ -16,7 +16,7 @@ namespace xrpt {
 // Every kind there is: those of the registry and the button, which has no element of its own.
 inline std::vector<std::unique_ptr<RVCardControl>> OneOfEachKind() {
   std::vector<std::unique_ptr<RVCardControl>> cards;
-  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().create());
+  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().Create());
   cards.push_back(std::make_unique<RVCardButton>());
   return cards;
 }
@@ -37,7 +37,7 @@ inline std::unique_ptr<RVCardControl> ReadBack(const RVCardControl& card) {
   XmlError error;
   EXPECT_TRUE(document.Parse(XmlOf(card), &error)) << error.message;
   const CardClass& kind = card.GetRuntimeClass();
-  std::unique_ptr<RVCardControl> read = kind.create();
+  std::unique_ptr<RVCardControl> read = kind.Create();
   read->GetFromXml(kind.tag ? document.Node(kind.tag) : document.Root());
   return read;
 }

@@ -115,7 +115,12 @@ void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
   captured_ = false;
   const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
   if (command == 0 || !Window()) return;
-  Window()->OnCommand(command);
+  // What the catalogue knows runs as from the ribbon; undo there means the whole report.
+  if (QAction* action = ActionOfCommand(command, *actions_)) {
+    action->trigger();
+  } else {
+    Window()->OnCommand(command);
+  }
   if (menuUsed) menuUsed();
 }
 

@@ -1,0 +1,26 @@
+#include "platform/ImageFiles.h"
+
+#include "platform/Base64.h"
+#include "platform/Text.h"
+
+namespace xrpt {
+namespace {
+
+constexpr std::size_t kMaxImageFile = 128u << 20;
+
+Path ImageFile(const Path& folder, const std::wstring& id, const std::wstring& path) {
+  return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + L".img"));
+}
+
+}  // namespace
+
+PicturePtr ReadImageFile(const Host& host, const std::wstring& id, const std::wstring& path) {
+  if (!IsSafeFileName(id) || !IsSafeSubPath(path)) return nullptr;
+  const Path where = ImageFile(host.setup->ImagesPath(), id, path);
+  const std::optional<std::string> file = host.files->Read(where, kMaxImageFile);
+  if (!file) return nullptr;
+  const std::optional<std::string> bytes = DecodeBase64(Xml2Text(*file));
+  return bytes ? host.pictures->Decode(*bytes) : nullptr;
+}
+
+}  // namespace xrpt
