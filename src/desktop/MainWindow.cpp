@@ -20,6 +20,7 @@
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
@@ -61,7 +62,9 @@ MainWindow::MainWindow() {
   pages_->View().setFocus();
 }
 
+// A field that the keyboard leaves now still tells what was typed.
 MainWindow::~MainWindow() {
+  if (QWidget* field = focusWidget()) field->clearFocus();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
   frame_.reset();
@@ -111,7 +114,10 @@ void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
 
 bool MainWindow::IsPropertiesShown() const { return propertiesDock_ && propertiesDock_->isVisible(); }
 
-void MainWindow::ToggleProperties() { propertiesDock_->setVisible(!IsPropertiesShown()); }
+void MainWindow::ToggleProperties() {
+  sideDocks_->Forget(*propertiesDock_);
+  propertiesDock_->setVisible(!IsPropertiesShown());
+}
 
 void MainWindow::PageWindowGone(WindowPort& port) {
   auto& page = static_cast<PagePort&>(port);
@@ -228,6 +234,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && ribbon_) ApplySurround();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  sideDocks_->Fit();
 }
 
 }  // namespace xrpt

@@ -23,6 +23,7 @@ class ProblemsList;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
+class SideDocks;
 class StatusBar;
 
 class MainWindow final : public QMainWindow, private EditorPort {
@@ -47,6 +48,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // EditorPort
@@ -114,6 +116,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   StatusBar* status_ = nullptr;
   std::vector<QDockWidget*> docks_;
   QDockWidget* propertiesDock_ = nullptr;
+  std::unique_ptr<SideDocks> sideDocks_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
   bool writeFailed_ = false;

@@ -14,12 +14,14 @@
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
 #include "desktop/ribbon/FontGroup.h"
 #include "desktop/ribbon/Ribbon.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -27,6 +29,7 @@ namespace xrpt {
 namespace {
 constexpr wchar_t kSection[] = L"Desktop";
 constexpr int kLayoutVersion = 1;
+constexpr int kNarrowestPanel = 40;
 }  // namespace
 
 void MainWindow::BuildCentre() {
@@ -45,9 +48,9 @@ void MainWindow::BuildRibbon() {
   ribbon_ = new Ribbon(*actions_, this);
   font_ = new FontGroup(*fields_, this);
   font_->edited = [this] { RefreshSoon(); };
-  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_);
+  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_, ThemedIcon(QStringLiteral("bold")));
   corner_ = new CornerBar(*frame_, *actions_, this);
-  ribbon_->AddCorner(corner_);
+  ribbon_->SetCorner(corner_);
   setMenuWidget(ribbon_);
 }
 
@@ -56,6 +59,7 @@ QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* conten
   dock->setObjectName(QLatin1String(name));
   dock->setWidget(content);
   GiveTitle(*dock);
+  content->setMinimumWidth(kNarrowestPanel);
   addDockWidget(area, dock);
   docks_.push_back(dock);
   return dock;
@@ -82,6 +86,7 @@ void MainWindow::BuildDocks() {
   QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
   propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
   QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, propertiesDock_});
   resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
@@ -138,6 +143,7 @@ void MainWindow::WatchLog() {
 }
 
 void MainWindow::StoreLayout() {
+  sideDocks_->BringBack();
   SettingsService& settings = *CurrentHost().settings;
   const auto store = [&settings](const wchar_t* name, const QByteArray& bytes) {
     settings.SetProfileText(kSection, name, QString::fromLatin1(bytes.toBase64()).toStdWString());

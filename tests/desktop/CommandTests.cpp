@@ -14,6 +14,7 @@
 #include "desktop/ribbon/Ribbon.h"
 #include "desktop/ribbon/RibbonButton.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/CommandCatalogue.h"
 #include "host/TextCatalogue.h"
 #include "model/CardRegistry.h"

@@ -165,10 +165,12 @@ class FaceEditor final : public EditorOf<QFontComboBox> {
     control_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     control_->setMinimumContentsLength(8);
     QObject::connect(control_, &QComboBox::textActivated, control_, [this](const QString& face) { Tell(face); });
-    QObject::connect(control_->lineEdit(), &QLineEdit::editingFinished, control_, [this] {
-      if (control_->lineEdit()->isModified() && !control_->currentText().isEmpty()) Tell(control_->currentText());
-      control_->lineEdit()->setModified(false);
-    });
+    QObject::connect(control_->lineEdit(), &QLineEdit::editingFinished, control_, [this] { Finish(); });
+  }
+  void Finish() override {
+    const bool isTyped = control_->lineEdit()->isModified();
+    control_->lineEdit()->setModified(false);
+    if (isTyped && !control_->currentText().isEmpty()) Tell(control_->currentText());
   }
   void Show(const std::optional<std::wstring>& text) override {
     const QSignalBlocker quiet(control_);
