@@ -79,10 +79,10 @@ bool RVEditControlWnd::LetGoOfChanges() {
 }
 
 bool RVEditControlWnd::Save() {
-  const bool saved = report_.Save();
-  if (saved) ReportListChanged();
+  lastSave_ = report_.Save();
+  if (lastSave_) ReportListChanged();
   port_.StateChanged();
-  return saved;
+  return static_cast<bool>(lastSave_);
 }
 
 bool RVEditControlWnd::SaveAs(const std::wstring& name) {

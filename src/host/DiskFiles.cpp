@@ -51,17 +51,15 @@ std::optional<std::string> DiskFiles::Read(const Path& file, std::size_t limit, 
   return std::nullopt;
 }
 
-bool DiskFiles::Write(const Path& file, std::string_view bytes) {
+SaveResult DiskFiles::Write(const Path& file, std::string_view bytes, const FileVersion* expected) {
+  if (expected && HasChanged(*this, file, *expected)) return {SaveOutcome::Changed, file, {}, {}};
   const std::error_code fault = WriteAtomically(file, bytes);
-  if (fault) {
-    KeepForRecovery(file, bytes, fault.message());
-    return false;
-  }
+  if (fault) return KeepForRecovery(file, bytes, fault.message());
   DropRecovery(file);
-  return true;
+  return {SaveOutcome::Saved, file, {}, {}};
 }
 
-void DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason) {
+SaveResult DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason) {
   std::string message = "DiskFiles::Write(): could not save " + file.string() + ": " + reason;
   const Path recovery = WriteRecovery(file, bytes);
   if (!recovery.empty()) {
@@ -70,6 +68,7 @@ void DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const 
     recoveries_[file] = recovery;
   }
   host_.logger->Log(4, FromUtf8(message));
+  return {SaveOutcome::Failed, file, reason, recovery};
 }
 
 Path DiskFiles::WriteRecovery(const Path& file, std::string_view bytes) {

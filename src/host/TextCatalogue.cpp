@@ -15,6 +15,7 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/desktop.inc"
 #include "host/texts/en/cli.inc"
 #include "host/texts/en/commands.inc"
+#include "host/texts/en/files.inc"
 };
 
 constexpr TextRow kSpanish[] = {
@@ -24,6 +25,7 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/desktop.inc"
 #include "host/texts/es/cli.inc"
 #include "host/texts/es/commands.inc"
+#include "host/texts/es/files.inc"
 };
 // clang-format on
 

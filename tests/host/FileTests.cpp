@@ -182,6 +182,23 @@ TEST_F(Files, RenameAndRemoveNeverTakeAnotherFileOrAFolder) {
   EXPECT_THAT(NamesIn(host.Cfg()), ElementsAre("c"));
 }
 
+TEST_F(Files, WriteOverAnExpectedVersionLeavesAnotherOneAlone) {
+  const Path file = host.WriteCfg("a", "one");
+  const FileVersion none;
+  const FileVersion read(host->files->Stamp(file), "one");
+  EXPECT_EQ(host->files->Write(file, "mine", &none).outcome, SaveOutcome::Changed) << "there is a file by now";
+  const auto written = std::filesystem::last_write_time(file);
+  host.WriteCfg("a", "two");
+  std::filesystem::last_write_time(file, written);
+  EXPECT_EQ(host->files->Write(file, "mine", &read).outcome, SaveOutcome::Changed) << "same size, same time";
+  EXPECT_EQ(TestHost::ReadFile(file), "two");
+  host.WriteCfg("a", "one");
+  EXPECT_TRUE(host->files->Write(file, "mine", &read)) << "written anew, with the same content";
+  std::filesystem::remove(file);
+  EXPECT_EQ(host->files->Write(file, "mine", &read).outcome, SaveOutcome::Changed) << "gone";
+  EXPECT_TRUE(host->files->Write(file, "mine", &none));
+}
+
 TEST_F(Files, StampTellsAWriteFromNone) {
   const Path file = host.WriteCfg("a", "one");
   const FileStamp before = host->files->Stamp(file);
