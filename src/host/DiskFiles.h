@@ -20,6 +20,7 @@ class DiskFiles final : public FileService {
   bool Rename(const Path& from, const Path& to) override;
   bool Remove(const Path& file) override;
   FileStamp Stamp(const Path& file) override;
+  std::vector<Path> ClearLeftovers(const Path& folder) override;
 
  private:
   SaveResult KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason);

@@ -76,6 +76,9 @@ class FileService {
   virtual bool Rename(const Path& from, const Path& to) = 0;
   virtual bool Remove(const Path& file) = 0;
   virtual FileStamp Stamp(const Path& file) = 0;
+  // Clears away what interrupted saves left in a folder, and what was kept of failed ones when it is of age. Gives what
+  // was removed.
+  virtual std::vector<Path> ClearLeftovers(const Path&) { return {}; }
 };
 
 // Whether the file holds something else than when it was read, or came or went since. A file that was written anew with

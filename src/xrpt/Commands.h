@@ -12,5 +12,6 @@ void AddResave(CLI::App& program, int& status);
 void AddInfo(CLI::App& program, int& status);
 void AddEdit(CLI::App& program, int& status);
 void AddRender(CLI::App& program, int& status);
+void AddClean(CLI::App& program, int& status);
 
 }  // namespace xrpt
