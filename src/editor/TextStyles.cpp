@@ -67,7 +67,7 @@ void MoveFile(const Path& from, const Path& to) {
 bool SaveDocument(XmlDocument& document, const std::wstring& id, const std::wstring& name) {
   CurrentHost().files->CreateFolder(Folder());
   document.SetFileName(NamedFilePath(Folder(), id, name, kStyleEnding));
-  return document.Save();
+  return static_cast<bool>(document.Save());
 }
 
 std::vector<std::wstring> Names() {

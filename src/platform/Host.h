@@ -4,9 +4,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <ctime>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,13 +13,12 @@
 
 #include "platform/Color.h"
 #include "platform/Expressions.h"
+#include "platform/Files.h"
 #include "platform/Fonts.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
 
 namespace xrpt {
-
-using Path = std::filesystem::path;
 
 // Where things lie. Folders need not exist.
 class SetupService {
@@ -30,34 +27,6 @@ class SetupService {
   virtual Path CfgPath() const = 0;     // reports, styles, virtual-device files
   virtual Path ImagesPath() const = 0;  // the picture store
   virtual std::wstring RegisterKey() const = 0;
-};
-
-struct FileError {
-  std::string reason;  // the system's own word, for people
-};
-
-// When and how large a file was when it was looked at; two equal stamps mean nobody wrote in between.
-struct FileStamp {
-  std::int64_t modified = 0;  // nanoseconds, the file system's clock
-  std::uintmax_t size = 0;
-  bool exists = false;
-  bool operator==(const FileStamp&) const = default;
-};
-
-class FileService {
- public:
-  virtual ~FileService() = default;
-  // The whole file. Nothing, and a reason, for a missing file, a folder, one without permission, one above the limit.
-  virtual std::optional<std::string> Read(const Path& file, std::size_t limit, FileError* error = nullptr) = 0;
-  // All or nothing: the old file stays until the new one is safe on disk. A failure is logged at severity 4 with the
-  // path and the system's reason, and the bytes are kept as a recovery file.
-  virtual bool Write(const Path& file, std::string_view bytes) = 0;
-  // Files of a folder whose name ends with the ending (".xrpt"), by name. A missing folder has none.
-  virtual std::vector<Path> List(const Path& folder, std::wstring_view ending) = 0;
-  virtual bool CreateFolder(const Path& folder) = 0;
-  virtual bool Rename(const Path& from, const Path& to) = 0;
-  virtual bool Remove(const Path& file) = 0;
-  virtual FileStamp Stamp(const Path& file) = 0;
 };
 
 // Texts of the user interface by number, in the user's language.

@@ -56,5 +56,12 @@ refuse "$work" resave "$work" -o "$work/out.xrpt"
 refuse missing.xrpt resave "$work/missing.xrpt" -o "$work/out.xrpt"
 refuse 'required' resave "$folder/plain.xrpt"
 refuse 'dpi' resave "$folder/plain.xrpt" -o "$work/out.xrpt" --dpi 0
+printf '' >"$work/file"
+printf 'command Save\n' >"$work/actions"
+refuse 'actions:1: .*Not a directory' edit "$folder/plain.xrpt" --config "$work/file" -o "$work/out.xrpt" --actions "$work/actions"
+if "$xrpt" resave "$folder/plain.xrpt" -o - >/dev/full 2>"$work/stderr"; then
+  echo "a full disk behind standard output went unnoticed"
+  failed=1
+fi
 refuse nowhere resave "$folder/plain.xrpt" -o "$work/nowhere/out.xrpt"
 exit $failed
