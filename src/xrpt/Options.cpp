@@ -32,12 +32,10 @@ bool IsSaved(const std::string& file, const SaveResult& result) {
   return static_cast<bool>(result);
 }
 
-bool PrintReport(const RVReport& report) {
-  XmlError fault;
-  const std::string text = report.TemplateText(&fault);
-  if (fault.message.empty() && !(std::cout << text << std::flush)) fault.message = std::strerror(errno);
-  if (!fault.message.empty()) PrintError("standard output", fault.message);
-  return fault.message.empty();
+bool PrintText(const std::string& text) {
+  if (std::cout << text << std::flush) return true;
+  PrintError("standard output", std::strerror(errno));
+  return false;
 }
 
 }  // namespace
@@ -103,8 +101,14 @@ bool WriteOutput(const std::string& file, const std::string& bytes) {
   return IsSaved(file, CurrentHost().files->Write(file, bytes));
 }
 
-bool SaveReport(RVReport& report, const std::string& file) {
-  return file == "-" ? PrintReport(report) : IsSaved(file, report.SaveTo(file));
+bool SaveReport(const RVReport& report, const std::string& file) {
+  XmlError fault;
+  const std::string text = report.TemplateText(&fault);
+  if (!fault.message.empty()) {
+    PrintError(file == "-" ? "standard output" : file, fault.message);
+    return false;
+  }
+  return file == "-" ? PrintText(text) : WriteOutput(file, text);
 }
 
 }  // namespace xrpt
