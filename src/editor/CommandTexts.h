@@ -95,5 +95,8 @@ inline constexpr int kAnimation = 61487;
 inline constexpr int kDuplicatePage = 61488;
 inline constexpr int kMovePageUp = 61489;
 inline constexpr int kMovePageDown = 61490;
+inline constexpr int kSearch = 61495;
+inline constexpr int kReplaceText = 61496;
+inline constexpr int kFindGroup = 61497;
 
 }  // namespace xrpt::text
