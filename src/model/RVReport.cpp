@@ -124,12 +124,16 @@ SaveResult RVReport::Save() {
 Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
 
 SaveResult RVReport::SaveTo(const Path& file) {
+  SaveResult result = WriteTo(file);
+  modified = !result;
+  return result;
+}
+
+SaveResult RVReport::WriteTo(const Path& file) const {
   std::string text;
   XmlWriter out(text);
   WriteTemplate(out);
-  SaveResult result = SaveText(file, out);
-  modified = !result;
-  return result;
+  return SaveText(file, out);
 }
 
 std::string RVReport::TemplateText(XmlError* fault) const {

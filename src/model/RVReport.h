@@ -36,6 +36,8 @@ class RVReport {
   // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
   SaveResult Save();
   SaveResult SaveTo(const Path& file);
+  // A copy for others: the report stays as modified as it was.
+  SaveResult WriteTo(const Path& file) const;
   // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
   std::string TemplateText(XmlError* fault = nullptr) const;
 
