@@ -74,9 +74,9 @@ void MainWindow::BuildDocks() {
     properties_->Commit();
     frame_->ShowPage(page);
   };
-  outline_->cardChosen = [this](const std::wstring& id) {
+  outline_->cardsChosen = [this](const std::vector<std::size_t>& cards) {
     properties_->Commit();
-    frame_->CurrentPage().SelectControlById(id);
+    frame_->CurrentPage().SelectPlaces(cards);
     RefreshSoon();
   };
   properties_ = new PropertyPanel(*fields_, this);
@@ -103,7 +103,7 @@ void MainWindow::BuildStatusBar() {
     pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
   };
   pages_->pointerMoved = [this](std::optional<PointD> position) { status_->SetPointer(position); };
-  pages_->View().menuUsed = [this] { RefreshSoon(); };
+  pages_->View().changed = [this] { RefreshSoon(); };
   pages_->View().resized = [this] { RefitZoom(); };
 }
 
