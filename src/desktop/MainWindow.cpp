@@ -34,6 +34,7 @@ namespace xrpt {
 
 namespace {
 constexpr wchar_t kLastReport[] = L"LastInforme";
+constexpr char kPropertiesPanel[] = "PropertiesPanel";
 }  // namespace
 
 MainWindow::MainWindow() {
@@ -108,15 +109,8 @@ void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
   window.SetPictureMaker(AddPictures);
-  window.SetToolbarEntry(
-      {text::kProperties, [this] { return IsPropertiesShown(); }, [this](int) { ToggleProperties(); }});
-}
-
-bool MainWindow::IsPropertiesShown() const { return propertiesDock_ && propertiesDock_->isVisible(); }
-
-void MainWindow::ToggleProperties() {
-  sideDocks_->Forget(*propertiesDock_);
-  propertiesDock_->setVisible(!IsPropertiesShown());
+  window.SetToolbarEntry({text::kProperties, [this] { return docks_.at(kPropertiesPanel)->isVisible(); },
+                          [this](int) { TogglePanel(*docks_.at(kPropertiesPanel)); }});
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {

@@ -54,14 +54,16 @@ void MainWindow::BuildRibbon() {
   setMenuWidget(ribbon_);
 }
 
-QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area) {
+QDockWidget* MainWindow::AddPanel(const char* command, int titleId, const char* name, QWidget* content,
+                                  Qt::DockWidgetArea area) {
   auto* dock = new QDockWidget(Translated(titleId), this);
   dock->setObjectName(QLatin1String(name));
   dock->setWidget(content);
   GiveTitle(*dock);
   content->setMinimumWidth(kNarrowestPanel);
   addDockWidget(area, dock);
-  docks_.push_back(dock);
+  docks_.emplace(command, dock);
+  connect(dock, &QDockWidget::visibilityChanged, this, [this] { RefreshSoon(); });
   return dock;
 }
 
@@ -83,11 +85,12 @@ void MainWindow::BuildDocks() {
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsList(this);
   problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
-  QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
-  propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
-  QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
-  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, propertiesDock_});
-  resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
+  QDockWidget* left = AddPanel("OutlinePanel", text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
+  QDockWidget* right =
+      AddPanel("PropertiesPanel", text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
+  QDockWidget* below = AddPanel("ProblemsPanel", text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
+  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
   problems_->countChanged = [below](int count) {
