@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/TextIds.h"
@@ -35,6 +36,12 @@ namespace xrpt {
 namespace {
 constexpr wchar_t kLastReport[] = L"LastInforme";
 constexpr char kPropertiesPanel[] = "PropertiesPanel";
+
+// The log names the function a message comes from, "Class::Function(): ", which says nothing to users.
+QString WithoutOrigin(QString message) {
+  static const QRegularExpression kOrigin(QStringLiteral("^[\\w:~]+\\(\\): "));
+  return message.remove(kOrigin);
+}
 }  // namespace
 
 MainWindow::MainWindow() {
@@ -197,10 +204,11 @@ void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
 void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
 
 // A failed write is logged by whoever wrote; what could not be written waits in a recovery file.
-void MainWindow::OnLogged(int severity, const QString& message) {
+void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kWarning = 3;
   constexpr int kError = 4;
   if (severity < kWarning) return;
+  const QString message = WithoutOrigin(logged);
   problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
   if (severity < kError) return;
   writeFailed_ = true;

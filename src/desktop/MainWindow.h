@@ -96,6 +96,8 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenShortcutSheet();
   void ExportPdf();
   void ExportImages();
+  void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
+                   void (MainWindow::*again)());
   void Print();
   void ShowSwitches();
   void TogglePanel(QDockWidget& dock);
