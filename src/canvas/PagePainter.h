@@ -1,4 +1,5 @@
-// The full pass over a page: what stands behind it, the page, its background picture, the grid and the cards. Screen,
+// The full pass over a page: what stands behind it, the page, its background picture, the grid and the cards, of which
+// nothing is seen beyond the page. Screen,
 // PNG, SVG, PDF and print all come through here.
 #pragma once
 

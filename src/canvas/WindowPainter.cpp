@@ -7,8 +7,12 @@ namespace xrpt {
 
 namespace {
 
+// A card's frame has its rectangle's right and bottom edge, and so has the page that it may reach to.
 RoundRegion RegionOf(const PagePlacement& place) {
-  return {place.PageRect(), roundi(place.roundedPxX), roundi(place.roundedPxY)};
+  Rect page = place.PageRect();
+  ++page.right;
+  ++page.bottom;
+  return {page, roundi(place.roundedPxX), roundi(place.roundedPxY)};
 }
 
 CardFrame FrameOf(const RVCardControl& card, const Rect& rect, const RVEditTemplateWnd& window) {

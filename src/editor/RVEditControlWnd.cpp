@@ -82,13 +82,13 @@ bool RVEditControlWnd::LetGoOfChanges() {
 
 bool RVEditControlWnd::Save() {
   EndEdits();
-  const bool saved = report_.Save();
-  if (saved) {
+  lastSave_ = report_.Save();
+  if (lastSave_) {
     MarkSaved();
     ReportListChanged();
   }
   port_.StateChanged();
-  return saved;
+  return static_cast<bool>(lastSave_);
 }
 
 bool RVEditControlWnd::SaveAs(const std::wstring& name) {

@@ -37,7 +37,10 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool OpenFromList();
   // Asks about unsaved changes, then starts an empty report. False when the user's save failed.
   bool NewReport();
+  // True when the report was written; what happened otherwise is the last save's to tell, and the report stays
+  // modified.
   bool Save();
+  const SaveResult& LastSave() const { return lastSave_; }
   // Under a name of the user's or the host's: a report of its own with a new identity.
   bool SaveAs(const std::wstring& name);
   // Under the next free reportN, keeping the identity.
@@ -159,6 +162,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   EditingOptions options_;
   MessageQueue queue_;
   RVReport report_;
+  SaveResult lastSave_;
   PageSlots pages_;  // one a page of the report, same order
   std::size_t current_ = 0;
   int tool_ = tool::kPointer;

@@ -6,6 +6,7 @@
 #include "model/FieldWalk.h"
 #include "platform/Host.h"
 #include "platform/NamedFiles.h"
+#include "platform/UniqueNames.h"
 
 namespace xrpt {
 namespace {
@@ -66,7 +67,7 @@ void MoveFile(const Path& from, const Path& to) {
 bool SaveDocument(XmlDocument& document, const std::wstring& id, const std::wstring& name) {
   CurrentHost().files->CreateFolder(Folder());
   document.SetFileName(NamedFilePath(Folder(), id, name, kStyleEnding));
-  return document.Save();
+  return static_cast<bool>(document.Save());
 }
 
 std::vector<std::wstring> Names() {
@@ -191,12 +192,9 @@ std::vector<std::wstring> PasteStyles(std::string clipboard) {
 }
 
 std::wstring UniqueStyleName(const std::wstring& name, const std::vector<std::wstring>& taken) {
-  const auto isTaken = [&taken](const std::wstring& candidate) {
-    return std::find(taken.begin(), taken.end(), candidate) != taken.end();
-  };
-  std::wstring candidate = name;
-  for (int n = 1; isTaken(candidate); ++n) candidate = name + L"_" + std::to_wstring(n);
-  return candidate;
+  UniqueNames names;
+  for (const std::wstring& other : taken) names.Add(other);
+  return names.Take(name);
 }
 
 }  // namespace xrpt

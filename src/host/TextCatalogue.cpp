@@ -15,6 +15,8 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/desktop.inc"
 #include "host/texts/en/cli.inc"
 #include "host/texts/en/commands.inc"
+#include "host/texts/en/formulas.inc"
+#include "host/texts/en/files.inc"
 #include "host/texts/en/dialogs.inc"
 };
 
@@ -25,6 +27,8 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/desktop.inc"
 #include "host/texts/es/cli.inc"
 #include "host/texts/es/commands.inc"
+#include "host/texts/es/formulas.inc"
+#include "host/texts/es/files.inc"
 #include "host/texts/es/dialogs.inc"
 };
 // clang-format on

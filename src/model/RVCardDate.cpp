@@ -3,7 +3,7 @@
 #include <ctime>
 
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
+#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -36,9 +36,10 @@ const CardClass& RVCardDate::Class() {
 RVCardDate::RVCardDate(ModelServices& services) : RVCardLabel(services), value(services.locale->DateTimeText(Now())) {}
 
 std::wstring RVCardDate::ShownText() const {
-  const LocaleService& locale = *Services().locale;
-  const auto moment = ReadMoment(value, locale);
-  return ParseDate(pattern, moment ? *moment : Now(), locale);
+  const ModelServices& services = Services();
+  RVDateTime moment{};
+  if (!services.dates->String2DateTime(value, moment)) moment = Now();
+  return ParseDate(pattern, moment, *services.locale);
 }
 
 }  // namespace xrpt

@@ -1,6 +1,13 @@
 #include "model/RVCardImage.h"
 
 namespace xrpt {
+namespace {
+
+// Of a new card, and of one whose file names no colour.
+constexpr Color kNewColor = 0xC06060;
+constexpr Color kNewBackColor = 0x00FFFF;
+
+}  // namespace
 
 std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
@@ -21,7 +28,7 @@ const CardClass& RVCardImage::Class() {
 }
 
 RVCardImage::RVCardImage(ModelServices& services) : RVCardControl(services) {
-  color = 0xC06060;
+  color = kNewColor;
   backcolor = kNewBackColor;
 }
 

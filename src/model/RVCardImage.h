@@ -9,10 +9,6 @@ namespace xrpt {
 
 class RVCardImage : public RVCardControl {
  public:
-  // What a new card has, and what a file that names no back colour leaves it: the ground of a card that has no picture
-  // yet, not one to see round a picture.
-  static constexpr Color kNewBackColor = 0x00FFFF;
-
   explicit RVCardImage(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();

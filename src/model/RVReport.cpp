@@ -111,37 +111,46 @@ bool RVReport::EnsureName() {
   return IsSafeFileName(name);
 }
 
-bool RVReport::Save() {
-  if (!EnsureName()) return false;
+SaveResult RVReport::Save() {
+  if (!EnsureName()) {
+    modified = true;
+    return {SaveOutcome::BadName, {}, {}, {}};
+  }
   host_->settings->SetRegistryText(L"LastInforme", name);
   host_->files->CreateFolder(ConfigFolder());
-  SaveTo(FilePath());
-  return true;
+  return SaveTo(FilePath());
 }
 
 Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
 
-void RVReport::SaveTo(const Path& file) {
-  host_->files->Write(file, TemplateText());
-  modified = false;
-}
-
-std::string RVReport::TemplateText() const {
+SaveResult RVReport::SaveTo(const Path& file) {
   std::string text;
   XmlWriter out(text);
-  out.Declaration();
-  {
-    const XmlElement root(out, "reportLayout");
-    out.Value("id", id);
-    out.Value("name", name);
-    out.Value("version", version);
-    out.Value("revision", host_->guids->NewGuidText());
-    out.Plain("dpiFont", std::to_string(dpiFont));
-    out.Bool("hasZoom", true);
-    for (const auto& page : pages) page->SaveTemplate(out);
-    WriteDocuments(out);
-  }
+  WriteTemplate(out);
+  SaveResult result = SaveText(file, out);
+  modified = !result;
+  return result;
+}
+
+std::string RVReport::TemplateText(XmlError* fault) const {
+  std::string text;
+  XmlWriter out(text);
+  WriteTemplate(out);
+  if (fault) *fault = out.Check();
   return text;
+}
+
+void RVReport::WriteTemplate(XmlWriter& out) const {
+  out.Declaration();
+  const XmlElement root(out, "reportLayout");
+  out.Value("id", id);
+  out.Value("name", name);
+  out.Value("version", version);
+  out.Value("revision", host_->guids->NewGuidText());
+  out.Plain("dpiFont", std::to_string(dpiFont));
+  out.Bool("hasZoom", true);
+  for (const auto& page : pages) page->SaveTemplate(out);
+  WriteDocuments(out);
 }
 
 // A file that carries devices or go-back variables always says that they are in use.

@@ -32,12 +32,12 @@ class RVReport {
   // Opens one file. Without an asked-for name the stored one stands.
   LoadResult LoadFile(const Path& file, const std::wstring* askedName = nullptr);
 
-  // Saves under the report's name, naming a nameless report report1, report2, ... first. False when no name could be
-  // made. A failed write is the file service's to log; the report counts as saved all the same.
-  bool Save();
-  void SaveTo(const Path& file);
-  // The whole template as text, with a fresh revision.
-  std::string TemplateText() const;
+  // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
+  // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
+  SaveResult Save();
+  SaveResult SaveTo(const Path& file);
+  // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
+  std::string TemplateText(XmlError* fault = nullptr) const;
 
   // Where Save writes.
   Path FilePath() const;
@@ -65,6 +65,7 @@ class RVReport {
   void ReadVirtualLists(const XmlNode& root);
   void ReadPages(const XmlNode& root);
   bool EnsureName();
+  void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;
 
   Host* host_;

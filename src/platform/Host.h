@@ -4,9 +4,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <ctime>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,13 +12,13 @@
 #include <vector>
 
 #include "platform/Color.h"
+#include "platform/Expressions.h"
+#include "platform/Files.h"
 #include "platform/Fonts.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
 
 namespace xrpt {
-
-using Path = std::filesystem::path;
 
 // Where things lie. Folders need not exist.
 class SetupService {
@@ -29,34 +27,6 @@ class SetupService {
   virtual Path CfgPath() const = 0;     // reports, styles, virtual-device files
   virtual Path ImagesPath() const = 0;  // the picture store
   virtual std::wstring RegisterKey() const = 0;
-};
-
-struct FileError {
-  std::string reason;  // the system's own word, for people
-};
-
-// When and how large a file was when it was looked at; two equal stamps mean nobody wrote in between.
-struct FileStamp {
-  std::int64_t modified = 0;  // nanoseconds, the file system's clock
-  std::uintmax_t size = 0;
-  bool exists = false;
-  bool operator==(const FileStamp&) const = default;
-};
-
-class FileService {
- public:
-  virtual ~FileService() = default;
-  // The whole file. Nothing, and a reason, for a missing file, a folder, one without permission, one above the limit.
-  virtual std::optional<std::string> Read(const Path& file, std::size_t limit, FileError* error = nullptr) = 0;
-  // All or nothing: the old file stays until the new one is safe on disk. A failure is logged at severity 4 with the
-  // path and the system's reason, and the bytes are kept as a recovery file.
-  virtual bool Write(const Path& file, std::string_view bytes) = 0;
-  // Files of a folder whose name ends with the ending (".xrpt"), by name. A missing folder has none.
-  virtual std::vector<Path> List(const Path& folder, std::wstring_view ending) = 0;
-  virtual bool CreateFolder(const Path& folder) = 0;
-  virtual bool Rename(const Path& from, const Path& to) = 0;
-  virtual bool Remove(const Path& file) = 0;
-  virtual FileStamp Stamp(const Path& file) = 0;
 };
 
 // Texts of the user interface by number, in the user's language.
@@ -153,6 +123,14 @@ class LocaleService {
   virtual std::wstring DateTimeText(const std::tm& local) const = 0;
 };
 
+using RVDateTime = std::tm;  // local time
+class DateService {
+ public:
+  virtual ~DateService() = default;
+  // A moment as people write it in the user's locale; false for a text without a date that can be.
+  virtual bool String2DateTime(std::wstring_view text, RVDateTime& moment) const = 0;
+};
+
 class ScreenService {
  public:
   virtual ~ScreenService() = default;
@@ -185,11 +163,46 @@ struct DriverVariable {
   std::wstring kind;
   std::wstring period;  // all that follows GOBACK
 };
+// The same with the parts of hosts that filter what they read; a name of the embedded naming leaves both filters empty.
+struct FilteredDriverVariable {
+  std::wstring device;
+  std::wstring variable;
+  std::wstring kind;
+  std::wstring filter;
+  std::wstring period;
+  std::wstring backFilter;
+};
 class VariableNaming {
  public:
   virtual ~VariableNaming() = default;
   virtual DriverVariable SplitDriverVariable(std::wstring_view name) const = 0;
   virtual std::wstring JoinDriverVariable(const DriverVariable& parts) const = 0;
+  virtual FilteredDriverVariable SplitFilterDriverVariable(std::wstring_view name) const = 0;
+  virtual FilteredDriverVariable SplitBackFilterDriverVariable(std::wstring_view name) const = 0;
+};
+
+// Looks driver variables up, one after another. It sees the plant as it was when it was made.
+class RVDriverVariable {
+ public:
+  virtual ~RVDriverVariable() = default;
+  // The variable's full name, without brackets.
+  virtual void Setup(std::wstring_view name) = 0;
+  // Whether the plant has it. The kind of a name plays no part.
+  virtual bool Lock() = 0;
+  // What is known of the variable that was locked last.
+  virtual std::optional<DeviceVariable> Info() const = 0;
+};
+class DriverVariableService {
+ public:
+  virtual ~DriverVariableService() = default;
+  virtual std::unique_ptr<RVDriverVariable> NewDriverVariable() = 0;
+};
+
+class ValueService {
+ public:
+  virtual ~ValueService() = default;
+  // The present reading of a driver variable (full name, without brackets), or nothing.
+  virtual std::optional<double> Reading(std::wstring_view variable) = 0;
 };
 
 // What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
@@ -202,8 +215,12 @@ struct ModelServices {
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
   std::unique_ptr<LocaleService> locale;
+  std::unique_ptr<DateService> dates;
   std::unique_ptr<ScreenService> screen;
   std::unique_ptr<VariableNaming> variables;
+  std::unique_ptr<DriverVariableService> driverVariables;
+  std::unique_ptr<ValueService> values;
+  std::unique_ptr<ExpressionService> expressions;
   PictureStore pictureStore;
 
   // Without a way to read pictures the store has none.

@@ -55,14 +55,15 @@ std::optional<double> ParsePlain(std::string_view text) {
   return static_cast<double>(digits) / kPowers[text.size() - point - 1];
 }
 
-double ParseMagnitude(std::string_view text) {
-  if (const std::optional<double> plain = ParsePlain(text)) return *plain;
-  if (!text.empty() && (text[0] == '-' || text[0] == '+')) return 0.0;
+// Nothing for what is no number after its sign, such as a second sign.
+std::optional<double> ParseMagnitude(std::string_view text) {
+  if (const std::optional<double> plain = ParsePlain(text)) return plain;
+  if (!text.empty() && (text[0] == '-' || text[0] == '+')) return std::nullopt;
   const auto format = TakeHexPrefix(text) ? std::chars_format::hex : std::chars_format::general;
   double value = 0.0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value, format);
   if (result.ec == std::errc::result_out_of_range) return OutOfRange(text);
-  return result.ec == std::errc() ? value : 0.0;
+  return result.ec == std::errc() ? std::optional(value) : std::nullopt;
 }
 
 // Only ASCII can be part of a number; the first other character ends it.
@@ -100,8 +101,9 @@ std::int64_t ParseDigits(std::string_view text, std::int64_t limit) {
 
 double ParseDecimal(std::string_view text) {
   const Signed number = SkipSign(text);
-  const double magnitude = ParseMagnitude(number.rest);
-  return number.negative ? -magnitude : magnitude;
+  const std::optional<double> magnitude = ParseMagnitude(number.rest);
+  if (!magnitude) return 0.0;
+  return number.negative ? -*magnitude : *magnitude;
 }
 
 double ParseDecimal(std::wstring_view text) { return ParseDecimal(std::string_view(AsciiHead(text))); }

@@ -11,6 +11,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Files.h"
+
 namespace xrpt {
 
 class FileService;
@@ -120,7 +122,7 @@ struct XmlName {
 };
 
 // Looks up the children of one element, which it goes through once. Among children of one name the first counts; names
-// asked for in the order of the file are found at once.
+// asked for in the order of the file are found at once. Each name is asked for once: a second time it may be missed.
 class XmlCursor {
  public:
   explicit XmlCursor(const XmlNode& parent);
@@ -144,10 +146,12 @@ class XmlCursor {
 
 class XmlDocument {
  public:
-  // Beyond these a text is refused: they bound memory and time for hostile input.
+  // Beyond these a text is neither read nor written: they bound memory and time for hostile input, and what is saved
+  // can be opened again.
   static constexpr std::size_t kMaxBytes = 512u << 20;
   static constexpr std::size_t kMaxElements = 16'000'000;
   static constexpr int kMaxDepth = 256;
+  static constexpr const char* kTooDeep = "elements are nested too deep";
 
   XmlDocument();
   ~XmlDocument();
@@ -168,15 +172,20 @@ class XmlDocument {
   // Parses a whole document. False leaves the document without a root.
   bool Parse(std::string text, XmlError* error = nullptr);
   // Writes to the file name through the host's file service, atomically.
-  bool Save() const;
+  SaveResult Save() const;
   // The document as text, with its declaration.
   std::string Text() const;
+
+  // What makes a text too much to be read or written: bytes or elements. An empty message when it is within bounds.
+  static XmlError CheckSize(std::string_view text);
 
   XmlNode Root() const;
   XmlNode Node(std::string_view path) const { return Root().Node(path); }
 
  private:
   struct Impl;
+  void Write(XmlWriter& writer) const;
+
   std::unique_ptr<Impl> impl_;
   std::filesystem::path path_;
 };

@@ -53,7 +53,7 @@ int Edit(const EditOptions& options) {
     PrintError(AtLine(options.actions, action.line), fault);
     return kCouldNotRun;
   }
-  return WriteOutput(options.output, runner.Frame().Report().TemplateText()) ? kNothingToReport : kCouldNotRun;
+  return SaveReport(runner.Frame().Report(), options.output) ? kNothingToReport : kCouldNotRun;
 }
 
 }  // namespace
@@ -62,7 +62,9 @@ void AddEdit(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand("edit", "Drive the page window by a file of actions, then save");
   const auto options = std::make_shared<EditOptions>();
   options->AddReport(*command);
-  command->add_option("-o,--output", options->output, "Where to write")->required()->type_name("OUT");
+  command->add_option("-o,--output", options->output, "Where to write (-: standard output)")
+      ->required()
+      ->type_name("OUT");
   command->add_option("--actions", options->actions, "The action file (-: standard input)")
       ->required()
       ->type_name("FILE");

@@ -174,7 +174,7 @@ std::string ScriptRunner::RunCommand(Arguments arguments) {
   const Command* command = FindCommand(arguments[0]);
   if (!command || !command->run) return "\"" + arguments[0] + "\" needs a window";
   command->run(frame_, Wide(arguments, 1));
-  return {};
+  return ToUtf8(TextOf(frame_.LastSave()));
 }
 
 std::string ScriptRunner::Tick(Arguments arguments) {

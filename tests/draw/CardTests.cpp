@@ -4,7 +4,6 @@
 #include "draw/Drawing.h"
 #include "model/CardRegistry.h"
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
 #include "model/NumberFormat.h"
 #include "model/RVAnalogBar.h"
 #include "model/RVCardButton.h"
@@ -44,8 +43,9 @@ TEST_F(CardDrawTest, ReadsMomentsAsPeopleWriteThem) {
       {L"999999999999 1 1", L"-"},
   };
   for (const auto& row : rows) {
-    const auto moment = ReadMoment(row.text, *CurrentHost().locale);
-    const std::wstring shown = moment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", *moment, *CurrentHost().locale) : L"-";
+    RVDateTime moment{};
+    const bool isMoment = host->dates->String2DateTime(row.text, moment);
+    const std::wstring shown = isMoment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", moment, *host->locale) : L"-";
     EXPECT_EQ(shown, row.shown) << ToUtf8(row.text);
   }
 }
@@ -144,6 +144,18 @@ TEST_F(CardDrawTest, ConditionedCardsDrawTheirAlternativeInTheirOwnRectangle) {
   EXPECT_EQ(card.cards[1]->x, 150.0);
   draw.flag1 = 0;
   EXPECT_EQ(Recorded(card, draw).Count(CallKind::FillPolygon), 0u);
+}
+
+TEST_F(CardDrawTest, PicturesStandOnTheGroundTheyAreGiven) {
+  auto card = CardOf<RVCardImage>(20, 10);
+  for (const Color ground : {Rgb(0xFF, 0xFF, 0x00), kWhite, kBlack}) {
+    card.backcolor = ground;
+    EXPECT_EQ(Recorded(card).First(CallKind::FillRect).color, ground);
+  }
+  card.backcolor = kNoColor;
+  tagDraw paper = DrawAt();
+  paper.flag1 = 0;
+  EXPECT_EQ(Recorded(card, paper).calls.size(), 0u);
 }
 
 TEST_F(CardDrawTest, ShapesKeepTheirContourInside) {

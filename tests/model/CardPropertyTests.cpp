@@ -194,11 +194,10 @@ TEST_F(CardProperties, CloneEqualsItsSourceUntilItsIdChanges) {
   }));
 }
 
-// A text that changes a field, or nothing when none does (a field that does not apply).
+// A text that changes a field, or nothing when none does.
 std::string ChangingText(const CardRow& row, const RVCardControl& card) {
   const std::wstring before = row.text(card);
-  for (const char* text : {"T", "F", "1.5", "3", "00FF00", "other", "LEFT", "TOP", "BOLD", "BEHAVIOR_SCROLL",
-                           "DIRECTION_UP", "PF", "MIN", "V", "BOTTOM", "BOX", "DASH", "IMAGE"}) {
+  for (const std::string& text : OrdinaryTexts(row, row.WordsFor(card))) {
     const std::unique_ptr<RVCardControl> copy = card.GetClone();
     row.assign(*copy, text);
     if (row.text(*copy) != before) return text;

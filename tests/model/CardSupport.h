@@ -42,6 +42,27 @@ inline std::unique_ptr<RVCardControl> ReadBack(const RVCardControl& card) {
   return read;
 }
 
+// Texts that a user may give a row, told by its editor: so that a new row finds its own.
+inline std::vector<std::string> OrdinaryTexts(const FieldRow& row, std::span<const Word> words) {
+  std::vector<std::string> texts;
+  for (const Word& word : words) texts.emplace_back(word.text);
+  if (!texts.empty()) return texts;
+  switch (row.panel.editor) {
+    case FieldEditor::Check:
+      return {"T", "F"};
+    case FieldEditor::Decimal:
+    case FieldEditor::Angle:
+    case FieldEditor::Integer:
+      return {"3", "2"};
+    case FieldEditor::Color:
+      return {"00FF80", "123456"};
+    case FieldEditor::Style:
+      return {"Title"};
+    default:
+      return {"2", "3"};  // a text, or a number that no panel shows
+  }
+}
+
 // Reads what stands inside one element: "<holder>...</holder>".
 template <class Card>
 Card Read(const std::string& inside) {

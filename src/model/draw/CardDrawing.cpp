@@ -127,7 +127,10 @@ void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& styl
 void DrawPictureBox(Graphics& graphics, const CardArea& area, const PicturePtr& picture, const PictureFit& fit,
                     std::wstring_view name, const Animation& animation, std::int32_t time) {
   if (area.IsEmpty()) return;
-  if (!picture) return DrawPlaceholder(graphics, area, name);
+  if (!picture) {
+    if (area.editing) DrawPlaceholder(graphics, area, name);
+    return;
+  }
   RectD target = PlacePicture(*picture, area.points, fit);
   PointD shift;
   if (IsMoving(animation, time)) MoveAlong(target, shift, animation, time, area.Box());

@@ -46,6 +46,7 @@ CardArea AreaOf(const RVCardControl& card, const tagDraw& draw) {
   area.points = {Extent(card.width), Extent(card.height)};
   area.scale = ScaleOf(draw);
   area.fonts = card.Services().fonts.get();
+  area.editing = draw.flag1 != 0;
   return area;
 }
 

@@ -1,4 +1,4 @@
-#include "model/draw/SampleData.h"
+#include "platform/SampleData.h"
 
 #include <cmath>
 #include <cstdint>
@@ -55,6 +55,8 @@ SampleRange SampleRangeOf(std::wstring_view variable) {
   const double scale = std::pow(10.0, std::floor(1.0 + 3.0 * Fraction(Hash(name))));
   return {scale * 0.3, scale * (0.7 + Fraction(Hash(name, 1)))};
 }
+
+double SampleReading(std::wstring_view variable) { return SampleValues(variable, 1, SampleRangeOf(variable)).front(); }
 
 double SampleShape(std::wstring_view variable, std::size_t index) {
   const std::wstring_view present = PresentName(variable);

@@ -15,6 +15,9 @@ struct SampleRange {
 // What a variable of that name usually measures: P is hundreds of kilowatts, PF just below one, THDV a few percent.
 SampleRange SampleRangeOf(std::wstring_view variable);
 
+// The one value that stands for a variable where a single number is wanted.
+double SampleReading(std::wstring_view variable);
+
 // Between 0 and 1, rising and falling like a load does. A variable of the past (GOBACK) runs beside its own present.
 double SampleShape(std::wstring_view variable, std::size_t index);
 

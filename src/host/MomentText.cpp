@@ -1,4 +1,4 @@
-#include "model/MomentText.h"
+#include "host/MomentText.h"
 
 #include <algorithm>
 #include <cwctype>
