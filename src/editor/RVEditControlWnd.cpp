@@ -57,7 +57,7 @@ bool RVEditControlWnd::OpenFromList() {
   const std::optional<std::wstring> chosen = port_.ChooseReport(report_.name);
   if (!chosen || *chosen == report_.name) return false;
   OpenByName(*chosen);
-  CurrentHost().settings->SetRegistryText(L"LastInforme", report_.name);
+  CurrentHost().settings->SetRegistryText(kLastReportValue, report_.name);
   return true;
 }
 

@@ -7,8 +7,6 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
-
 void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& to) {
   for (const XmlNode& child : from) {
     if (child.Tag() == tag) to.Root().Append(child);
@@ -24,7 +22,7 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 }  // namespace
 
 RVReport::RVReport(Host& host)
-    : id(host.guids->NewGuidText()), version(kVersion), dpiFont(host.screen->DpiY()), host_(&host) {
+    : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
   AddPage();
 }
 
@@ -50,7 +48,7 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
 void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName) {
   pages.clear();
   ReadIdentity(root, askedName);
-  version = root.Value("version", kVersion);
+  version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
   ReadPages(root);
@@ -116,7 +114,7 @@ SaveResult RVReport::Save() {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
-  host_->settings->SetRegistryText(L"LastInforme", name);
+  host_->settings->SetRegistryText(kLastReportValue, name);
   host_->files->CreateFolder(ConfigFolder());
   return SaveTo(FilePath());
 }

@@ -7,11 +7,10 @@
 
 #include "model/RVReportPage.h"
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 #include "platform/Xml.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kReportEnding = L".xrpt";
 
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {

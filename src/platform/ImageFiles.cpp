@@ -1,6 +1,7 @@
 #include "platform/ImageFiles.h"
 
 #include "platform/Base64.h"
+#include "platform/SystemNames.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -9,7 +10,7 @@ namespace {
 constexpr std::size_t kMaxImageFile = 128u << 20;
 
 Path ImageFile(const Path& folder, const std::wstring& id, const std::wstring& path) {
-  return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + L".img"));
+  return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + std::wstring(kImageEnding)));
 }
 
 }  // namespace
