@@ -8,6 +8,7 @@
 #include "platform/SystemNames.h"
 
 namespace xrpt {
+
 void RVEditTemplateWnd::SelectAlone(CardKey card) {
   ClearSelection();
   const std::size_t index = page_.cards.IndexOf(card);
