@@ -129,12 +129,7 @@ bool Normalised(std::tm& moment) {
          asked.tm_sec <= 60;
 }
 
-}  // namespace
-
-std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale) {
-  const Parts parts = Split(text, locale);
-  if (parts.list.size() < 3) return std::nullopt;
-  const DateOrder order = OrderOf(parts.list, locale);
+std::optional<std::tm> MomentIn(const DateOrder& order, const Parts& parts) {
   const auto time = [&parts](std::size_t i) { return i < parts.list.size() ? parts.list[i].number : 0; };
   std::tm moment{};
   moment.tm_year = FullYear(parts.list[order.year]) - 1900;
@@ -145,6 +140,18 @@ std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& l
   moment.tm_sec = time(5);
   if (!Normalised(moment)) return std::nullopt;
   return moment;
+}
+
+}  // namespace
+
+// A report travels: a date whose day can be no month was written where the day comes first, or the other way round.
+std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale) {
+  const Parts parts = Split(text, locale);
+  if (parts.list.size() < 3) return std::nullopt;
+  const DateOrder order = OrderOf(parts.list, locale);
+  const std::optional<std::tm> moment = MomentIn(order, parts);
+  if (moment || order.year == 0 || parts.list[order.month].isMonth) return moment;
+  return MomentIn({order.year, order.day, order.month}, parts);
 }
 
 }  // namespace xrpt

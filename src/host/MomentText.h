@@ -10,8 +10,8 @@
 namespace xrpt {
 
 // Takes day, month and year in the locale's order (a four-figure number in front is always the year, a month's name is
-// one wherever it stands) and the time after them, of which any part may be missing. Nothing for a text without a date
-// that can be.
+// one wherever it stands) and the time after them, of which any part may be missing. Where that order gives no date,
+// day and month change places. Nothing for a text without a date that can be.
 std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale);
 
 }  // namespace xrpt
