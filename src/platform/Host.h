@@ -126,6 +126,8 @@ class PictureService {
   virtual ~PictureService() = default;
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
+  // False where no decoder is built in, so that a missing picture says nothing about the file.
+  virtual bool CanDecode() const { return true; }
 };
 
 // What one copy puts on the clipboard: the text, and pictures of the same thing for other programs (either may be
@@ -236,6 +238,15 @@ class ValueService {
   virtual std::optional<double> Reading(std::wstring_view variable) = 0;
 };
 
+// The host's diagnostics collector: background checks hand it a warning record a problem, from their own thread.
+class XmlNode;
+class RVDebugInfo {
+ public:
+  virtual ~RVDebugInfo() = default;
+  // The record is the caller's; what is kept of it is copied.
+  virtual void addWarning(const XmlNode& warning) = 0;
+};
+
 struct Host {
   std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
   std::unique_ptr<SetupService> setup;
@@ -256,6 +267,7 @@ struct Host {
   std::unique_ptr<DriverVariableService> driverVariables;
   std::unique_ptr<ValueService> values;
   std::unique_ptr<ExpressionService> expressions;
+  std::unique_ptr<RVDebugInfo> debugInfo;
   PictureStore pictureStore;
 
   Host();
