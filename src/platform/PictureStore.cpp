@@ -9,7 +9,9 @@ namespace {
 
 constexpr std::size_t kMaxImageFile = 128u << 20;
 
-Path ImageFile(const std::wstring& id, const std::wstring& path) {
+// Inside the folder, or nothing.
+std::optional<Path> ImageFile(const std::wstring& id, const std::wstring& path) {
+  if (!IsSafeFileName(id) || !IsSafeSubPath(path)) return std::nullopt;
   const Path folder = CurrentHost().setup->ImagesPath();
   return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + L".img"));
 }
@@ -55,11 +57,17 @@ std::size_t PictureStore::Count() const {
 }
 
 PicturePtr PictureStore::ReadImageFile(const std::wstring& id, const std::wstring& path) {
-  if (!IsSafeFileName(id) || !IsSafeSubPath(path)) return nullptr;
-  const std::optional<std::string> file = CurrentHost().files->Read(ImageFile(id, path), kMaxImageFile);
+  const std::optional<Path> name = ImageFile(id, path);
+  if (!name) return nullptr;
+  const std::optional<std::string> file = CurrentHost().files->Read(*name, kMaxImageFile);
   if (!file) return nullptr;
   const std::optional<std::string> bytes = DecodeBase64(Xml2Text(*file));
   return bytes ? CurrentHost().pictures->Decode(*bytes) : nullptr;
+}
+
+bool PictureStore::HasImageFile(const std::wstring& id, const std::wstring& path) {
+  const std::optional<Path> name = ImageFile(id, path);
+  return name && CurrentHost().files->Stamp(*name).exists;
 }
 
 // A record may have been made anew under the same key while its predecessor was dying; that one stays.

@@ -50,6 +50,8 @@ class PictureStore {
   // The decoded file of the images folder: base64 text, XML-escaped, named id + ".img". Null when there is no such
   // file, when it is no picture, and when id or path would leave the folder.
   static PicturePtr ReadImageFile(const std::wstring& id, const std::wstring& path);
+  // Whether there is such a file, whatever it holds.
+  static bool HasImageFile(const std::wstring& id, const std::wstring& path);
 
  private:
   friend class ImageRecord;

@@ -1,0 +1,60 @@
+#include "formulas/checks/References.h"
+
+#include <algorithm>
+
+#include "platform/Numbers.h"
+
+namespace xrpt {
+namespace {
+
+constexpr std::wstring_view kVirtualPrefix = L"VIRTUAL_";
+constexpr std::wstring_view kGoBack = L"GOBACK";
+
+bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+}  // namespace
+
+bool isPeriodGoBackVirtual(std::wstring_view period) {
+  return ParseInteger(period) == 0 && !std::all_of(period.begin(), period.end(), IsDigit);
+}
+
+bool IsVirtualDevice(const FilteredDriverVariable& parts) {
+  return std::wstring_view(parts.device).substr(0, kVirtualPrefix.size()) == kVirtualPrefix;
+}
+
+bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == kGoBack; }
+
+bool ReferenceCheck::VirtualDevice(const FilteredDriverVariable& parts) {
+  if (!data_.virtualDevices || virtualDevicesEnded_ || !IsVirtualDevice(parts)) return true;
+  if (data_.virtualDevices->Has(parts.device)) {
+    inspector_.usedVirtualDevices.insert(parts.device);
+    return true;
+  }
+  virtualDevicesEnded_ = true;
+  return inspector_.Raise(virtualDevice_, data_);
+}
+
+bool ReferenceCheck::GoBack(const FilteredDriverVariable& parts) {
+  if (!data_.goBackVariables || goBacksEnded_ || !IsGoBack(parts) || IsGoBackDeclared(parts.period)) return true;
+  goBacksEnded_ = true;
+  return inspector_.Raise(goBack_, data_);
+}
+
+// A number of periods back needs no declaration, but cannot be negative.
+bool ReferenceCheck::IsGoBackDeclared(const std::wstring& period) {
+  if (!isPeriodGoBackVirtual(period)) return ParseInteger(period) >= 0;
+  std::wstring id(kGoBack);
+  id += period;
+  if (!data_.goBackVariables->Has(id)) return false;
+  inspector_.usedGoBackVariables.insert(std::move(id));
+  return true;
+}
+
+bool ReferenceCheck::All(const ExpressionReading& expression) {
+  bool ok = true;
+  for (const FilteredDriverVariable& parts : expression.variables) ok = VirtualDevice(parts) && ok;
+  for (const FilteredDriverVariable& parts : expression.variables) ok = GoBack(parts) && ok;
+  return ok;
+}
+
+}  // namespace xrpt
