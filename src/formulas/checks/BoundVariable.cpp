@@ -10,8 +10,8 @@ std::wstring WithoutBrackets(std::wstring name) {
 
 }  // namespace
 
-bool CheckBoundVariable(Inspector& inspector, std::wstring given, const tagSDebugData& data,
-                        ReferenceCheck& references, const CheckCode& unknown) {
+bool CheckBoundVariable(Inspector& inspector, std::wstring given, const tagSDebugData& data, ReferenceCheck& references,
+                        const CheckCode& unknown) {
   const std::wstring name = WithoutBrackets(std::move(given));
   const VariableNaming& naming = *inspector.TheHost().variables;
   const FilteredDriverVariable device = naming.SplitFilterDriverVariable(name);

@@ -43,7 +43,8 @@ bool CheckAnalogBar(Inspector& inspector, const XmlNode& card, tagSDebugData& da
   if (!variable) return inspector.Raise(HostCode(L"ANALOGBARCTRL_VARIABLE_EMPTY"), data);
   ReferenceCheck references(inspector, data, HostCode(L"ANALOGBARCTRL_VIRTUAL_DEVICE_ERROR"),
                             HostCode(L"REPORTGRAPH_GOBACK_VARIABLE_ERROR"));
-  const bool ok = CheckBoundVariable(inspector, variable.Value(), data, references, HostCode(L"ANALOGBARCTRL_VAR_ERROR"));
+  const bool ok =
+      CheckBoundVariable(inspector, variable.Value(), data, references, HostCode(L"ANALOGBARCTRL_VAR_ERROR"));
   return CheckLimits(inspector, card, data) && ok;
 }
 

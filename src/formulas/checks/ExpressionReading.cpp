@@ -28,8 +28,7 @@ ExpressionReading ReadOne(const Host& host, std::wstring_view text, const XmlDoc
   if (formules) evaluator->SetFormules(*formules);
   double value = 0.0;
   reading.evaluation = evaluator->Evaluate(value, reading.type);
-  reading.hasModule =
-      reading.evaluation == kEvaluationFails && host.expressions->isThereAModuleInExpression(text);
+  reading.hasModule = reading.evaluation == kEvaluationFails && host.expressions->isThereAModuleInExpression(text);
   reading.variables = VariablesOf(host, *evaluator);
   return reading;
 }

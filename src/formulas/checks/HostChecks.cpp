@@ -6,9 +6,12 @@ namespace xrpt {
 namespace {
 
 constexpr HostCheckRow kRows[] = {
-    {"formule", CheckFormule, true},         {"staticImage", CheckStaticImage, true},
-    {"date", CheckDate, true},               {"conditioned", CheckConditioned, false},
-    {"reportGraph", CheckReportGraph, false}, {"analogBar", CheckAnalogBar, false},
+    {"formule", CheckFormule, true},
+    {"staticImage", CheckStaticImage, true},
+    {"date", CheckDate, true},
+    {"conditioned", CheckConditioned, false},
+    {"reportGraph", CheckReportGraph, false},
+    {"analogBar", CheckAnalogBar, false},
 };
 
 }  // namespace
