@@ -5,6 +5,7 @@
 #include "model/CommonRows.h"
 #include "platform/Host.h"
 #include "platform/NamedFiles.h"
+#include "platform/UniqueNames.h"
 
 namespace xrpt {
 namespace {
@@ -190,12 +191,9 @@ std::vector<std::wstring> PasteStyles(std::string clipboard) {
 }
 
 std::wstring UniqueStyleName(const std::wstring& name, const std::vector<std::wstring>& taken) {
-  const auto isTaken = [&taken](const std::wstring& candidate) {
-    return std::find(taken.begin(), taken.end(), candidate) != taken.end();
-  };
-  std::wstring candidate = name;
-  for (int n = 1; isTaken(candidate); ++n) candidate = name + L"_" + std::to_wstring(n);
-  return candidate;
+  UniqueNames names;
+  for (const std::wstring& other : taken) names.Add(other);
+  return names.Take(name);
 }
 
 }  // namespace xrpt

@@ -35,6 +35,12 @@ bool IsWhiteSpace(wchar_t c) {
   return Unicode() ? iswspace_l(Code(c), Unicode()) != 0 : iswspace(Code(c)) != 0;
 }
 
+std::wstring_view Trimmed(std::wstring_view text) {
+  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsWhiteSpace(text.back())) text.remove_suffix(1);
+  return text;
+}
+
 // By way of the capital, so that letters with two small forms (sigma at a word's end) are one.
 wchar_t FoldCase(wchar_t c) {
   if (c >= 0 && c <= kLastAscii) return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;

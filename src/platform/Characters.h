@@ -14,6 +14,9 @@ bool IsWhiteSpace(wchar_t c);
 // What a formula's name is made of: letters, digits, "_".
 inline bool IsNameCharacter(wchar_t c) { return c == L'_' || IsLetterOrDigit(c); }
 
+// Without the white space at either end.
+std::wstring_view Trimmed(std::wstring_view text);
+
 // Capital and small letters become the same character; the text keeps its length.
 wchar_t FoldCase(wchar_t c);
 std::wstring FoldCase(std::wstring_view text);

@@ -20,6 +20,7 @@ int Run(int argc, char** argv) {
   xrpt::AddEdit(program, status);
   xrpt::AddInfo(program, status);
   xrpt::AddRender(program, status);
+  xrpt::AddEvaluate(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

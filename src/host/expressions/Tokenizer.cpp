@@ -38,12 +38,6 @@ constexpr Sign kSigns[] = {
 
 constexpr std::wstring_view kModuleMark = L"::";
 
-std::wstring_view Trimmed(std::wstring_view text) {
-  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsWhiteSpace(text.back())) text.remove_suffix(1);
-  return text;
-}
-
 }  // namespace
 
 Token Tokenizer::Next() {
