@@ -1,8 +1,8 @@
 #include "formulas/RVReportDebugger.h"
 
+#include "formulas/checks/CheckTexts.h"
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/HostCodes.h"
-#include "formulas/checks/HostTexts.h"
 #include "formulas/checks/WarningRecord.h"
 #include "model/RVReport.h"
 #include "platform/Text.h"

@@ -1,7 +1,7 @@
 // The variable a graph's series or a bar is bound to.
 #pragma once
 
-#include "formulas/checks/References.h"
+#include "formulas/checks/ReferenceCheck.h"
 
 namespace xrpt {
 

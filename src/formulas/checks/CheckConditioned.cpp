@@ -1,8 +1,9 @@
 // Conditioned cards: each alternative's condition, and the card it shows.
+#include "formulas/FormulaTexts.h"
+#include "formulas/checks/CheckTexts.h"
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/HostCodes.h"
-#include "formulas/checks/HostTexts.h"
-#include "formulas/checks/References.h"
+#include "formulas/checks/ReferenceCheck.h"
 
 namespace xrpt {
 namespace {
@@ -29,7 +30,7 @@ bool CheckCondition(Inspector& inspector, const XmlNode& control, tagSDebugData&
   if (text.WholeText(joined).empty()) return inspector.Raise(kEmpty, data);
   const ExpressionReading& condition = inspector.Read(text, data);
   bool ok = condition.analysis == kLogicalExpression;
-  if (!ok) inspector.Raise(kExpression, data, inspector.TheHost().texts->Text(text::kCannotBeAnalysed));
+  if (!ok) inspector.Raise(kExpression, data, inspector.TheHost().texts->Text(text::kExpressionNotAnalysed));
   ok = CheckResult(inspector, condition, data) && ok;
   return ReferenceCheck(inspector, data, kVirtualDevice, kGoBack).All(condition) && ok;
 }

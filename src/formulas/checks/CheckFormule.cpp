@@ -1,8 +1,8 @@
 // Formula cards: the expression, what it evaluates to, and what it refers to.
+#include "formulas/FormulaTexts.h"
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/HostCodes.h"
-#include "formulas/checks/HostTexts.h"
-#include "formulas/checks/References.h"
+#include "formulas/checks/ReferenceCheck.h"
 
 namespace xrpt {
 namespace {
@@ -26,7 +26,7 @@ bool CheckEvaluation(const Inspector& inspector, const ExpressionReading& expres
                      const CheckCode& code) {
   if (expression.IsEvaluated()) return true;
   const Host& host = inspector.TheHost();
-  if (expression.hasModule) return inspector.Raise(code, data, host.texts->Text(text::kRefersToModule), true);
+  if (expression.hasModule) return inspector.Raise(code, data, host.texts->Text(text::kModuleInExpression), true);
   return inspector.Raise(code, data, host.expressions->ErrorMsg(expression.evaluation));
 }
 
@@ -39,7 +39,7 @@ bool CheckFormule(Inspector& inspector, const XmlNode& card, tagSDebugData& data
   if (value.WholeText(joined).empty()) return inspector.Raise(codes.empty, data);
   const ExpressionReading& expression = inspector.Read(value, data);
   if (expression.analysis != kNumericExpression) {
-    return inspector.Raise(codes.expression, data, inspector.TheHost().texts->Text(text::kCannotBeAnalysed));
+    return inspector.Raise(codes.expression, data, inspector.TheHost().texts->Text(text::kExpressionNotAnalysed));
   }
   const bool evaluates = CheckEvaluation(inspector, expression, data, codes.expression);
   return ReferenceCheck(inspector, data, codes.virtualDevice, codes.goBack).All(expression) && evaluates;

@@ -1,13 +1,13 @@
-#include "formulas/checks/References.h"
+#include "formulas/checks/ReferenceCheck.h"
 
 #include <algorithm>
 
+#include "formulas/VirtualLists.h"
 #include "platform/Numbers.h"
 
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVirtualPrefix = L"VIRTUAL_";
 constexpr std::wstring_view kGoBack = L"GOBACK";
 
 bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
@@ -19,7 +19,8 @@ bool isPeriodGoBackVirtual(std::wstring_view period) {
 }
 
 bool IsVirtualDevice(const FilteredDriverVariable& parts) {
-  return std::wstring_view(parts.device).substr(0, kVirtualPrefix.size()) == kVirtualPrefix;
+  static const std::wstring_view prefix = RulesOf(SourceKind::VirtualDevice).prefix;
+  return std::wstring_view(parts.device).substr(0, prefix.size()) == prefix;
 }
 
 bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == kGoBack; }
@@ -35,16 +36,15 @@ bool ReferenceCheck::VirtualDevice(const FilteredDriverVariable& parts) {
 }
 
 bool ReferenceCheck::GoBack(const FilteredDriverVariable& parts) {
-  if (!data_.goBackVariables || goBacksEnded_ || !IsGoBack(parts) || IsGoBackDeclared(parts.period)) return true;
+  if (!data_.goBackVariables || goBacksEnded_ || !IsGoBack(parts) || IsGoBackDeclared(parts)) return true;
   goBacksEnded_ = true;
   return inspector_.Raise(goBack_, data_);
 }
 
 // A number of periods back needs no declaration, but cannot be negative.
-bool ReferenceCheck::IsGoBackDeclared(const std::wstring& period) {
-  if (!isPeriodGoBackVirtual(period)) return ParseInteger(period) >= 0;
-  std::wstring id(kGoBack);
-  id += period;
+bool ReferenceCheck::IsGoBackDeclared(const FilteredDriverVariable& parts) {
+  if (!isPeriodGoBackVirtual(parts.period)) return ParseInteger(parts.period) >= 0;
+  std::wstring id = parts.kind + parts.period;
   if (!data_.goBackVariables->Has(id)) return false;
   inspector_.usedGoBackVariables.insert(std::move(id));
   return true;

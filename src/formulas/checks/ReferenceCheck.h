@@ -24,7 +24,7 @@ class ReferenceCheck {
   bool All(const ExpressionReading& expression);
 
  private:
-  bool IsGoBackDeclared(const std::wstring& period);
+  bool IsGoBackDeclared(const FilteredDriverVariable& parts);
 
   Inspector& inspector_;
   tagSDebugData& data_;

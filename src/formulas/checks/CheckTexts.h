@@ -1,11 +1,10 @@
-// The host's texts that the checks show, by number.
+// The texts that checks show beside those of their codes, by number.
 #pragma once
 
 namespace xrpt::text {
 
-inline constexpr int kCannotBeAnalysed = 32446;
+// The system's own.
 inline constexpr int kNotLogical = 32485;
 inline constexpr int kCheckingReport = 33809;  // "%s": the report's name
-inline constexpr int kRefersToModule = 37540;
 
 }  // namespace xrpt::text
