@@ -16,6 +16,7 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/cli.inc"
 #include "host/texts/en/commands.inc"
 #include "host/texts/en/formulas.inc"
+#include "host/texts/en/checks.inc"
 };
 
 constexpr TextRow kSpanish[] = {
@@ -26,6 +27,7 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/cli.inc"
 #include "host/texts/es/commands.inc"
 #include "host/texts/es/formulas.inc"
+#include "host/texts/es/checks.inc"
 };
 // clang-format on
 

@@ -32,6 +32,9 @@ class RVReport {
   // Opens one file. Without an asked-for name the stored one stands.
   LoadResult LoadFile(const Path& file, const std::wstring* askedName = nullptr);
 
+  // Takes what a "reportLayout" element holds; the element stays as it is, and the stored name stands.
+  void SetTemplate(const XmlNode& root) { ReadTemplate(root, nullptr, &RVReportPage::SetTemplate); }
+
   // Saves under the report's name, naming a nameless report report1, report2, ... first. False when no name could be
   // made. A failed write is the file service's to log; the report counts as saved all the same.
   bool Save();
@@ -58,11 +61,12 @@ class RVReport {
   bool modified = false;
 
  private:
-  void ReadTemplate(const XmlNode& root, const std::wstring* askedName);
+  using PageReader = bool (RVReportPage::*)(const XmlNode& page);
+  void ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
   void ReadFontScale(const XmlNode& root);
   void ReadVirtualLists(const XmlNode& root);
-  void ReadPages(const XmlNode& root);
+  void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
   void WriteDocuments(XmlWriter& out) const;
 };

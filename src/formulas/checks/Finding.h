@@ -17,7 +17,7 @@ struct CardPlace {
   bool operator==(const CardPlace&) const = default;
 };
 
-// One thing to change. A remedy's changes belong together: one step of the history.
+// One thing to change, of the finding's card where it is about one.
 struct Change {
   enum class Kind {
     SetField,       // `field` of the card takes `value`, both as in the file
@@ -26,24 +26,23 @@ struct Change {
     RemoveFormula,  // the one named `value`
   };
   Kind kind;
-  CardPlace place;
   std::string field;  // full name, "font/size"
   std::wstring value;
 };
 
-// Without changes nobody but the user knows what to do.
+// The changes belong together: one step of the history. Without any nobody but the user knows what to do.
 struct Remedy {
   int textId = 0;  // says what would be done
-  std::vector<Change> changes;
+  std::vector<Change> changes = {};
 };
 
 struct Finding {
   const CheckCode* code = nullptr;
-  CardPlace place;
-  std::wstring cardId;                 // of the card, or of the conditioned card around it; may be empty
-  int kindTextId = 0;                  // what kind of card it is, for people; 0 for none
-  std::optional<std::wstring> detail;  // more than the code says
-  bool dontConsider = false;           // nothing the report's author can put right here
+  CardPlace place = {};
+  std::wstring cardId = {};                           // of the card, or of the conditioned card around it; may be empty
+  int kindTextId = 0;                                 // what kind of card it is, for people; 0 for none
+  std::optional<std::wstring> detail = std::nullopt;  // more than the code says
+  bool dontConsider = false;                          // nothing the report's author can put right here
   Remedy remedy = {};
 };
 

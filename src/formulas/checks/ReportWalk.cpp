@@ -15,14 +15,6 @@ std::size_t CountSteps(const XmlNode& root) {
   return std::max<std::size_t>(count, 1);
 }
 
-const CardClass* PageCardKind(std::string_view tag) {
-  for (const RegistryRow& row : CardRegistry()) {
-    const CardClass& kind = row.kind();
-    if (row.onPage && tag == kind.tag) return &kind;
-  }
-  return nullptr;
-}
-
 void WalkPage(const XmlNode& page, tagSDebugData& data, Inspector& inspector, WalkWatcher& watcher) {
   const bool isNamed = !page.Value("id").empty();
   for (const XmlNode& child : page) {
