@@ -212,6 +212,7 @@ int Run(int count, int repetitions) {
   const std::vector<Path> files = host->files->List(folder, kReportEnding);
   std::printf("%zu reports of %d cards, %.1f kB each; findings: %zu of the host's checks\n", files.size(), kCards,
               static_cast<double>(fs::file_size(files.front())) / 1000.0, CheckAll(folder, 1, CheckChoice::AllHost()));
+  std::fflush(stdout);  // before the first child takes a copy along
   std::vector<Row> rows = {
       {"read and parse, our XML layer", [&] { ParseWithOurLayer(files); }},
       {"read and parse, XML library alone", [&] { ParseWithTheLibrary(files); }},

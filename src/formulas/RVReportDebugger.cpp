@@ -16,7 +16,7 @@ RVReportDebugger::RVReportDebugger(Host& host)
 
 void RVReportDebugger::work() {
   const std::vector<Path> files = host_.files->List(host_.setup->CfgPath(), kReportEnding);
-  inspector_.ForgetPlant();
+  inspector_.Forget();
   setRunning();
   if (!files.empty()) reportShare_ = 100.0 / static_cast<double>(files.size());
   double done = 0.0;

@@ -5,8 +5,8 @@
 
 namespace xrpt {
 
-// `unknown` is raised for a variable that neither the report nor the plant has. Surrounding brackets play no part.
-bool CheckBoundVariable(Inspector& inspector, std::wstring name, const tagSDebugData& data, ReferenceCheck& references,
-                        const CheckCode& unknown);
+// By the element that holds its name. `unknown` is raised for a variable that neither the report nor the plant has.
+bool CheckBoundVariable(Inspector& inspector, const XmlNode& name, const tagSDebugData& data,
+                        ReferenceCheck& references, const CheckCode& unknown);
 
 }  // namespace xrpt

@@ -8,30 +8,49 @@
 namespace xrpt {
 namespace {
 
-std::optional<double> LimitIn(const XmlNode& card, std::string_view name) {
-  const XmlNode limit = card.Node(name);
-  if (!limit) return std::nullopt;
+bool Says(const XmlNode& element, std::string_view word) {
   std::string joined;
-  return ParseDecimal(limit.WholeText(joined));
+  return element.WholeText(joined) == word;
 }
 
-BarLimits LimitsOf(const XmlNode& card) {
-  return {LimitIn(card, "minValue"),    LimitIn(card, "alarmMinValue"), LimitIn(card, "preMinValue"),
-          LimitIn(card, "preMaxValue"), LimitIn(card, "alarmMaxValue"), LimitIn(card, "maxValue")};
+std::optional<double> LimitIn(const XmlNode& element) {
+  if (!element) return std::nullopt;
+  std::string joined;
+  return ParseDecimal(element.WholeText(joined));
 }
 
-PowerFactorBands BandsOf(const std::wstring& type) {
-  if (type == L"MAX") return PowerFactorBands::MaximumOnly;
-  return type == L"MIN" ? PowerFactorBands::MinimumOnly : PowerFactorBands::Both;
+PowerFactorBands BandsOf(const XmlNode& type) {
+  if (Says(type, "MAX")) return PowerFactorBands::MaximumOnly;
+  return Says(type, "MIN") ? PowerFactorBands::MinimumOnly : PowerFactorBands::Both;
 }
+
+// A bar's elements, looked for in the order of the file.
+struct BarElements {
+  explicit BarElements(const XmlNode& card) : cursor(card) {}
+
+  XmlCursor cursor;
+  XmlNode typeVar = cursor.Find("typeVar");
+  XmlNode type = cursor.Find("type");
+  XmlNode variable = cursor.Find("variable");
+
+  BarLimits Limits() {
+    BarLimits limits;
+    limits.maximum = LimitIn(cursor.Find("maxValue"));
+    limits.minimum = LimitIn(cursor.Find("minValue"));
+    limits.preMaximum = LimitIn(cursor.Find("preMaxValue"));
+    limits.alarmMaximum = LimitIn(cursor.Find("alarmMaxValue"));
+    limits.preMinimum = LimitIn(cursor.Find("preMinValue"));
+    limits.alarmMinimum = LimitIn(cursor.Find("alarmMinValue"));
+    return limits;
+  }
+};
 
 // The bands of a power factor must be told; a bar without them is not checked further.
-bool CheckLimits(const Inspector& inspector, const XmlNode& card, const tagSDebugData& data) {
-  const bool isPowerFactor = card.Value("typeVar") == L"PF";
-  const XmlNode type = card.Node("type");
-  if (isPowerFactor && !type) return false;
-  const BarLimits limits = LimitsOf(card);
-  const bool ok = isPowerFactor ? ArePowerFactorLimits(limits, BandsOf(type.Value())) : AreAscending(limits);
+bool CheckLimits(const Inspector& inspector, BarElements& bar, const tagSDebugData& data) {
+  const bool isPowerFactor = Says(bar.typeVar, "PF");
+  if (isPowerFactor && !bar.type) return false;
+  const BarLimits limits = bar.Limits();
+  const bool ok = isPowerFactor ? ArePowerFactorLimits(limits, BandsOf(bar.type)) : AreAscending(limits);
   return ok || inspector.Raise(HostCode(L"ANALOGBARCTRL_BAD_VALUE"), data);
 }
 
@@ -39,13 +58,12 @@ bool CheckLimits(const Inspector& inspector, const XmlNode& card, const tagSDebu
 
 // An undeclared go-back variable carries the graph's code, which hosts know for both.
 bool CheckAnalogBar(Inspector& inspector, const XmlNode& card, tagSDebugData& data, bool) {
-  const XmlNode variable = card.Node("variable");
-  if (!variable) return inspector.Raise(HostCode(L"ANALOGBARCTRL_VARIABLE_EMPTY"), data);
+  BarElements bar(card);
+  if (!bar.variable) return inspector.Raise(HostCode(L"ANALOGBARCTRL_VARIABLE_EMPTY"), data);
   ReferenceCheck references(inspector, data, HostCode(L"ANALOGBARCTRL_VIRTUAL_DEVICE_ERROR"),
                             HostCode(L"REPORTGRAPH_GOBACK_VARIABLE_ERROR"));
-  const bool ok =
-      CheckBoundVariable(inspector, variable.Value(), data, references, HostCode(L"ANALOGBARCTRL_VAR_ERROR"));
-  return CheckLimits(inspector, card, data) && ok;
+  const bool ok = CheckBoundVariable(inspector, bar.variable, data, references, HostCode(L"ANALOGBARCTRL_VAR_ERROR"));
+  return CheckLimits(inspector, bar, data) && ok;
 }
 
 }  // namespace xrpt

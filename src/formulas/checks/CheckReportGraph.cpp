@@ -14,7 +14,7 @@ bool CheckReportGraph(Inspector& inspector, const XmlNode& card, tagSDebugData& 
   for (const XmlNode& series : card) {
     if (series.Tag() != "variable") continue;
     hasSeries = true;
-    ok = CheckBoundVariable(inspector, series.Value("id"), data, references, kUnknown) && ok;
+    ok = CheckBoundVariable(inspector, series.Node("id"), data, references, kUnknown) && ok;
   }
   return hasSeries ? ok : inspector.Raise(HostCode(L"REPORTGRAPH_NO_VAR"), data);
 }

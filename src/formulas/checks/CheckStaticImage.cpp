@@ -1,13 +1,12 @@
 // Image cards: a picture of the store.
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/HostCodes.h"
-#include "platform/PictureStore.h"
 
 namespace xrpt {
 
 bool CheckStaticImage(Inspector& inspector, const XmlNode& card, tagSDebugData& data, bool conditioned) {
   const XmlNode image = card.Node("image");
-  if (image && PictureStore::HasImageFile(image.Value("imageId"), image.Value("imagePath"))) return true;
+  if (image && inspector.HasPicture(image)) return true;
   return inspector.Raise(conditioned ? HostCode(L"CONDITIONALCTRL_IMAGE_EMPTY") : HostCode(L"IMAGECTRL_IMAGE_EMPTY"),
                          data);
 }

@@ -22,11 +22,8 @@ bool DeclaredIds::AreAllIn(const UsedIds& used) const {
   return std::includes(used.begin(), used.end(), ids_.begin(), ids_.end());
 }
 
-tagSDebugData::tagSDebugData(const XmlNode& root) : name(root.Value("name")), id(root.Value("id")) {
-  if (const XmlNode table = root.Node("formules")) {
-    formules = std::make_unique<XmlDocument>("formules");
-    formules->Root().Assign(table);
-  }
+tagSDebugData::tagSDebugData(const XmlNode& root)
+    : name(root.Value("name")), id(root.Value("id")), formules(root.Node("formules")) {
   if (root.Value("virtualEnabled") != L"T") return;
   virtualDevices = DeclaredIn(root.Node("virtualDevices"), "virtualDevice");
   goBackVariables = DeclaredIn(root.Node("goBackVariables"), "goBackVariable");

@@ -31,19 +31,19 @@ class DeclaredIds {
 
 struct tagSDebugData {
   tagSDebugData() = default;
-  // Of a "reportLayout" element. Virtual devices and go-back variables count only when the report switches them on.
+  // Of a "reportLayout" element, which must outlive this. Virtual devices and go-back variables count only when the
+  // report switches them on.
   explicit tagSDebugData(const XmlNode& root);
 
   std::wstring name;
   std::wstring id;
-  std::unique_ptr<XmlDocument> formules;      // null when the report has no such element
+  FormulaSource formules;
   std::wstring ctrlId;                        // of the card being checked
   std::optional<DeclaredIds> virtualDevices;  // nothing when absent or switched off, as for the next
   std::optional<DeclaredIds> goBackVariables;
 
   CardPlace place;     // of the card being checked
   int kindTextId = 0;  // and its kind
-  ExpressionReadings readings;
 };
 
 }  // namespace xrpt

@@ -1,6 +1,24 @@
 #include "formulas/checks/Inspector.h"
 
+#include "formulas/VirtualLists.h"
+#include "platform/Text.h"
+
 namespace xrpt {
+namespace {
+
+std::wstring_view WithoutBrackets(std::wstring_view name) {
+  const bool wrapped = name.size() > 1 && name.front() == L'[' && name.back() == L']';
+  return wrapped ? name.substr(1, name.size() - 2) : name;
+}
+
+}  // namespace
+
+bool IsVirtualDevice(const FilteredDriverVariable& parts) {
+  static const std::wstring_view prefix = RulesOf(SourceKind::VirtualDevice).prefix;
+  return std::wstring_view(parts.device).substr(0, prefix.size()) == prefix;
+}
+
+bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == L"GOBACK"; }
 
 bool Inspector::Raise(const CheckCode& code, const tagSDebugData& data, std::optional<std::wstring> detail,
                       bool dontConsider) const {
@@ -15,15 +33,46 @@ bool Inspector::Raise(const CheckCode& code, const tagSDebugData& data, std::opt
   return false;
 }
 
-const ExpressionReading& Inspector::Read(const XmlNode& expression, tagSDebugData& data) const {
+const ExpressionReading& Inspector::Read(const XmlNode& expression, const tagSDebugData& data) {
   std::string joined;
-  return data.readings.Read(host_, expression.WholeText(joined), data.formules.get());
+  return expressions_.Read(host_, expression.WholeText(joined), data.formules);
+}
+
+const BoundVariable& Inspector::Look(const XmlNode& name) {
+  std::string joined;
+  const std::string_view text = name.WholeText(joined);
+  if (const BoundVariable* known = variables_.Find(text)) return *known;
+  const std::wstring whole = FromUtf8(text);
+  const std::wstring_view plain = WithoutBrackets(whole);
+  BoundVariable variable{host_.variables->SplitFilterDriverVariable(plain),
+                         host_.variables->SplitBackFilterDriverVariable(plain), false};
+  const bool isOwn = IsVirtualDevice(variable.device) || IsGoBack(variable.goBack);
+  variable.isInPlant = !isOwn && IsInPlant(plain);
+  return variables_.Add(text, std::move(variable));
+}
+
+bool Inspector::HasPicture(const XmlNode& image) {
+  const XmlNode id = image.Node("imageId");
+  const XmlNode path = image.Node("imagePath");
+  std::string idText, pathText;
+  std::string key(path.WholeText(pathText));
+  key += '\n';
+  key += id.WholeText(idText);
+  if (const bool* known = pictures_.Find(key)) return *known;
+  return pictures_.Add(key, PictureStore::HasImageFile(id.Value(), path.Value()));
 }
 
 bool Inspector::IsInPlant(std::wstring_view variable) {
   if (!plant_) plant_ = host_.driverVariables->NewDriverVariable();
   plant_->Setup(variable);
   return plant_->Lock();
+}
+
+void Inspector::Forget() {
+  plant_.reset();
+  variables_.Clear();
+  pictures_.Clear();
+  expressions_.Clear();
 }
 
 }  // namespace xrpt

@@ -10,6 +10,16 @@
 
 namespace xrpt {
 
+bool IsVirtualDevice(const FilteredDriverVariable& parts);
+bool IsGoBack(const FilteredDriverVariable& parts);
+
+// A driver variable that something is bound to.
+struct BoundVariable {
+  FilteredDriverVariable device;  // cut up for its device
+  FilteredDriverVariable goBack;  // and for its period
+  bool isInPlant = false;         // not asked for what belongs to the report
+};
+
 class Inspector {
  public:
   using Found = std::function<void(const Finding&, const tagSDebugData&)>;
@@ -21,19 +31,26 @@ class Inspector {
   bool Raise(const CheckCode& code, const tagSDebugData& data, std::optional<std::wstring> detail = std::nullopt,
              bool dontConsider = false) const;
   // Of the element's own text.
-  const ExpressionReading& Read(const XmlNode& expression, tagSDebugData& data) const;
-  // Whether the plant has a driver variable of that full name. The plant is looked at once.
-  bool IsInPlant(std::wstring_view variable);
-  // The plant may be another one from here on.
-  void ForgetPlant() { plant_.reset(); }
+  const ExpressionReading& Read(const XmlNode& expression, const tagSDebugData& data);
+  // Of a driver variable's name, which surrounding brackets do not change.
+  const BoundVariable& Look(const XmlNode& name);
+  // Whether there is a file for the picture that an "image" element names.
+  bool HasPicture(const XmlNode& image);
+  // Plant, values and pictures may be others from here on.
+  void Forget();
 
   // Declared ones that some card refers to.
   UsedIds usedVirtualDevices;
   UsedIds usedGoBackVariables;
 
  private:
+  bool IsInPlant(std::wstring_view variable);
+
   const Host& host_;
   Found found_;
+  ExpressionReadings expressions_;
+  TextMemory<BoundVariable> variables_;
+  TextMemory<bool> pictures_;
   std::unique_ptr<RVDriverVariable> plant_;
 };
 

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 
-#include "formulas/VirtualLists.h"
 #include "platform/Numbers.h"
 
 namespace xrpt {
 namespace {
-
-constexpr std::wstring_view kGoBack = L"GOBACK";
 
 bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
@@ -17,13 +14,6 @@ bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 bool isPeriodGoBackVirtual(std::wstring_view period) {
   return ParseInteger(period) == 0 && !std::all_of(period.begin(), period.end(), IsDigit);
 }
-
-bool IsVirtualDevice(const FilteredDriverVariable& parts) {
-  static const std::wstring_view prefix = RulesOf(SourceKind::VirtualDevice).prefix;
-  return std::wstring_view(parts.device).substr(0, prefix.size()) == prefix;
-}
-
-bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == kGoBack; }
 
 bool ReferenceCheck::VirtualDevice(const FilteredDriverVariable& parts) {
   if (!data_.virtualDevices || virtualDevicesEnded_ || !IsVirtualDevice(parts)) return true;

@@ -8,9 +8,6 @@ namespace xrpt {
 // Whether the period of a go-back reference names a variable the report declares; a number does not.
 bool isPeriodGoBackVirtual(std::wstring_view period);
 
-bool IsVirtualDevice(const FilteredDriverVariable& parts);
-bool IsGoBack(const FilteredDriverVariable& parts);
-
 // One card's variables against what the report declares. Declared ones count as used. Each of the two kinds is checked
 // up to its first problem; the checks say whether they raised nothing.
 class ReferenceCheck {

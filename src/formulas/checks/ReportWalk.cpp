@@ -5,6 +5,7 @@
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/HostCodes.h"
 #include "model/CardRegistry.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -47,7 +48,8 @@ void WalkReport(const XmlNode& root, Inspector& inspector, WalkWatcher& watcher)
 void CheckCard(Inspector& inspector, const XmlNode& card, tagSDebugData& data) {
   const HostCheckRow* row = FindHostCheck(card.Tag());
   if (!row) return;
-  data.ctrlId = card.Value("id");
+  std::string joined;
+  AssignUtf8(data.ctrlId, card.Node("id").WholeText(joined));
   row->check(inspector, card, data, false);
 }
 
