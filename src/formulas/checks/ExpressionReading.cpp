@@ -1,5 +1,7 @@
 #include "formulas/checks/ExpressionReading.h"
 
+#include "formulas/VirtualLists.h"
+#include "platform/Characters.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -8,34 +10,41 @@ namespace {
 // The feature every expression of a report may use.
 constexpr int kReportFeature = 5;
 
-std::vector<FilteredDriverVariable> VariablesOf(const Host& host, const RVEvaluator& evaluator) {
+std::vector<FilteredDriverVariable> SourcesOf(const Host& host, const RVEvaluator& evaluator) {
   std::vector<RVToken> tokens;
   evaluator.GetDeviceVariables(tokens);
-  std::vector<FilteredDriverVariable> variables;
+  std::vector<FilteredDriverVariable> sources;
   for (const RVToken& token : tokens) {
     if (token.GetType() != kTokenDriverVariable) continue;
-    variables.push_back(host.variables->SplitBackFilterDriverVariable(token.GetText()));
+    FilteredDriverVariable parts = host.variables->SplitBackFilterDriverVariable(token.GetText());
+    if (IsVirtualDevice(parts) || IsGoBack(parts)) sources.push_back(std::move(parts));
   }
-  return variables;
+  return sources;
 }
 
-// Asked without formulas first: an expression that uses none is the same in every report.
-ExpressionReading ReadOne(const Host& host, std::wstring_view text, const FormulaSource& formulas, bool& usesFormulas) {
+// Formulas are given first: what an analysis says does not hang on them, and the evaluator links once.
+ExpressionReading ReadOne(const Host& host, std::wstring_view text, const XmlDocument* formules) {
   const std::unique_ptr<RVEvaluator> evaluator = host.expressions->NewEvaluator(text);
   evaluator->SetFlags({kReportFeature, -1});
   evaluator->EnableDiscriminators(true);
+  if (formules) evaluator->SetFormules(*formules);
   ExpressionReading reading;
-  double value = 0.0;
   reading.analysis = evaluator->AnalizeExpression();
+  double value = 0.0;
   reading.evaluation = evaluator->Evaluate(value, reading.type);
-  usesFormulas = reading.evaluation == kUndefinedNames;
-  if (usesFormulas && formulas.Document()) {
-    evaluator->SetFormules(*formulas.Document());
-    reading.evaluation = evaluator->Evaluate(value, reading.type);
-  }
   reading.hasModule = reading.evaluation == kEvaluationFails && host.expressions->isThereAModuleInExpression(text);
-  reading.variables = VariablesOf(host, *evaluator);
+  reading.sources = SourcesOf(host, *evaluator);
   return reading;
+}
+
+// Whether anything stands outside the brackets of variables that may be a formula's name; a function's may be one too.
+bool MayUseFormulas(std::wstring_view text) {
+  bool inBrackets = false;
+  for (const wchar_t c : text) {
+    if (c == L'[' || c == L']') inBrackets = c == L'[';
+    if (!inBrackets && IsNameCharacter(c) && !IsDecimalDigit(c)) return true;
+  }
+  return false;
 }
 
 // Every piece with its length in front, so that no two tables read alike.
@@ -48,6 +57,13 @@ void AppendPiece(std::string& text, const XmlNode& piece) {
 }
 
 }  // namespace
+
+bool IsVirtualDevice(const FilteredDriverVariable& parts) {
+  static const std::wstring_view prefix = RulesOf(SourceKind::VirtualDevice).prefix;
+  return std::wstring_view(parts.device).substr(0, prefix.size()) == prefix;
+}
+
+bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == L"GOBACK"; }
 
 FormulaSource::FormulaSource(const XmlNode& table) : table_(table) {
   if (!table) return;
@@ -81,8 +97,9 @@ const ExpressionReading& ExpressionReadings::Read(const Host& host, std::string_
   if (const ExpressionReading* known = plain_.Find(utf8)) return *known;
   Use(formulas);
   if (const ExpressionReading* known = linked_.Find(utf8)) return *known;
-  bool usesFormulas = false;
-  ExpressionReading reading = ReadOne(host, FromUtf8(utf8), formulas, usesFormulas);
+  const std::wstring text = FromUtf8(utf8);
+  const bool usesFormulas = MayUseFormulas(text);
+  ExpressionReading reading = ReadOne(host, text, usesFormulas ? formulas.Document() : nullptr);
   return (usesFormulas ? linked_ : plain_).Add(utf8, std::move(reading));
 }
 

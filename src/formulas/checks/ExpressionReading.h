@@ -12,12 +12,16 @@
 
 namespace xrpt {
 
+// What the parts of a driver variable's name say it belongs to: the report, unless it is the plant's.
+bool IsVirtualDevice(const FilteredDriverVariable& parts);
+bool IsGoBack(const FilteredDriverVariable& parts);
+
 struct ExpressionReading {
-  int analysis = 0;                               // see AnalysisCode
-  int evaluation = 0;                             // see EvaluationCode
-  int type = 0;                                   // see ValueType; of an expression that was evaluated
-  bool hasModule = false;                         // told of one that fails only
-  std::vector<FilteredDriverVariable> variables;  // that it and its formulas read
+  int analysis = 0;                             // see AnalysisCode
+  int evaluation = 0;                           // see EvaluationCode
+  int type = 0;                                 // see ValueType; of an expression that was evaluated
+  bool hasModule = false;                       // told of one that fails only
+  std::vector<FilteredDriverVariable> sources;  // virtual devices and go-back variables it and its formulas read
 
   bool IsEvaluated() const { return evaluation == kEvaluated || evaluation == kNoLiveValue; }
 };
@@ -60,7 +64,7 @@ class TextMemory {
   void Clear() { values_.clear(); }
 
  private:
-  static constexpr std::size_t kMostTexts = 8192;
+  static constexpr std::size_t kMostTexts = 2048;
   static constexpr std::size_t kLongestText = 512;  // bytes
   struct Hash : std::hash<std::string_view> {
     using is_transparent = void;

@@ -1,6 +1,5 @@
 #include "formulas/checks/Inspector.h"
 
-#include "formulas/VirtualLists.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -12,13 +11,6 @@ std::wstring_view WithoutBrackets(std::wstring_view name) {
 }
 
 }  // namespace
-
-bool IsVirtualDevice(const FilteredDriverVariable& parts) {
-  static const std::wstring_view prefix = RulesOf(SourceKind::VirtualDevice).prefix;
-  return std::wstring_view(parts.device).substr(0, prefix.size()) == prefix;
-}
-
-bool IsGoBack(const FilteredDriverVariable& parts) { return parts.kind == L"GOBACK"; }
 
 bool Inspector::Raise(const CheckCode& code, const tagSDebugData& data, std::optional<std::wstring> detail,
                       bool dontConsider) const {

@@ -10,9 +10,6 @@
 
 namespace xrpt {
 
-bool IsVirtualDevice(const FilteredDriverVariable& parts);
-bool IsGoBack(const FilteredDriverVariable& parts);
-
 // A driver variable that something is bound to.
 struct BoundVariable {
   FilteredDriverVariable device;  // cut up for its device

@@ -42,8 +42,8 @@ bool ReferenceCheck::IsGoBackDeclared(const FilteredDriverVariable& parts) {
 
 bool ReferenceCheck::All(const ExpressionReading& expression) {
   bool ok = true;
-  for (const FilteredDriverVariable& parts : expression.variables) ok = VirtualDevice(parts) && ok;
-  for (const FilteredDriverVariable& parts : expression.variables) ok = GoBack(parts) && ok;
+  for (const FilteredDriverVariable& parts : expression.sources) ok = VirtualDevice(parts) && ok;
+  for (const FilteredDriverVariable& parts : expression.sources) ok = GoBack(parts) && ok;
   return ok;
 }
 
