@@ -14,7 +14,7 @@ class OneFile final : public FileService {
     if (file != Path("report.xrpt") || bytes.size() > limit) return std::nullopt;
     return bytes;
   }
-  bool Write(const Path&, std::string_view) override { return true; }
+  SaveResult Write(const Path&, std::string_view, const FileVersion*) override { return {}; }
   std::vector<Path> List(const Path&, std::wstring_view) override { return {}; }
   bool CreateFolder(const Path&) override { return true; }
   bool Rename(const Path&, const Path&) override { return true; }

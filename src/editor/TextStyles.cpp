@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/CommonRows.h"
+#include "model/FieldWalk.h"
 #include "platform/Host.h"
 #include "platform/NamedFiles.h"
 #include "platform/UniqueNames.h"
@@ -10,13 +11,12 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
 constexpr std::string_view kClipboardRoot = "styleClipboard";
 constexpr std::size_t kLongestName = 200;  // bytes; with identifier and ending a file name has 255
 
 using Cfg = tagStyleCfg;
 
-constexpr FieldRow kRows[] = {
+constexpr FieldOf<Cfg> kRows[] = {
     Field<Cfg, codec::String, &Cfg::font, &Font::face>("font", "name", "Arial",
                                                        {text::kFontFace, FieldGroup::Font, FieldEditor::FontFace}),
     FontStyleRow<Cfg, &Cfg::font>(),
@@ -43,10 +43,10 @@ void TellHost() { CurrentHost().identifiers->invalidateGuid(GuidKind::Styles, tr
 void WriteStyle(const tagStyleCfg& style, XmlNode root) {
   root.SetValue("revision", CurrentHost().guids->NewGuidText());
   root.SetValue("name", style.name);
-  root.SetValue("version", kVersion);
+  root.SetValue("version", kFormatVersion);
   XmlNode font = root.Node("font");
   if (!font) font = root.NewChild("font");
-  for (const FieldRow& row : kRows) font.SetValue(row.name, row.text(&style));
+  for (const FieldOf<Cfg>& row : kRows) font.SetValue(row.name, row.text(style));
 }
 
 // The identifier is part of a file name, so one that could leave the folder gives way to a new one.
@@ -66,7 +66,7 @@ void MoveFile(const Path& from, const Path& to) {
 bool SaveDocument(XmlDocument& document, const std::wstring& id, const std::wstring& name) {
   CurrentHost().files->CreateFolder(Folder());
   document.SetFileName(NamedFilePath(Folder(), id, name, kStyleEnding));
-  return document.Save();
+  return static_cast<bool>(document.Save());
 }
 
 std::vector<std::wstring> Names() {
@@ -92,13 +92,13 @@ std::wstring PasteStyle(const XmlNode& style, const std::vector<std::wstring>& t
 
 }  // namespace
 
-const FieldTable& tagStyleCfg::Table() {
-  static constexpr FieldTable kTable{nullptr, kRows};
+const FieldTable<Cfg>& tagStyleCfg::Table() {
+  static constexpr FieldTable<Cfg> kTable{nullptr, kRows};
   return kTable;
 }
 
 bool tagStyleCfg::operator==(const tagStyleCfg& other) const {
-  return name == other.name && EqualFields(Table(), this, &other);
+  return name == other.name && EqualFields(Table(), *this, other);
 }
 
 bool IsValidId(std::wstring_view name) { return IsSafeFileName(name) && ToUtf8(name).size() <= kLongestName; }
@@ -118,7 +118,7 @@ tagStyleCfg OpenStyle(const std::wstring& name) {
   tagStyleCfg style;
   style.name = name;
   XmlDocument document;
-  if (LoadStyle(name, document)) ReadFields(tagStyleCfg::Table(), &style, document.Root());
+  if (LoadStyle(name, document)) ReadFields(tagStyleCfg::Table(), style, document.Root());
   return style;
 }
 

@@ -1,88 +1,104 @@
 #include "host/AtomicWrite.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <algorithm>
 
-#include <atomic>
+#include "host/FileAttributes.h"
+#include "host/TemporaryFile.h"
 
 namespace xrpt {
 namespace {
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
 std::error_code ErrorOf(std::errc code) { return std::make_error_code(code); }
 
-class OpenFile {
- public:
-  OpenFile(const Path& file, int flags, mode_t mode = 0) : descriptor_(::open(file.c_str(), flags | O_CLOEXEC, mode)) {}
-  ~OpenFile() { Close(); }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
+// What is already there under the name; the link count is 0 where nothing is.
+struct Target {
+  Path file;
+  WriteRules rules;
+  struct stat was {};
 
-  explicit operator bool() const { return descriptor_ >= 0; }
-  int Descriptor() const { return descriptor_; }
-  bool Close() {
-    const int descriptor = std::exchange(descriptor_, -1);
-    return descriptor < 0 || ::close(descriptor) == 0;
-  }
-
- private:
-  int descriptor_;
+  bool Exists() const { return was.st_nlink > 0; }
 };
 
-std::error_code WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) return LastError();
-    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+bool IsStillExpected(const Target& target) {
+  struct stat now {};
+  if (!target.rules.expected || !target.rules.expected->exists) return true;
+  return ::stat(target.file.c_str(), &now) == 0 && StampOf(now) == *target.rules.expected;
+}
+
+bool MayReplace(const Target& target) { return !target.rules.expected || target.rules.expected->exists; }
+
+std::error_code Fill(int descriptor, std::string_view bytes) {
+  const std::error_code error = WriteAll(descriptor, bytes);
+  return error ? error : Flush(descriptor);
+}
+
+// Whether the successor of the file cannot have what the file has, so that the file itself must stay.
+bool MustStay(std::error_code error) {
+  return error == std::errc::operation_not_permitted || error == std::errc::permission_denied ||
+         error == std::errc::operation_not_supported;
+}
+
+enum class Way { Renamed, MustStay };
+
+std::error_code Replace(const Target& target, std::string_view bytes, Way& way) {
+  TemporaryFile temporary;
+  std::error_code error = temporary.Create(target.file, target.Exists() ? 0600 : target.rules.mode);
+  if (error) return error;
+  if (target.Exists()) error = TakeAttributes(temporary.Descriptor(), target.file, target.was);
+  if (MustStay(error)) {
+    way = Way::MustStay;
+    return {};
   }
-  return {};
-}
-
-// Some file systems cannot flush; what they can do has then been done.
-std::error_code Flush(int descriptor) {
-  if (::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP) return {};
-  return LastError();
-}
-
-std::error_code WriteNew(const Path& file, std::string_view bytes, const struct stat* former) {
-  OpenFile out(file, O_WRONLY | O_CREAT | O_EXCL, 0666);
-  if (!out) return LastError();
-  if (former && ::fchmod(out.Descriptor(), former->st_mode & 0777) != 0) return LastError();
-  std::error_code error = WriteAll(out.Descriptor(), bytes);
-  if (!error) error = Flush(out.Descriptor());
-  if (!out.Close() && !error) error = LastError();
+  if (!error) error = Fill(temporary.Descriptor(), bytes);
+  if (!error && !IsStillExpected(target)) error = FileFault::Changed;
+  if (!error) error = temporary.RenameTo(target.file, MayReplace(target));
+  if (!error) FlushFolder(target.file.parent_path());
   return error;
 }
 
-std::error_code WriteDevice(const Path& file, std::string_view bytes) {
-  OpenFile out(file, O_WRONLY);
-  return out ? WriteAll(out.Descriptor(), bytes) : LastError();
+std::error_code Overwrite(int descriptor, std::string_view bytes) {
+  if (::lseek(descriptor, 0, SEEK_SET) != 0) return LastError();
+  std::error_code error = WriteAll(descriptor, bytes);
+  if (!error && ::ftruncate(descriptor, static_cast<off_t>(bytes.size())) != 0) error = LastError();
+  return error ? error : Flush(descriptor);
 }
 
-void FlushFolder(const Path& folder) {
-  const OpenFile opened(folder, O_RDONLY | O_DIRECTORY);
-  if (opened) Flush(opened.Descriptor());
-}
-
-// Short, so that it fits wherever the target's name does.
-Path TemporaryFor(const Path& file) {
-  static std::atomic<unsigned> count = 0;
-  const std::string name = ".xrpt-" + std::to_string(::getpid()) + "-" + std::to_string(++count) + ".tmp";
-  return file.parent_path() / name;
-}
-
-std::error_code Replace(const Path& file, std::string_view bytes, const struct stat* former) {
-  const Path temporary = TemporaryFor(file);
-  ::unlink(temporary.c_str());
-  std::error_code error = WriteNew(temporary, bytes, former);
-  if (!error && ::rename(temporary.c_str(), file.c_str()) != 0) error = LastError();
-  if (error) {
-    ::unlink(temporary.c_str());
+// Room is taken before a byte is changed; what goes wrong all the same is undone as far as that goes.
+std::error_code OverwriteOrRestore(const Target& target, std::string_view bytes) {
+  std::string former;
+  std::error_code error = ReadWhole(target.file, static_cast<std::size_t>(target.was.st_size), former);
+  const OpenFile out(target.file, O_WRONLY | O_NOFOLLOW | O_NONBLOCK);
+  if (!error && !out) error = LastError();
+  if (error) return error;
+  if (::posix_fallocate(out.Descriptor(), 0, static_cast<off_t>(std::max<std::size_t>(bytes.size(), 1))) == ENOSPC) {
+    error = ErrorOf(std::errc::no_space_on_device);
   } else {
-    FlushFolder(file.has_parent_path() ? file.parent_path() : Path("."));
+    error = Overwrite(out.Descriptor(), bytes);
   }
+  if (error) Overwrite(out.Descriptor(), former);
   return error;
+}
+
+std::error_code WriteInPlace(const Target& target, std::string_view bytes) {
+  const Target beside{CopyBeside(target.file), {nullptr, target.was.st_mode & 0777}, {}};
+  Way way = Way::Renamed;
+  if (const std::error_code error = Replace(beside, bytes, way)) return error;
+  if (!IsStillExpected(target)) {
+    ::unlink(beside.file.c_str());
+    return FileFault::Changed;
+  }
+  const std::error_code error = OverwriteOrRestore(target, bytes);
+  if (!error) ::unlink(beside.file.c_str());
+  return error;
+}
+
+// A temporary file that somebody took away, where files cannot be locked, is written once more.
+std::error_code Put(const Target& target, std::string_view bytes) {
+  if (target.was.st_nlink > 1) return WriteInPlace(target, bytes);
+  Way way = Way::Renamed;
+  std::error_code error = Replace(target, bytes, way);
+  if (error == std::errc::no_such_file_or_directory) error = Replace(target, bytes, way);
+  return way == Way::MustStay ? WriteInPlace(target, bytes) : error;
 }
 
 // A file that does not exist yet keeps its name; a link leads to what it names, even when that does not exist yet.
@@ -108,26 +124,37 @@ std::error_code ReadAll(int descriptor, std::size_t limit, std::string& bytes) {
   return {};
 }
 
-}  // namespace
-
-std::error_code WriteAtomically(const Path& given, std::string_view bytes) {
-  const Path file = Resolved(given);
-  struct stat former {};
-  if (::stat(file.c_str(), &former) != 0) {
-    return errno == ENOENT ? Replace(file, bytes, nullptr) : LastError();
-  }
-  if (S_ISDIR(former.st_mode)) return ErrorOf(std::errc::is_a_directory);
-  if (::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) return LastError();
-  if (!S_ISREG(former.st_mode)) return WriteDevice(file, bytes);
-  return Replace(file, bytes, &former);
+std::error_code CheckPlain(const struct stat& found) {
+  if (S_ISDIR(found.st_mode)) return ErrorOf(std::errc::is_a_directory);
+  return S_ISREG(found.st_mode) ? std::error_code() : FileFault::NotPlain;
 }
 
+}  // namespace
+
+Path CopyBeside(const Path& file) {
+  Path beside = file;
+  beside += kBesideEnding;
+  return beside;
+}
+
+std::error_code WriteAtomically(const Path& given, std::string_view bytes, const WriteRules& rules) {
+  Target target{Resolved(given), rules, {}};
+  if (::stat(target.file.c_str(), &target.was) != 0) {
+    return errno == ENOENT ? Put({target.file, rules, {}}, bytes) : LastError();
+  }
+  if (const std::error_code error = CheckPlain(target.was)) return error;
+  if (::faccessat(AT_FDCWD, target.file.c_str(), W_OK, AT_EACCESS) != 0) return LastError();
+  return Put(target, bytes);
+}
+
+// Looked at before it is opened, for opening a device may do something; and again after, for it may have been changed.
 std::error_code ReadWhole(const Path& file, std::size_t limit, std::string& bytes) {
-  const OpenFile in(file, O_RDONLY | O_NONBLOCK);
   struct stat found {};
+  if (::stat(file.c_str(), &found) != 0) return LastError();
+  if (const std::error_code error = CheckPlain(found)) return error;
+  const OpenFile in(file, O_RDONLY | O_NONBLOCK | O_NOCTTY);
   if (!in || ::fstat(in.Descriptor(), &found) != 0) return LastError();
-  if (S_ISDIR(found.st_mode)) return ErrorOf(std::errc::is_a_directory);
-  if (!S_ISREG(found.st_mode)) return ErrorOf(std::errc::invalid_argument);
+  if (const std::error_code error = CheckPlain(found)) return error;
   const auto size = static_cast<std::size_t>(found.st_size);
   if (size > limit) return ErrorOf(std::errc::file_too_large);
   bytes.resize(size + 1);  // one more, so that the read that ends the file needs no larger buffer

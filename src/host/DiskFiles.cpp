@@ -1,9 +1,10 @@
 #include "host/DiskFiles.h"
 
-#include <sys/stat.h>
 #include <algorithm>
 
 #include "host/AtomicWrite.h"
+#include "host/Leftovers.h"
+#include "host/Posix.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -21,12 +22,6 @@ std::string Hex(std::size_t value) {
   return text;
 }
 
-Path Beside(const Path& file) {
-  Path recovery = file;
-  recovery += ".recovered";
-  return recovery;
-}
-
 // Not among devices.
 bool MayLieBeside(const Path& file) {
   std::error_code ignored;
@@ -38,7 +33,7 @@ Path InState(const Path& stateFolder, const Path& file) {
   std::error_code ignored;
   const std::string whole = fs::absolute(file, ignored).string();
   const std::string name = file.filename().string().substr(0, 200);
-  return stateFolder / "recovered" / (name + "-" + Hex(std::hash<std::string>()(whole)) + ".recovered");
+  return stateFolder / "recovered" / (name + "-" + Hex(std::hash<std::string>()(whole)) + kBesideEnding);
 }
 
 }  // namespace
@@ -51,17 +46,17 @@ std::optional<std::string> DiskFiles::Read(const Path& file, std::size_t limit, 
   return std::nullopt;
 }
 
-bool DiskFiles::Write(const Path& file, std::string_view bytes) {
-  const std::error_code fault = WriteAtomically(file, bytes);
-  if (fault) {
-    KeepForRecovery(file, bytes, fault.message());
-    return false;
-  }
+SaveResult DiskFiles::Write(const Path& file, std::string_view bytes, const FileVersion* expected) {
+  const FileStamp now = Stamp(file);
+  if (expected && HasChanged(*this, file, *expected)) return {SaveOutcome::Changed, file, {}, {}};
+  const std::error_code fault = WriteAtomically(file, bytes, {expected ? &now : nullptr});
+  if (fault == FileFault::Changed) return {SaveOutcome::Changed, file, {}, {}};
+  if (fault) return KeepForRecovery(file, bytes, fault.message());
   DropRecovery(file);
-  return true;
+  return {SaveOutcome::Saved, file, {}, {}};
 }
 
-void DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason) {
+SaveResult DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const std::string& reason) {
   std::string message = "DiskFiles::Write(): could not save " + file.string() + ": " + reason;
   const Path recovery = WriteRecovery(file, bytes);
   if (!recovery.empty()) {
@@ -70,13 +65,15 @@ void DiskFiles::KeepForRecovery(const Path& file, std::string_view bytes, const 
     recoveries_[file] = recovery;
   }
   host_.logger->Log(4, FromUtf8(message));
+  return {SaveOutcome::Failed, file, reason, recovery};
 }
 
 Path DiskFiles::WriteRecovery(const Path& file, std::string_view bytes) {
-  if (MayLieBeside(file) && !WriteAtomically(Beside(file), bytes)) return Beside(file);
+  const WriteRules privately{nullptr, 0600};
+  if (MayLieBeside(file) && !WriteAtomically(CopyBeside(file), bytes, privately)) return CopyBeside(file);
   const Path elsewhere = InState(stateFolder_, file);
   CreateFolder(elsewhere.parent_path());
-  return WriteAtomically(elsewhere, bytes) ? Path() : elsewhere;
+  return WriteAtomically(elsewhere, bytes, privately) ? Path() : elsewhere;
 }
 
 // Once the bytes are where they belong, what was kept of an earlier failure is stale.
@@ -121,9 +118,15 @@ bool DiskFiles::Remove(const Path& file) {
 
 FileStamp DiskFiles::Stamp(const Path& file) {
   struct stat found {};
-  if (::stat(file.c_str(), &found) != 0) return {};
-  const std::int64_t seconds = found.st_mtim.tv_sec;
-  return {seconds * 1'000'000'000 + found.st_mtim.tv_nsec, static_cast<std::uintmax_t>(found.st_size), true};
+  return ::stat(file.c_str(), &found) == 0 ? StampOf(found) : FileStamp();
+}
+
+std::vector<Path> DiskFiles::ClearLeftovers(const Path& folder) {
+  std::vector<Path> cleared;
+  for (const Path& file : FindLeftovers(folder)) {
+    if (Remove(file)) cleared.push_back(file);
+  }
+  return cleared;
 }
 
 }  // namespace xrpt

@@ -7,12 +7,13 @@
 #include <mutex>
 
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
 
 class FileStyles final : public StyleTable {
  public:
-  static constexpr std::wstring_view kEnding = L".XSTY";
+  static constexpr std::wstring_view kEnding = kStyleEnding;
   using Clock = std::chrono::steady_clock;
 
   // The folder is looked at for changes made by other programs at most once in `interval`.

@@ -17,6 +17,8 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/commands.inc"
 #include "host/texts/en/formulas.inc"
 #include "host/texts/en/checks.inc"
+#include "host/texts/en/files.inc"
+#include "host/texts/en/dialogs.inc"
 };
 
 constexpr TextRow kSpanish[] = {
@@ -28,6 +30,8 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/commands.inc"
 #include "host/texts/es/formulas.inc"
 #include "host/texts/es/checks.inc"
+#include "host/texts/es/files.inc"
+#include "host/texts/es/dialogs.inc"
 };
 // clang-format on
 

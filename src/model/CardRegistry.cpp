@@ -41,7 +41,9 @@ const CardClass* FindCard(std::string_view tag, bool RegistryRow::*place) {
   return nullptr;
 }
 
-std::unique_ptr<RVCardControl> NewCard(const CardClass* kind) { return kind ? kind->create() : nullptr; }
+std::unique_ptr<RVCardControl> NewCard(const CardClass* kind, ModelServices& services) {
+  return kind ? kind->Create(services) : nullptr;
+}
 
 }  // namespace
 
@@ -50,7 +52,12 @@ std::span<const RegistryRow> CardRegistry() { return kRows; }
 const CardClass* PageCardKind(std::string_view tag) { return FindCard(tag, &RegistryRow::onPage); }
 const CardClass* InnerCardKind(std::string_view tag) { return FindCard(tag, &RegistryRow::inConditioned); }
 
-std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag) { return NewCard(PageCardKind(tag)); }
-std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag) { return NewCard(InnerCardKind(tag)); }
+std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag, ModelServices& services) {
+  return NewCard(PageCardKind(tag), services);
+}
+
+std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag, ModelServices& services) {
+  return NewCard(InnerCardKind(tag), services);
+}
 
 }  // namespace xrpt

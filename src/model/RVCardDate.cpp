@@ -17,9 +17,9 @@ std::tm Now() {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardDate::Rows() {
+std::span<const CardRow> RVCardDate::Rows() {
   using Date = RVCardDate;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Date, codec::String, &Date::pattern>(nullptr, "pattern", nullptr,
                                                  {text::kPattern, FieldGroup::Format, FieldEditor::Text}),
       WhenNotEmpty<Date, &Date::value>(Field<Date, codec::String, &Date::value>(
@@ -33,13 +33,13 @@ const CardClass& RVCardDate::Class() {
   return kind;
 }
 
-RVCardDate::RVCardDate() { value = CurrentHost().locale->DateTimeText(Now()); }
+RVCardDate::RVCardDate(ModelServices& services) : RVCardLabel(services), value(services.locale->DateTimeText(Now())) {}
 
 std::wstring RVCardDate::ShownText() const {
-  const Host& host = CurrentHost();
+  const ModelServices& services = Services();
   RVDateTime moment{};
-  if (!host.dates->String2DateTime(value, moment)) moment = Now();
-  return ParseDate(pattern, moment, *host.locale);
+  if (!services.dates->String2DateTime(value, moment)) moment = Now();
+  return ParseDate(pattern, moment, *services.locale);
 }
 
 }  // namespace xrpt

@@ -7,10 +7,6 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
-
-Path ConfigFolder() { return CurrentHost().setup->CfgPath(); }
-
 void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& to) {
   for (const XmlNode& child : from) {
     if (child.Tag() == tag) to.Root().Append(child);
@@ -25,13 +21,13 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 
 }  // namespace
 
-RVReport::RVReport()
-    : id(CurrentHost().guids->NewGuidText()), version(kVersion), dpiFont(CurrentHost().screen->DpiY()) {
+RVReport::RVReport(Host& host)
+    : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
   AddPage();
 }
 
 LoadResult RVReport::Load(const std::wstring& nameOrPath) {
-  if (const std::optional<Path> found = FindNamedFile(ConfigFolder(), nameOrPath, kReportEnding)) {
+  if (const std::optional<Path> found = FindNamedFile(*host_->files, ConfigFolder(), nameOrPath, kReportEnding)) {
     return LoadFile(*found, &nameOrPath);
   }
   const Path file(ToUtf8(nameOrPath));
@@ -42,7 +38,7 @@ LoadResult RVReport::Load(const std::wstring& nameOrPath) {
 LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
   LoadResult result{file, false, {}};
   XmlDocument document;
-  result.loaded = document.Load(file, &result.error);
+  result.loaded = document.Load(*host_->files, file, &result.error);
   if (!result.loaded) document.Create("reportLayout");
   ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
   modified = false;
@@ -52,7 +48,7 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
 void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
   pages.clear();
   ReadIdentity(root, askedName);
-  version = root.Value("version", kVersion);
+  version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
   ReadPages(root, readPage);
@@ -61,18 +57,18 @@ void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, 
 
 void RVReport::ReadIdentity(const XmlNode& root, const std::wstring* askedName) {
   const XmlNode storedId = root.Node("id");
-  id = storedId ? storedId.Value() : CurrentHost().guids->NewGuidText();
+  id = storedId ? storedId.Value() : host_->guids->NewGuidText();
   const XmlNode storedName = root.Node("name");
   name = storedName.Value();
   if (!storedName || !askedName || name == *askedName) return;
   name = *askedName;
-  id = CurrentHost().guids->NewGuidText();
+  id = host_->guids->NewGuidText();
 }
 
 // Text keeps the size it was laid out at on screens of another resolution. A resolution of 0 or less cannot be scaled
 // from.
 void RVReport::ReadFontScale(const XmlNode& root) {
-  const int screenDpi = CurrentHost().screen->DpiY();
+  const int screenDpi = host_->screen->DpiY();
   const XmlNode stored = root.Node("dpiFont");
   dpiFont = stored ? ParseInteger(stored.RawText()) : screenDpi;
   fontFactor = dpiFont > 0 ? static_cast<double>(screenDpi) / dpiFont : 1.0;
@@ -94,7 +90,7 @@ void RVReport::ReadPages(const XmlNode& root, PageReader readPage) {
 }
 
 RVReportPage& RVReport::AddPage() {
-  RVReportPage& page = *pages.emplace_back(std::make_unique<RVReportPage>());
+  RVReportPage& page = *pages.emplace_back(std::make_shared<RVReportPage>(*host_));
   page.fontFactor = fontFactor;
   return page;
 }
@@ -108,42 +104,55 @@ void RVReport::ResetDocuments() {
 bool RVReport::EnsureName() {
   for (int n = 1; name.empty(); ++n) {
     const std::wstring candidate = L"report" + std::to_wstring(n);
-    if (!FindNamedFile(ConfigFolder(), candidate, kReportEnding)) name = candidate;
+    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) name = candidate;
   }
   return IsSafeFileName(name);
 }
 
-bool RVReport::Save() {
-  if (!EnsureName()) return false;
-  CurrentHost().settings->SetRegistryText(L"LastInforme", name);
-  CurrentHost().files->CreateFolder(ConfigFolder());
-  SaveTo(FilePath());
-  return true;
+SaveResult RVReport::Save() {
+  if (!EnsureName()) {
+    modified = true;
+    return {SaveOutcome::BadName, {}, {}, {}};
+  }
+  host_->settings->SetRegistryText(kLastReportValue, name);
+  host_->files->CreateFolder(ConfigFolder());
+  return SaveTo(FilePath());
 }
 
 Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
 
-void RVReport::SaveTo(const Path& file) {
-  CurrentHost().files->Write(file, TemplateText());
-  modified = false;
+SaveResult RVReport::SaveTo(const Path& file) {
+  SaveResult result = WriteTo(file);
+  modified = !result;
+  return result;
 }
 
-std::string RVReport::TemplateText() const {
+SaveResult RVReport::WriteTo(const Path& file) const {
   std::string text;
   XmlWriter out(text);
-  out.Declaration();
-  {
-    const XmlElement root(out, "reportLayout");
-    out.Value("id", id);
-    out.Value("name", name);
-    out.Value("version", version);
-    out.Value("revision", CurrentHost().guids->NewGuidText());
-    out.Plain("dpiFont", std::to_string(dpiFont));
-    out.Bool("hasZoom", true);
-    for (const auto& page : pages) page->SaveTemplate(out);
-    WriteDocuments(out);
-  }
+  WriteTemplate(out);
+  return SaveText(file, out);
+}
+
+std::string RVReport::TemplateText(XmlError* fault) const {
+  std::string text;
+  XmlWriter out(text);
+  WriteTemplate(out);
+  if (fault) *fault = out.Check();
   return text;
+}
+
+void RVReport::WriteTemplate(XmlWriter& out) const {
+  out.Declaration();
+  const XmlElement root(out, "reportLayout");
+  out.Value("id", id);
+  out.Value("name", name);
+  out.Value("version", version);
+  out.Value("revision", host_->guids->NewGuidText());
+  out.Plain("dpiFont", std::to_string(dpiFont));
+  out.Bool("hasZoom", true);
+  for (const auto& page : pages) page->SaveTemplate(out);
+  WriteDocuments(out);
 }
 
 // A file that carries devices or go-back variables always says that they are in use.

@@ -7,11 +7,10 @@
 
 #include "model/RVReportPage.h"
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 #include "platform/Xml.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kReportEnding = L".xrpt";
 
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {
@@ -23,7 +22,7 @@ struct LoadResult {
 class RVReport {
  public:
   // A new, empty report: one page, no name.
-  RVReport();
+  explicit RVReport(Host& host = CurrentHost());
 
   // Opens by name (the configuration folder's file of that name, whatever its identifier) or, when no file has it, by
   // path. A stored name that differs from the one asked for gives way to it, and the report gets a new identity. Asking
@@ -35,12 +34,14 @@ class RVReport {
   // Takes what a "reportLayout" element holds; the element stays as it is, and the stored name stands.
   void SetTemplate(const XmlNode& root) { ReadTemplate(root, nullptr, &RVReportPage::SetTemplate); }
 
-  // Saves under the report's name, naming a nameless report report1, report2, ... first. False when no name could be
-  // made. A failed write is the file service's to log; the report counts as saved all the same.
-  bool Save();
-  void SaveTo(const Path& file);
-  // The whole template as text, with a fresh revision.
-  std::string TemplateText() const;
+  // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
+  // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
+  SaveResult Save();
+  SaveResult SaveTo(const Path& file);
+  // A copy for others: the report stays as modified as it was.
+  SaveResult WriteTo(const Path& file) const;
+  // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
+  std::string TemplateText(XmlError* fault = nullptr) const;
 
   // Where Save writes.
   Path FilePath() const;
@@ -57,10 +58,11 @@ class RVReport {
   XmlDocument formules{"formules"};
   XmlDocument virtualDevices{"virtualDevices"};
   XmlDocument goBackVariables{"goBackVariables"};
-  std::vector<std::unique_ptr<RVReportPage>> pages;  // never empty
+  std::vector<std::shared_ptr<RVReportPage>> pages;  // never empty
   bool modified = false;
 
  private:
+  Path ConfigFolder() const { return host_->setup->CfgPath(); }
   using PageReader = bool (RVReportPage::*)(const XmlNode& page);
   void ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
@@ -68,7 +70,10 @@ class RVReport {
   void ReadVirtualLists(const XmlNode& root);
   void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
+  void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;
+
+  Host* host_;
 };
 
 }  // namespace xrpt

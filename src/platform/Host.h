@@ -4,9 +4,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <ctime>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,13 +13,12 @@
 
 #include "platform/Color.h"
 #include "platform/Expressions.h"
+#include "platform/Files.h"
 #include "platform/Fonts.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
 
 namespace xrpt {
-
-using Path = std::filesystem::path;
 
 // Where things lie. Folders need not exist.
 class SetupService {
@@ -30,34 +27,6 @@ class SetupService {
   virtual Path CfgPath() const = 0;     // reports, styles, virtual-device files
   virtual Path ImagesPath() const = 0;  // the picture store
   virtual std::wstring RegisterKey() const = 0;
-};
-
-struct FileError {
-  std::string reason;  // the system's own word, for people
-};
-
-// When and how large a file was when it was looked at; two equal stamps mean nobody wrote in between.
-struct FileStamp {
-  std::int64_t modified = 0;  // nanoseconds, the file system's clock
-  std::uintmax_t size = 0;
-  bool exists = false;
-  bool operator==(const FileStamp&) const = default;
-};
-
-class FileService {
- public:
-  virtual ~FileService() = default;
-  // The whole file. Nothing, and a reason, for a missing file, a folder, one without permission, one above the limit.
-  virtual std::optional<std::string> Read(const Path& file, std::size_t limit, FileError* error = nullptr) = 0;
-  // All or nothing: the old file stays until the new one is safe on disk. A failure is logged at severity 4 with the
-  // path and the system's reason, and the bytes are kept as a recovery file.
-  virtual bool Write(const Path& file, std::string_view bytes) = 0;
-  // Files of a folder whose name ends with the ending (".xrpt"), by name. A missing folder has none.
-  virtual std::vector<Path> List(const Path& folder, std::wstring_view ending) = 0;
-  virtual bool CreateFolder(const Path& folder) = 0;
-  virtual bool Rename(const Path& from, const Path& to) = 0;
-  virtual bool Remove(const Path& file) = 0;
-  virtual FileStamp Stamp(const Path& file) = 0;
 };
 
 // Texts of the user interface by number, in the user's language.
@@ -126,8 +95,6 @@ class PictureService {
   virtual ~PictureService() = default;
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
-  // False where no decoder is built in, so that a missing picture says nothing about the file.
-  virtual bool CanDecode() const { return true; }
 };
 
 // What one copy puts on the clipboard: the text, and pictures of the same thing for other programs (either may be
@@ -247,29 +214,41 @@ class RVDebugInfo {
   virtual void addWarning(const XmlNode& warning) = 0;
 };
 
-struct Host {
+// What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
+// that a page needs no installed host.
+struct ModelServices {
   std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
-  std::unique_ptr<SetupService> setup;
-  std::unique_ptr<FileService> files;
   std::unique_ptr<TextService> texts;
-  std::unique_ptr<SettingsService> settings;
-  std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<StyleTable> styles;
   std::unique_ptr<GuidService> guids;
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
-  std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<LocaleService> locale;
   std::unique_ptr<DateService> dates;
   std::unique_ptr<ScreenService> screen;
-  std::unique_ptr<DeviceCatalogue> devices;
   std::unique_ptr<VariableNaming> variables;
   std::unique_ptr<DriverVariableService> driverVariables;
   std::unique_ptr<ValueService> values;
   std::unique_ptr<ExpressionService> expressions;
-  std::unique_ptr<RVDebugInfo> debugInfo;
   PictureStore pictureStore;
 
+  // Without a way to read pictures the store has none.
+  explicit ModelServices(PictureStore::Reader readPicture = {});
+  ~ModelServices();
+  ModelServices(const ModelServices&) = delete;
+  ModelServices& operator=(const ModelServices&) = delete;
+};
+
+struct Host : ModelServices {
+  std::unique_ptr<SetupService> setup;
+  std::unique_ptr<FileService> files;
+  std::unique_ptr<SettingsService> settings;
+  std::unique_ptr<IdentifierCache> identifiers;
+  std::unique_ptr<ClipboardService> clipboard;
+  std::unique_ptr<DeviceCatalogue> devices;
+  std::unique_ptr<RVDebugInfo> debugInfo;
+
+  // Its store has the pictures of the images folder.
   Host();
   ~Host();
   Host(const Host&) = delete;
@@ -281,6 +260,9 @@ struct Host {
 Host& CurrentHost();
 // Returns the host installed before, so that a fixture can put it back.
 Host* InstallHost(Host* host);
+
+// Those of the installed host: what a page or a card is made with when its maker has no others to hand it.
+ModelServices& InstalledServices();
 
 // Short forms for what is asked often.
 std::wstring HostText(int id);

@@ -15,16 +15,21 @@ std::wstring FileNameOf(const Path& file) { return FromUtf8(file.filename().stri
 
 }  // namespace
 
-std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+std::optional<Path> FindNamedFile(FileService& files, const Path& folder, std::wstring_view name,
+                                  std::wstring_view ending) {
   if (!IsSafeFileName(name)) return std::nullopt;
   const std::wstring wanted = std::wstring(name) + std::wstring(ending);
   std::optional<Path> found;
-  for (const Path& file : CurrentHost().files->List(folder, L"." + wanted)) {
+  for (const Path& file : files.List(folder, L"." + wanted)) {
     const std::wstring fileName = FileNameOf(file);
     if (fileName.substr(fileName.find(L'.') + 1) == wanted) return file;
     if (!found) found = file;
   }
   return found;
+}
+
+std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+  return FindNamedFile(*CurrentHost().files, folder, name, ending);
 }
 
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending) {

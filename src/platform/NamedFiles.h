@@ -10,6 +10,9 @@ namespace xrpt {
 
 // The file of a name whatever its identifier ("*." + name + ending). Among several matches the one whose text after the
 // first point is exactly the name comes first. Nothing when none matches or the name is no safe file name.
+std::optional<Path> FindNamedFile(FileService& files, const Path& folder, std::wstring_view name,
+                                  std::wstring_view ending);
+// The same with the installed host's files.
 std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending);
 
 // folder / (id + "." + name + ending).

@@ -2,6 +2,7 @@
 // pages and undo steps show it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -42,22 +43,22 @@ using ImageRecordPtr = std::shared_ptr<ImageRecord>;
 
 class PictureStore {
  public:
+  // The decoded picture of an id and a path, or null. Called once a record, with the store's lock held.
+  using Reader = std::function<PicturePtr(const std::wstring& id, const std::wstring& path)>;
+  explicit PictureStore(Reader reader) : reader_(std::move(reader)) {}
+
   // The record of an id and a path, made when nobody holds it yet. The record goes with its last holder.
   ImageRecordPtr Attach(const std::wstring& id, const std::wstring& path);
   void ReloadAll();
   std::size_t Count() const;
 
-  // The decoded file of the images folder: base64 text, XML-escaped, named id + ".img". Null when there is no such
-  // file, when it is no picture, and when id or path would leave the folder.
-  static PicturePtr ReadImageFile(const std::wstring& id, const std::wstring& path);
-  // Whether there is such a file, whatever it holds.
-  static bool HasImageFile(const std::wstring& id, const std::wstring& path);
-
  private:
   friend class ImageRecord;
   using Key = std::pair<std::wstring, std::wstring>;
+  PicturePtr Read(const ImageRecord& record) const { return reader_ ? reader_(record.id_, record.path_) : nullptr; }
   void Forget(const ImageRecord& record);
 
+  Reader reader_;
   mutable std::recursive_mutex lock_;  // the list, and the picture of every record
   std::map<Key, std::weak_ptr<ImageRecord>> records_;
 };

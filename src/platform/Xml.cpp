@@ -49,7 +49,7 @@ pugi::xml_node ElementNamed(const pugi::xml_node& parent, std::string_view tag) 
 // Walks without recursion, and stops at the first node that is too deep.
 class DepthCheck final : public pugi::xml_tree_walker {
  public:
-  bool for_each(pugi::xml_node&) override { return depth() < XmlDocument::kMaxDepth; }
+  bool for_each(pugi::xml_node& node) override { return depth() < XmlDocument::kMaxDepth || !IsElement(node); }
 };
 
 bool IsTooDeep(pugi::xml_document& document) {
@@ -89,8 +89,7 @@ bool DeclaresLatin1(std::string_view text) {
 }
 
 XmlError CheckBytes(std::string_view text) {
-  if (text.size() > XmlDocument::kMaxBytes) return {"the document is too large", XmlDocument::kMaxBytes};
-  if (HasTooManyElements(text)) return {"the document has too many elements", 0};
+  if (XmlError tooMuch = XmlDocument::CheckSize(text); !tooMuch.message.empty()) return tooMuch;
   if (HasWideMark(text) || DeclaresLatin1(text)) return {};
   const std::size_t bad = FindInvalidUtf8(text);
   return bad == std::string_view::npos ? XmlError{} : XmlError{"a byte that is not UTF-8", bad};
@@ -101,7 +100,7 @@ XmlError CheckTree(pugi::xml_document& document) {
   for (const pugi::xml_node& node : document.children()) roots += IsElement(node) ? 1 : 0;
   if (roots == 0) return {"no root element", 0};
   if (roots > 1) return {"more than one root element", 0};
-  if (IsTooDeep(document)) return {"elements are nested too deep", 0};
+  if (IsTooDeep(document)) return {XmlDocument::kTooDeep, 0};
   return {};
 }
 
@@ -280,9 +279,13 @@ XmlNode XmlDocument::Create(std::string_view rootTag) {
 }
 
 bool XmlDocument::Load(const std::filesystem::path& path, XmlError* error) {
+  return Load(*CurrentHost().files, path, error);
+}
+
+bool XmlDocument::Load(FileService& files, const std::filesystem::path& path, XmlError* error) {
   path_ = path;
   FileError fileError;
-  std::optional<std::string> bytes = CurrentHost().files->Read(path, kMaxBytes, &fileError);
+  std::optional<std::string> bytes = files.Read(path, kMaxBytes, &fileError);
   if (bytes) return Parse(std::move(*bytes), error);
   impl_ = std::make_unique<Impl>();
   if (error) *error = {fileError.reason, 0};
@@ -305,17 +308,38 @@ bool XmlDocument::Parse(std::string text, XmlError* error) {
   return false;
 }
 
-bool XmlDocument::Save() const { return CurrentHost().files->Write(path_, Text()); }
+XmlError XmlDocument::CheckSize(std::string_view text) {
+  if (text.size() > kMaxBytes) return {"the document is too large", kMaxBytes};
+  if (HasTooManyElements(text)) return {"the document has too many elements", 0};
+  return {};
+}
+
+SaveResult XmlDocument::Save() const {
+  std::string text;
+  XmlWriter writer(text);
+  Write(writer);
+  return SaveText(path_, writer);
+}
 
 std::string XmlDocument::Text() const {
   std::string text;
   XmlWriter writer(text);
-  writer.Declaration();
-  if (Root()) writer.Copy(Root().Tag(), Root());
+  Write(writer);
   return text;
 }
 
+void XmlDocument::Write(XmlWriter& writer) const {
+  writer.Declaration();
+  if (Root()) writer.Copy(Root().Tag(), Root());
+}
+
 XmlNode XmlDocument::Root() const { return XmlNode(Unwrap(SkipToElement(impl_->document.first_child()))); }
+
+SaveResult SaveText(const Path& file, const XmlWriter& writer, const FileVersion* expected) {
+  const XmlError fault = writer.Check();
+  if (!fault.message.empty()) return {SaveOutcome::Failed, file, fault.message, {}};
+  return CurrentHost().files->Write(file, writer.Written(), expected);
+}
 
 // Here and not with the rest of the writer, because attributes and mixed text are the parser's to tell.
 void XmlWriter::Attributes(const XmlNode& node) {

@@ -11,8 +11,11 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Files.h"
+
 namespace xrpt {
 
+class FileService;
 class XmlWriter;
 
 // Why a text is no document. `offset` counts bytes from its start; `message` is for people.
@@ -119,7 +122,7 @@ struct XmlName {
 };
 
 // Looks up the children of one element, which it goes through once. Among children of one name the first counts; names
-// asked for in the order of the file are found at once.
+// asked for in the order of the file are found at once. Each name is asked for once: a second time it may be missed.
 class XmlCursor {
  public:
   explicit XmlCursor(const XmlNode& parent);
@@ -143,10 +146,12 @@ class XmlCursor {
 
 class XmlDocument {
  public:
-  // Beyond these a text is refused: they bound memory and time for hostile input.
+  // Beyond these a text is neither read nor written: they bound memory and time for hostile input, and what is saved
+  // can be opened again.
   static constexpr std::size_t kMaxBytes = 512u << 20;
   static constexpr std::size_t kMaxElements = 16'000'000;
   static constexpr int kMaxDepth = 256;
+  static constexpr const char* kTooDeep = "elements are nested too deep";
 
   XmlDocument();
   ~XmlDocument();
@@ -160,20 +165,27 @@ class XmlDocument {
   const std::filesystem::path& FileName() const { return path_; }
   // Empties the document and gives it a root.
   XmlNode Create(std::string_view rootTag);
-  // Reads a file through the host's file service and remembers its name. False leaves the document without a root.
+  // Reads a file and remembers its name; through the installed host's files when told no others. False leaves the
+  // document without a root.
+  bool Load(FileService& files, const std::filesystem::path& path, XmlError* error = nullptr);
   bool Load(const std::filesystem::path& path, XmlError* error = nullptr);
   // Parses a whole document. False leaves the document without a root.
   bool Parse(std::string text, XmlError* error = nullptr);
   // Writes to the file name through the host's file service, atomically.
-  bool Save() const;
+  SaveResult Save() const;
   // The document as text, with its declaration.
   std::string Text() const;
+
+  // What makes a text too much to be read or written: bytes or elements. An empty message when it is within bounds.
+  static XmlError CheckSize(std::string_view text);
 
   XmlNode Root() const;
   XmlNode Node(std::string_view path) const { return Root().Node(path); }
 
  private:
   struct Impl;
+  void Write(XmlWriter& writer) const;
+
   std::unique_ptr<Impl> impl_;
   std::filesystem::path path_;
 };

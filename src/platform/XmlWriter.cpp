@@ -1,5 +1,7 @@
 #include "platform/XmlWriter.h"
 
+#include <algorithm>
+
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -47,7 +49,7 @@ void XmlWriter::Start(std::string_view tag) {
   out_ += '<';
   out_ += tag;
   open_ = true;
-  ++depth_;
+  deepest_ = std::max(deepest_, ++depth_);
 }
 
 void XmlWriter::End(std::string_view tag) {
@@ -72,6 +74,11 @@ void XmlWriter::EndTag(std::string_view tag) {
   out_ += tag;
   out_ += '>';
   NewLine();
+}
+
+XmlError XmlWriter::Check() const {
+  if (deepest_ > XmlDocument::kMaxDepth) return {XmlDocument::kTooDeep, 0};
+  return XmlDocument::CheckSize(out_);
 }
 
 void XmlWriter::Value(std::string_view name, std::wstring_view text) {

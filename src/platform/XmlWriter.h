@@ -25,6 +25,11 @@ class XmlWriter {
   // A deep copy of an element under the given tag.
   void Copy(std::string_view tag, const XmlNode& node);
 
+  // What keeps the text from being read again: more bytes, elements or levels than a document may have. An empty
+  // message when nothing does.
+  XmlError Check() const;
+  std::string_view Written() const { return out_; }
+
  private:
   void Indent();
   void NewLine();
@@ -40,9 +45,14 @@ class XmlWriter {
 
   std::string& out_;
   int depth_;
+  int deepest_ = 0;
   bool open_ = false;
   bool compact_ = false;  // inside an element that has text of its own, where space would become part of it
 };
+
+// Writes a whole document through the host's file service, atomically. One that could not be read again is refused
+// before a byte is written.
+SaveResult SaveText(const Path& file, const XmlWriter& document, const FileVersion* expected = nullptr);
 
 // Writes one element for as long as it lives.
 class XmlElement {

@@ -13,5 +13,6 @@ void AddInfo(CLI::App& program, int& status);
 void AddEdit(CLI::App& program, int& status);
 void AddEvaluate(CLI::App& program, int& status);
 void AddRender(CLI::App& program, int& status);
+void AddClean(CLI::App& program, int& status);
 
 }  // namespace xrpt

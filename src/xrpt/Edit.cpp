@@ -15,6 +15,7 @@ namespace {
 struct EditOptions : CommonOptions {
   std::string output;
   std::string actions;
+  bool comfort = false;
 };
 
 std::optional<std::string> ReadScript(const std::string& file) {
@@ -44,7 +45,7 @@ int Edit(const EditOptions& options) {
     return kCouldNotRun;
   }
   const HostSession session(options);
-  ScriptRunner runner;
+  ScriptRunner runner(options.comfort ? EditingOptions::Comfort() : EditingOptions());
   if (!OpenIn(runner.Frame(), options)) return kCouldNotRun;
   for (const Action& action : *actions) {
     const std::string fault = runner.Run(action);
@@ -52,7 +53,7 @@ int Edit(const EditOptions& options) {
     PrintError(AtLine(options.actions, action.line), fault);
     return kCouldNotRun;
   }
-  return WriteOutput(options.output, runner.Frame().Report().TemplateText()) ? kNothingToReport : kCouldNotRun;
+  return SaveReport(runner.Frame().Report(), options.output) ? kNothingToReport : kCouldNotRun;
 }
 
 }  // namespace
@@ -61,10 +62,13 @@ void AddEdit(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand("edit", "Drive the page window by a file of actions, then save");
   const auto options = std::make_shared<EditOptions>();
   options->AddReport(*command);
-  command->add_option("-o,--output", options->output, "Where to write")->required()->type_name("OUT");
+  command->add_option("-o,--output", options->output, "Where to write (-: standard output)")
+      ->required()
+      ->type_name("OUT");
   command->add_option("--actions", options->actions, "The action file (-: standard input)")
       ->required()
       ->type_name("FILE");
+  command->add_flag("--comfort", options->comfort, "Edit with the desktop's options instead of the library's defaults");
   options->AddFolders(*command);
   options->AddDpi(*command);
   command->footer(
@@ -73,7 +77,7 @@ void AddEdit(CLI::App& program, int& status) {
       "  tool label|image|date|formule|conditioned|reportGraph|analogBar|primitive|pointer\n"
       "  press X Y [ctrl] [shift] | move X Y | release X Y | lose-capture\n"
       "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
-      "  set ID FIELD VALUE | print\n"
+      "  set ID FIELD VALUE | answer yes|no | print\n"
       "Examples:\n  xrpt edit report.xrpt -o out.xrpt --actions move-logo.txt\n"
       "  echo 'command SelectAll' | xrpt edit report.xrpt -o out.xrpt --actions -");
   command->callback([options, &status] { status = Edit(*options); });

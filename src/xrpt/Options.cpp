@@ -1,6 +1,8 @@
 #include "xrpt/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
 #include "editor/RVEditControlWnd.h"
@@ -23,6 +25,19 @@ bool IsLoaded(const LoadResult& result) {
   const std::string place = result.error.offset ? " at byte " + std::to_string(result.error.offset) : "";
   PrintError(result.file.string(), result.error.message + place);
   return false;
+}
+
+bool IsSaved(const std::string& file, const SaveResult& result) {
+  if (!result) PrintError(file, result.reason);
+  return static_cast<bool>(result);
+}
+
+bool PrintReport(const RVReport& report) {
+  XmlError fault;
+  const std::string text = report.TemplateText(&fault);
+  if (fault.message.empty() && !(std::cout << text << std::flush)) fault.message = std::strerror(errno);
+  if (!fault.message.empty()) PrintError("standard output", fault.message);
+  return fault.message.empty();
 }
 
 }  // namespace
@@ -85,9 +100,11 @@ void PrintError(const std::string& file, const std::string& reason) {
 }
 
 bool WriteOutput(const std::string& file, const std::string& bytes) {
-  if (CurrentHost().files->Write(file, bytes)) return true;
-  PrintError(file, "could not be written");
-  return false;
+  return IsSaved(file, CurrentHost().files->Write(file, bytes));
+}
+
+bool SaveReport(const RVReport& report, const std::string& file) {
+  return file == "-" ? PrintReport(report) : IsSaved(file, report.WriteTo(file));
 }
 
 }  // namespace xrpt

@@ -17,7 +17,7 @@ int Resave(const ResaveOptions& options) {
   const HostSession session(options);
   RVReport report;
   if (!OpenReport(options, options.name, report)) return kCouldNotRun;
-  return WriteOutput(options.output, report.TemplateText()) ? kNothingToReport : kCouldNotRun;
+  return SaveReport(report, options.output) ? kNothingToReport : kCouldNotRun;
 }
 
 }  // namespace
@@ -26,14 +26,17 @@ void AddResave(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand("resave", "Load a report as the editor does and write it with its saver");
   const auto options = std::make_shared<ResaveOptions>();
   options->AddReport(*command);
-  command->add_option("-o,--output", options->output, "Where to write")->required()->type_name("OUT");
+  command->add_option("-o,--output", options->output, "Where to write (-: standard output)")
+      ->required()
+      ->type_name("OUT");
   command->add_option("--name", options->name, "Open the report under this name (default: the name stored in it)")
       ->type_name("NAME");
   options->AddFolders(*command);
   options->AddDpi(*command);
   command->footer(
       "Examples:\n  xrpt resave examples/config/report.xrpt -o out.xrpt\n"
-      "  xrpt resave Power_quality --config examples/config -o copy.xrpt --name Copy");
+      "  xrpt resave Power_quality --config examples/config -o copy.xrpt --name Copy\n"
+      "  xrpt resave report.xrpt -o - | xmllint --format -");
   command->callback([options, &status] { status = Resave(*options); });
 }
 

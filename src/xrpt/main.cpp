@@ -9,7 +9,7 @@
 namespace {
 
 int Run(int argc, char** argv) {
-  CLI::App program("Report templates on the command line: resave, look into, edit and render them.", "xrpt");
+  CLI::App program("Report templates on the command line: resave, look into, edit and render them, clean up.", "xrpt");
   program.require_subcommand(1);
   program.set_version_flag("--version", XRPT_VERSION);
   program.footer(
@@ -21,6 +21,7 @@ int Run(int argc, char** argv) {
   xrpt::AddInfo(program, status);
   xrpt::AddRender(program, status);
   xrpt::AddEvaluate(program, status);
+  xrpt::AddClean(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -62,14 +62,12 @@ TEST_F(HistoryTest, EveryCommandIsOneStep) {
       {"turn", [](Canvas& c) { c.wnd.SetOrientation(0); }, {text::kTurnPage, 0}},
       {"edit",
        [](Canvas& c) {
-         c.wnd.EditCard(L"a")->field = L"F";
-         c.wnd.CommitEdit();
+         c.wnd.Edit({text::kChange, 2}).Card(L"a")->field = L"F";
        },
        {text::kChange, 2}},
       {"edit page",
        [](Canvas& c) {
-         c.page.properties.name = L"N";
-         c.wnd.CommitPageEdit();
+         c.wnd.Edit({text::kChangePage, 0}).Properties().name = L"N";
        },
        {text::kChangePage, 0}},
   };
@@ -107,9 +105,9 @@ TEST_F(HistoryTest, WhatIsNoStep) {
   EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "the grid";
   canvas.wnd.SetSurround(0x123456);
   EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "the colour round the page";
-  canvas.wnd.EditCard(L"a");
-  EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "a copy that is equal";
-  canvas.wnd.CommitEdit();
+  PageEdit edit = canvas.wnd.Edit({text::kChange, 1});
+  edit.Card(L"a");
+  EXPECT_FALSE(edit.End()) << "a copy that is equal";
   EXPECT_EQ(canvas.wnd.UndoCount(), steps);
   EXPECT_TRUE(canvas.wnd.AddUndoInfo(true)) << "unless it is forced";
 }
@@ -192,7 +190,7 @@ TEST_F(HistoryTest, UndoEndsAGesture) {
     canvas.Move({500, 700});
     canvas.wnd.ControlUndo();
     EXPECT_FALSE(canvas.port.captured);
-    EXPECT_TRUE(canvas.wnd.Selection().IsRectUndefined());
+    EXPECT_TRUE(!canvas.wnd.CurrentGesture().Band());
     const std::string before = canvas.Saved();
     canvas.Release({500, 700});
     EXPECT_EQ(canvas.Saved(), before);

@@ -14,6 +14,7 @@
 #include "model/RVCardImage.h"
 #include "model/RVCardPrimitive.h"
 #include "model/RVCardReportGraph.h"
+#include "model/RVReport.h"
 #include "model/draw/AnalogScale.h"
 
 namespace xrpt {
@@ -143,6 +144,18 @@ TEST_F(CardDrawTest, ConditionedCardsDrawTheirAlternativeInTheirOwnRectangle) {
   EXPECT_EQ(card.cards[1]->x, 150.0);
   draw.flag1 = 0;
   EXPECT_EQ(Recorded(card, draw).Count(CallKind::FillPolygon), 0u);
+}
+
+TEST_F(CardDrawTest, PicturesStandOnTheGroundTheyAreGiven) {
+  auto card = CardOf<RVCardImage>(20, 10);
+  for (const Color ground : {Rgb(0xFF, 0xFF, 0x00), kWhite, kBlack}) {
+    card.backcolor = ground;
+    EXPECT_EQ(Recorded(card).First(CallKind::FillRect).color, ground);
+  }
+  card.backcolor = kNoColor;
+  tagDraw paper = DrawAt();
+  paper.flag1 = 0;
+  EXPECT_EQ(Recorded(card, paper).calls.size(), 0u);
 }
 
 TEST_F(CardDrawTest, ShapesKeepTheirContourInside) {
@@ -311,7 +324,7 @@ TEST_F(CardDrawTest, AnalogBarsLeaveOutMarksThatWouldTouchOthers) {
 // Every kind, filled so that all its branches have something to draw.
 std::vector<std::unique_ptr<RVCardControl>> OneOfEach() {
   std::vector<std::unique_ptr<RVCardControl>> cards;
-  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().create());
+  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().Create());
   for (const auto& card : cards) {
     if (auto* label = dynamic_cast<RVCardLabel*>(card.get())) label->text = L"Some text of two lines\nor three";
     if (auto* formule = dynamic_cast<RVCardFormule*>(card.get())) formule->value = L"1e308";
@@ -327,6 +340,41 @@ std::vector<std::unique_ptr<RVCardControl>> OneOfEach() {
     }
   }
   return cards;
+}
+
+// A report with one of each kind, read, painted and written.
+std::string WorkOn(Host& services, const Path& file, RecordingGraphics& graphics) {
+  RVReport report(services);
+  EXPECT_TRUE(report.LoadFile(file).loaded);
+  const RVReportPage& page = *report.pages.front();
+  PaintPage(graphics, page, DrawAt());
+  for (std::size_t i = 0; i < page.cards.Size(); ++i) page.cards[i].Draw(graphics, DrawAt());
+  return report.TemplateText();
+}
+
+TEST_F(CardDrawTest, APageNeedsNoInstalledHost) {
+  RVReport made;
+  RVCardConditioned container;
+  for (auto& card : OneOfEach()) {
+    if (NewPageCard(card->GetRuntimeClass().tag)) {
+      made.pages.front()->cards.PushBack(std::move(card));
+    } else {
+      container.cards.push_back(std::move(card));
+    }
+  }
+  made.pages.front()->cards.PushBack(container.GetClone());
+  const Path file = TestHost::WriteFile(host.Folder() / "all.xrpt", made.TemplateText());
+  RecordingGraphics installed;
+  RecordingGraphics handed;
+  const int before = host.guids->count;
+  const std::string expected = WorkOn(*host, file, installed);
+  Host* const kept = InstallHost(nullptr);
+  host.guids->count = before;
+  EXPECT_EQ(WorkOn(*kept, file, handed), expected);
+  InstallHost(kept);
+  EXPECT_GT(installed.calls.size(), 100u);
+  EXPECT_EQ(handed.calls.size(), installed.calls.size());
+  EXPECT_EQ(handed.Texts(), installed.Texts());
 }
 
 const double kHostile[] = {0.0,

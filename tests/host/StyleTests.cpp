@@ -15,7 +15,9 @@ class CountingFiles final : public FileService {
     ++reads;
     return files_->Read(file, limit, error);
   }
-  bool Write(const Path& file, std::string_view bytes) override { return files_->Write(file, bytes); }
+  SaveResult Write(const Path& file, std::string_view bytes, const FileVersion* expected) override {
+    return files_->Write(file, bytes, expected);
+  }
   std::vector<Path> List(const Path& folder, std::wstring_view ending) override {
     ++lists;
     return files_->List(folder, ending);

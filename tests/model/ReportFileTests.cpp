@@ -85,8 +85,31 @@ TEST_F(ReportFiles, ANamelessReportTakesTheFirstFreeName) {
   EXPECT_EQ(host->settings->RegistryText(L"LastInforme"), L"report2");
   EXPECT_FALSE(report.modified);
   report.name = L"../escape";
-  EXPECT_FALSE(report.Save());
+  EXPECT_EQ(report.Save().outcome, SaveOutcome::BadName);
   EXPECT_EQ(FileNames().size(), 2u);
+}
+
+TEST_F(ReportFiles, AFailedSaveSaysWhyAndLeavesTheReportModified) {
+  RVReport report;
+  const Path folder = host.Cfg() / "taken.xrpt";
+  std::filesystem::create_directories(folder);
+  const SaveResult failed = report.SaveTo(folder);
+  EXPECT_EQ(failed.outcome, SaveOutcome::Failed);
+  EXPECT_NE(failed.reason, "");
+  EXPECT_EQ(TestHost::ReadFile(failed.kept).find("<?xml"), 0u) << failed.kept;
+  EXPECT_NE(TextOf(failed).find(L"taken.xrpt"), std::wstring::npos);
+  EXPECT_TRUE(report.modified);
+  EXPECT_TRUE(report.SaveTo(host.Cfg() / "free.xrpt"));
+  EXPECT_FALSE(report.modified);
+}
+
+TEST_F(ReportFiles, WhatCouldNotBeOpenedAgainIsNotWritten) {
+  RVReport report;
+  XmlNode node = report.formules.Root();
+  for (int level = 0; level < XmlDocument::kMaxDepth; ++level) node = node.NewChild("formule");
+  const Path file = host.WriteCfg("A.x.xrpt", "old");
+  EXPECT_EQ(report.SaveTo(file).reason, XmlDocument::kTooDeep);
+  EXPECT_EQ(TestHost::ReadFile(file), "old");
 }
 
 TEST_F(ReportFiles, TwoSavesDifferInTheirRevisionOnly) {

@@ -33,6 +33,10 @@ script 1 'press 10 ten\n'
 script 1 'press 10 10 alt\n'
 script 3 '# a comment\n\nzoom huge\n'
 script 1 'zoom -1\n'
+script 1 'zoom 1001\n'
+script 1 'client 2147483647 800\n'
+script 1 'dpi 96 10001\n'
+script 1 'tick 2147483647\n'
 script 1 'tool hammer\n'
 script 1 'key Hyper\n'
 script 1 'command Explode\n'
@@ -52,5 +56,12 @@ refuse "$work" resave "$work" -o "$work/out.xrpt"
 refuse missing.xrpt resave "$work/missing.xrpt" -o "$work/out.xrpt"
 refuse 'required' resave "$folder/plain.xrpt"
 refuse 'dpi' resave "$folder/plain.xrpt" -o "$work/out.xrpt" --dpi 0
+printf '' >"$work/file"
+printf 'command Save\n' >"$work/actions"
+refuse 'actions:1: .*Not a directory' edit "$folder/plain.xrpt" --config "$work/file" -o "$work/out.xrpt" --actions "$work/actions"
+if "$xrpt" resave "$folder/plain.xrpt" -o - >/dev/full 2>"$work/stderr"; then
+  echo "a full disk behind standard output went unnoticed"
+  failed=1
+fi
 refuse nowhere resave "$folder/plain.xrpt" -o "$work/nowhere/out.xrpt"
 exit $failed

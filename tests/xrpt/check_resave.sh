@@ -27,6 +27,9 @@ for report in "$examples"/config/*.xrpt; do
   xmllint --noout --relaxng "$examples/../docs/xrpt.rng" "$work/twice.xrpt" 2>/dev/null
 done
 
+"$xrpt" resave "$report" --images "$examples/images" -o - >"$work/piped.xrpt"
+same_but_revision "$report" "$work/piped.xrpt"
+
 y=20
 for tool in label image date formule conditioned reportGraph analogBar primitive; do
   echo "tool $tool"
