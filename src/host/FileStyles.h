@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <map>
+#include <mutex>
 
 #include "platform/Host.h"
 #include "platform/SystemNames.h"
@@ -23,7 +24,7 @@ class FileStyles final : public StyleTable {
   bool StyleName2Id(std::wstring_view name, std::wstring& id) override;
   std::optional<StyleFont> Font(std::wstring_view name) override;
   // The next question lists the folder again.
-  void Forget() { isListed_ = false; }
+  void Forget();
 
  private:
   struct Entry {
@@ -43,6 +44,7 @@ class FileStyles final : public StyleTable {
   void Read(Entry& entry);
 
   Host& host_;
+  std::mutex lock_;  // checks in the background ask too
   Clock::duration interval_;
   bool isListed_ = false;
   Clock::time_point lookedAt_;

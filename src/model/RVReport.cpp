@@ -40,18 +40,18 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
   XmlDocument document;
   result.loaded = document.Load(*host_->files, file, &result.error);
   if (!result.loaded) document.Create("reportLayout");
-  ReadTemplate(document.Root(), askedName);
+  ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
   modified = false;
   return result;
 }
 
-void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName) {
+void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
   pages.clear();
   ReadIdentity(root, askedName);
   version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
-  ReadPages(root);
+  ReadPages(root, readPage);
   if (pages.empty()) AddPage();
 }
 
@@ -82,9 +82,9 @@ void RVReport::ReadVirtualLists(const XmlNode& root) {
   CopyChildren(root.Node("goBackVariables"), "goBackVariable", goBackVariables);
 }
 
-void RVReport::ReadPages(const XmlNode& root) {
+void RVReport::ReadPages(const XmlNode& root, PageReader readPage) {
   for (const XmlNode& element : root) {
-    if (element.Tag() == "page") AddPage().TakeTemplate(element);
+    if (element.Tag() == "page") (AddPage().*readPage)(element);
     if (element.Tag() == "formules") formules.Create("formules").Assign(element);
   }
 }
