@@ -36,12 +36,16 @@ struct LabelText {
   std::wstring text;
   const RVCardLabel& label;
 
+  bool IsTurned() const { return std::fmod(label.orientation, 360.0) != 0.0; }
   SizeD BoxIn(const RectD& area) const {
     const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
-    return TurnedBox(card, label.orientation, CurrentHost().fonts->Metrics(font).lineSpacing);
+    return IsTurned() ? TurnedRoom(card, label.orientation) : card;
   }
   TextLayout LaidOutIn(const RectD& area) const {
-    return LayOutText(*CurrentHost().fonts, font, text, {BoxIn(area), label.horizontalAlign, label.verticalAlign});
+    const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
+    const TextBox box{card, label.horizontalAlign, label.verticalAlign};
+    FontService& fonts = *CurrentHost().fonts;
+    return IsTurned() ? LayOutTurnedText(fonts, font, text, box, label.orientation) : LayOutText(fonts, font, text, box);
   }
   bool FitsInto(const RectD& area) const {
     const SizeD box = BoxIn(area);
@@ -89,9 +93,9 @@ std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
   const std::wstring stored = view.element.Value("style");
   if (!stored.empty() && !styles.StyleId2Name(stored, found)) return stored;
   std::optional<std::wstring> unknown;
-  ForEachField(view.card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(view.card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (row.panel.editor != FieldEditor::Style) return;
-    const std::wstring name = row.text(&view.card);
+    const std::wstring name = row.text(view.card);
     if (!name.empty() && !styles.StyleName2Id(name, found)) unknown = name;
   });
   return unknown;

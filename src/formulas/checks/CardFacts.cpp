@@ -17,19 +17,19 @@ void AddExpression(const std::wstring& expression, CardFacts& facts) {
   for (const auto& [name, uses] : FormulasIn(expression)) facts.formulas.push_back(name);
 }
 
-void AddBound(const ListTable& table, const RVCardControl& card, CardFacts& facts) {
-  for (const ListRow& row : table.rows) {
+void AddBound(const ListTable<RVCardControl>& table, const RVCardControl& card, CardFacts& facts) {
+  for (const ListOf<RVCardControl>& row : table.rows) {
     if (row.panel.editor != FieldEditor::Variable) continue;
-    for (std::size_t i = 0; i < row.size(&card); ++i) facts.formulas.push_back(row.text(&card, i));
+    for (std::size_t i = 0; i < row.size(card); ++i) facts.formulas.push_back(row.text(card, i));
   }
 }
 
 // A field that names a variable may name a formula as well.
 void AddFields(const RVCardControl& card, CardFacts& facts) {
-  ForEachField(card.GetRuntimeClass().table, [&card, &facts](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&card, &facts](const CardRow& row) {
     if (row.list) AddBound(row.list(), card, facts);
-    if (row.panel.editor == FieldEditor::Variable) facts.formulas.push_back(row.text(&card));
-    if (row.panel.editor == FieldEditor::FontFace && row.Applies(&card)) facts.faces.push_back(row.text(&card));
+    if (row.panel.editor == FieldEditor::Variable) facts.formulas.push_back(row.text(card));
+    if (row.panel.editor == FieldEditor::FontFace && row.Applies(card)) facts.faces.push_back(row.text(card));
   });
 }
 
@@ -53,7 +53,6 @@ void AddCard(const RVCardControl& card, CardFacts& facts) {
 // As the cards draw their ground.
 bool IsOpaque(const RVCardControl& card) {
   const bool hasGround = card.backcolor != kNoColor;
-  if (dynamic_cast<const RVCardImage*>(&card)) return hasGround && card.backcolor != RVCardImage::kNewBackColor;
   if (const auto* shape = dynamic_cast<const RVCardPrimitive*>(&card)) {
     const bool fillsItsCard =
         shape->type == PrimitiveType::Line || (shape->type == PrimitiveType::Box && shape->orientation == 0.0);

@@ -31,15 +31,15 @@ void RemoveFormula(RVReport& report, const std::wstring& name) {
 }
 
 bool SetField(RVCardControl& card, const Change& change) {
-  const FieldRow* row = FindField(card.GetRuntimeClass().table, change.field);
+  const CardRow* row = FindField(card.GetRuntimeClass().table, change.field);
   if (!row || !row->assign) return false;
-  row->assign(&card, ToUtf8(change.value));
+  row->assign(card, ToUtf8(change.value));
   return true;
 }
 
 bool ApplyToCard(RVReportPage& page, const CardPlace& place, const Change& change) {
   if (change.kind == Change::Kind::MoveToFront) {
-    page.cards.MoveToFront(static_cast<std::size_t>(place.card));
+    page.cards.MoveToFront({static_cast<std::size_t>(place.card)});
     return true;
   }
   RVCardControl* card = CardAt(page, place);
