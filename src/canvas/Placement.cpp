@@ -103,7 +103,7 @@ double SnapToGrid(double value, double step) {
 
 void SnapFarEdge(double near, double& size, double step) {
   const double snapped = SnapToGrid(near + size, step) - near;
-  if (snapped > 0.0) size = snapped;
+  if (snapped >= kLeastExtent) size = snapped;
 }
 
 void IntelligentAdjustToGrid(CardRect& rect, const GridSteps& grid, const PagePlacement& place) {

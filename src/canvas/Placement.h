@@ -49,6 +49,8 @@ inline bool IsActive(double step) { return step > 0.0; }
 
 // The nearest grid line.
 double SnapToGrid(double value, double step);
+// The least that the two decimals of a file can tell from nothing, millimetres.
+inline constexpr double kLeastExtent = 0.01;
 // The far edge put onto the grid; never so that nothing of the size is left.
 void SnapFarEdge(double near, double& size, double step);
 // Pulls an edge onto the grid when it already lies within a pixel of a line; cards placed between lines stay.
