@@ -45,7 +45,8 @@ struct LabelText {
     const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
     const TextBox box{card, label.horizontalAlign, label.verticalAlign};
     FontService& fonts = *CurrentHost().fonts;
-    return IsTurned() ? LayOutTurnedText(fonts, font, text, box, label.orientation) : LayOutText(fonts, font, text, box);
+    return IsTurned() ? LayOutTurnedText(fonts, font, text, box, label.orientation)
+                      : LayOutText(fonts, font, text, box);
   }
   bool FitsInto(const RectD& area) const {
     const SizeD box = BoxIn(area);

@@ -1,7 +1,7 @@
 #include "formulas/checks/Inspector.h"
 
-#include "platform/Text.h"
 #include "platform/ImageFiles.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
