@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/TextIds.h"
@@ -33,7 +34,13 @@
 namespace xrpt {
 
 namespace {
-constexpr wchar_t kLastReport[] = L"LastInforme";
+constexpr char kPropertiesPanel[] = "PropertiesPanel";
+
+// The log names the function a message comes from, "Class::Function(): ", which says nothing to users.
+QString WithoutOrigin(QString message) {
+  static const QRegularExpression kOrigin(QStringLiteral("^[\\w:~]+\\(\\): "));
+  return message.remove(kOrigin);
+}
 }  // namespace
 
 MainWindow::MainWindow() {
@@ -81,14 +88,14 @@ void MainWindow::Open(const std::wstring& nameOrPath) {
 void MainWindow::OpenLast() {
   const std::vector<std::wstring> names = NamesInFolder(CurrentHost().setup->CfgPath(), kReportEnding);
   if (names.empty()) return;
-  const std::wstring last = CurrentHost().settings->RegistryText(kLastReport);
+  const std::wstring last = CurrentHost().settings->RegistryText(kLastReportValue);
   const bool there = std::find(names.begin(), names.end(), last) != names.end();
   frame_->OpenByName(there ? last : names.front());
 }
 
 void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
+  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
@@ -108,15 +115,8 @@ void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
   window.SetPictureMaker(AddPictures);
-  window.SetToolbarEntry(
-      {text::kProperties, [this] { return IsPropertiesShown(); }, [this](int) { ToggleProperties(); }});
-}
-
-bool MainWindow::IsPropertiesShown() const { return propertiesDock_ && propertiesDock_->isVisible(); }
-
-void MainWindow::ToggleProperties() {
-  sideDocks_->Forget(*propertiesDock_);
-  propertiesDock_->setVisible(!IsPropertiesShown());
+  window.SetToolbarEntry({text::kProperties, [this] { return docks_.at(kPropertiesPanel)->isVisible(); },
+                          [this](int) { TogglePanel(*docks_.at(kPropertiesPanel)); }});
 }
 
 void MainWindow::PageWindowGone(WindowPort& port) {
@@ -203,10 +203,11 @@ void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
 void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
 
 // A failed write is logged by whoever wrote; what could not be written waits in a recovery file.
-void MainWindow::OnLogged(int severity, const QString& message) {
+void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kWarning = 3;
   constexpr int kError = 4;
   if (severity < kWarning) return;
+  const QString message = WithoutOrigin(logged);
   problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
   if (severity < kError) return;
   writeFailed_ = true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 
 #include "editor/EditorPort.h"
 #include "editor/SelectedFields.h"
@@ -67,9 +68,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void BuildCentre();
   void BuildRibbon();
   void BuildDocks();
-  bool IsPropertiesShown() const;
-  void ToggleProperties();
-  QDockWidget* AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
+  QDockWidget* AddPanel(const char* command, int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
   void BuildStatusBar();
   void BuildKeys();
   void WatchLog();
@@ -97,8 +96,11 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenShortcutSheet();
   void ExportPdf();
   void ExportImages();
+  void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
+                   void (MainWindow::*again)());
   void Print();
   void ShowSwitches();
+  void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);
   bool MayClose();
 
@@ -114,8 +116,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel* properties_ = nullptr;
   ProblemsList* problems_ = nullptr;
   StatusBar* status_ = nullptr;
-  std::vector<QDockWidget*> docks_;
-  QDockWidget* propertiesDock_ = nullptr;
+  std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;

@@ -54,14 +54,16 @@ void MainWindow::BuildRibbon() {
   setMenuWidget(ribbon_);
 }
 
-QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area) {
+QDockWidget* MainWindow::AddPanel(const char* command, int titleId, const char* name, QWidget* content,
+                                  Qt::DockWidgetArea area) {
   auto* dock = new QDockWidget(Translated(titleId), this);
   dock->setObjectName(QLatin1String(name));
   dock->setWidget(content);
   GiveTitle(*dock);
   content->setMinimumWidth(kNarrowestPanel);
   addDockWidget(area, dock);
-  docks_.push_back(dock);
+  docks_.emplace(command, dock);
+  connect(dock, &QDockWidget::visibilityChanged, this, [this] { RefreshSoon(); });
   return dock;
 }
 
@@ -74,20 +76,21 @@ void MainWindow::BuildDocks() {
     properties_->Commit();
     frame_->ShowPage(page);
   };
-  outline_->cardChosen = [this](const std::wstring& id) {
+  outline_->cardsChosen = [this](const std::vector<std::size_t>& cards) {
     properties_->Commit();
-    frame_->CurrentPage().SelectControlById(id);
+    frame_->CurrentPage().SelectPlaces(cards);
     RefreshSoon();
   };
   properties_ = new PropertyPanel(*fields_, this);
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsList(this);
   problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
-  QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
-  propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
-  QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
-  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, propertiesDock_});
-  resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
+  QDockWidget* left = AddPanel("OutlinePanel", text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
+  QDockWidget* right =
+      AddPanel("PropertiesPanel", text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
+  QDockWidget* below = AddPanel("ProblemsPanel", text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
+  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
   problems_->countChanged = [below](int count) {
@@ -103,7 +106,7 @@ void MainWindow::BuildStatusBar() {
     pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
   };
   pages_->pointerMoved = [this](std::optional<PointD> position) { status_->SetPointer(position); };
-  pages_->View().menuUsed = [this] { RefreshSoon(); };
+  pages_->View().changed = [this] { RefreshSoon(); };
   pages_->View().resized = [this] { RefitZoom(); };
 }
 

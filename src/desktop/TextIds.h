@@ -85,6 +85,10 @@ inline constexpr int kFirstFieldGroup = kGroupGeometry;
 
 inline constexpr int kMoreGroups = 62400;
 inline constexpr int kMoreCommands = 62401;
+inline constexpr int kReplaceFiles = 62402;
+inline constexpr int kCannotWrite = 62403;
+inline constexpr int kPageTooLarge = 62404;
+inline constexpr int kTryAgain = 62405;
 
 // The system's own.
 inline constexpr int kCancel = 380;

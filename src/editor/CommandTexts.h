@@ -98,5 +98,9 @@ inline constexpr int kMovePageDown = 61490;
 inline constexpr int kSearch = 61495;
 inline constexpr int kReplaceText = 61496;
 inline constexpr int kFindGroup = 61497;
+inline constexpr int kPanelsGroup = 61540;
+inline constexpr int kOutlinePanel = 61541;
+inline constexpr int kPropertiesPanel = 61542;
+inline constexpr int kProblemsPanel = 61543;
 
 }  // namespace xrpt::text

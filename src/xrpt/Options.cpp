@@ -32,10 +32,12 @@ bool IsSaved(const std::string& file, const SaveResult& result) {
   return static_cast<bool>(result);
 }
 
-bool PrintText(const std::string& text) {
-  if (std::cout << text << std::flush) return true;
-  PrintError("standard output", std::strerror(errno));
-  return false;
+bool PrintReport(const RVReport& report) {
+  XmlError fault;
+  const std::string text = report.TemplateText(&fault);
+  if (fault.message.empty() && !(std::cout << text << std::flush)) fault.message = std::strerror(errno);
+  if (!fault.message.empty()) PrintError("standard output", fault.message);
+  return fault.message.empty();
 }
 
 }  // namespace
@@ -102,13 +104,7 @@ bool WriteOutput(const std::string& file, const std::string& bytes) {
 }
 
 bool SaveReport(const RVReport& report, const std::string& file) {
-  XmlError fault;
-  const std::string text = report.TemplateText(&fault);
-  if (!fault.message.empty()) {
-    PrintError(file == "-" ? "standard output" : file, fault.message);
-    return false;
-  }
-  return file == "-" ? PrintText(text) : WriteOutput(file, text);
+  return file == "-" ? PrintReport(report) : IsSaved(file, report.WriteTo(file));
 }
 
 }  // namespace xrpt

@@ -121,7 +121,7 @@ void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
   } else {
     Window()->OnCommand(command);
   }
-  if (menuUsed) menuUsed();
+  if (changed) changed();
 }
 
 // --- Painting ---

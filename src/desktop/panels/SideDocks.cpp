@@ -39,8 +39,12 @@ int SideDocks::RoomForPage() const {
 }
 
 void SideDocks::Fit() {
+  const bool isFirst = width_ == 0;
+  for (Side& side : sides_) {
+    if (isFirst) side.width = std::max(side.dock->width(), side.dock->sizeHint().width());
+  }
   const bool isNarrower = window_.width() < width_;
-  isNarrower ? HideUntilPageFits() : ShowWhileTheyFit();
+  isFirst || isNarrower ? HideUntilPageFits() : ShowWhileTheyFit();
   width_ = window_.width();
 }
 
