@@ -36,12 +36,13 @@ struct LabelText {
   std::wstring text;
   const RVCardLabel& label;
 
+  FontService& Fonts() const { return *label.Services().fonts; }
   SizeD BoxIn(const RectD& area) const {
     const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
-    return TurnedBox(card, label.orientation, CurrentHost().fonts->Metrics(font).lineSpacing);
+    return TurnedBox(card, label.orientation, Fonts().Metrics(font).lineSpacing);
   }
   TextLayout LaidOutIn(const RectD& area) const {
-    return LayOutText(*CurrentHost().fonts, font, text, {BoxIn(area), label.horizontalAlign, label.verticalAlign});
+    return LayOutText(Fonts(), font, text, {BoxIn(area), label.horizontalAlign, label.verticalAlign});
   }
   bool FitsInto(const RectD& area) const {
     const SizeD box = BoxIn(area);
@@ -57,9 +58,9 @@ const RVCardLabel* StillLabel(const RVCardControl& card) {
   return label;
 }
 
-DrawScale ScaleOn(const PageShape& page) {
+DrawScale ScaleOf(const CardView& view) {
   constexpr double kUsualDpi = 96.0;
-  return {1.0, 1.0, page.fontFactor * kUsualDpi / CurrentHost().screen->DpiY()};
+  return {1.0, 1.0, view.page.fontFactor * kUsualDpi / view.card.Services().screen->DpiY()};
 }
 
 // As high as the text is when it has the rest of the page below it, if that helps. A card inside another has no height
@@ -84,14 +85,14 @@ double PrintedDpi(const Picture& picture, const RVCardImage& card, const RectD& 
 }
 
 std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
-  StyleTable& styles = *CurrentHost().styles;
+  StyleTable& styles = *view.card.Services().styles;
   std::wstring found;
   const std::wstring stored = view.element.Value("style");
   if (!stored.empty() && !styles.StyleId2Name(stored, found)) return stored;
   std::optional<std::wstring> unknown;
-  ForEachField(view.card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(view.card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (row.panel.editor != FieldEditor::Style) return;
-    const std::wstring name = row.text(&view.card);
+    const std::wstring name = row.text(view.card);
     if (!name.empty() && !styles.StyleName2Id(name, found)) unknown = name;
   });
   return unknown;
@@ -116,7 +117,7 @@ std::optional<Note> OutsidePage(const CardView& view) {
 std::optional<Note> TextCutOff(const CardView& view) {
   const RVCardLabel* label = StillLabel(view.card);
   if (!label) return std::nullopt;
-  const LabelText text{PageFont(label->font, ScaleOn(view.page)), label->ShownText(), *label};
+  const LabelText text{PageFont(label->font, ScaleOf(view)), label->ShownText(), *label};
   if (text.text.empty() || text.FitsInto(view.area)) return std::nullopt;
   return Note{.remedy = MakeHigher(text, view)};
 }

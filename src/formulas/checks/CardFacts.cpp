@@ -17,19 +17,19 @@ void AddExpression(const std::wstring& expression, CardFacts& facts) {
   for (const auto& [name, uses] : FormulasIn(expression)) facts.formulas.push_back(name);
 }
 
-void AddBound(const ListTable& table, const RVCardControl& card, CardFacts& facts) {
-  for (const ListRow& row : table.rows) {
+void AddBound(const ListTable<RVCardControl>& table, const RVCardControl& card, CardFacts& facts) {
+  for (const auto& row : table.rows) {
     if (row.panel.editor != FieldEditor::Variable) continue;
-    for (std::size_t i = 0; i < row.size(&card); ++i) facts.formulas.push_back(row.text(&card, i));
+    for (std::size_t i = 0; i < row.size(card); ++i) facts.formulas.push_back(row.text(card, i));
   }
 }
 
 // A field that names a variable may name a formula as well.
 void AddFields(const RVCardControl& card, CardFacts& facts) {
-  ForEachField(card.GetRuntimeClass().table, [&card, &facts](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&card, &facts](const CardRow& row) {
     if (row.list) AddBound(row.list(), card, facts);
-    if (row.panel.editor == FieldEditor::Variable) facts.formulas.push_back(row.text(&card));
-    if (row.panel.editor == FieldEditor::FontFace && row.Applies(&card)) facts.faces.push_back(row.text(&card));
+    if (row.panel.editor == FieldEditor::Variable) facts.formulas.push_back(row.text(card));
+    if (row.panel.editor == FieldEditor::FontFace && row.Applies(card)) facts.faces.push_back(row.text(card));
   });
 }
 

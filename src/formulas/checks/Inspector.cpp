@@ -1,5 +1,6 @@
 #include "formulas/checks/Inspector.h"
 
+#include "platform/ImageFiles.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -51,7 +52,7 @@ bool Inspector::HasPicture(const XmlNode& image) {
   key += '\n';
   key += id.WholeText(idText);
   if (const bool* known = pictures_.Find(key)) return *known;
-  return pictures_.Add(key, PictureStore::HasImageFile(id.Value(), path.Value()));
+  return pictures_.Add(key, HasImageFile(host_, id.Value(), path.Value()));
 }
 
 bool Inspector::IsInPlant(std::wstring_view variable) {

@@ -31,9 +31,9 @@ void RemoveFormula(RVReport& report, const std::wstring& name) {
 }
 
 bool SetField(RVCardControl& card, const Change& change) {
-  const FieldRow* row = FindField(card.GetRuntimeClass().table, change.field);
+  const CardRow* row = FindField(card.GetRuntimeClass().table, change.field);
   if (!row || !row->assign) return false;
-  row->assign(&card, ToUtf8(change.value));
+  row->assign(card, ToUtf8(change.value));
   return true;
 }
 
