@@ -142,6 +142,8 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
       break;
     case Message::SelectionOrGeometryChanged:
     case Message::CardChanged:
+    case Message::CardAnimationStarted:
+    case Message::CardAnimationStopped:
       break;
     case Message::Refused:
       return port_.Tell(static_cast<int>(message.value));

@@ -93,6 +93,8 @@ class LoggerService {
 class PictureService {
  public:
   virtual ~PictureService() = default;
+  // Whether it knows any format at all; a build without the toolkit knows none.
+  virtual bool CanDecode() const { return true; }
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
 };

@@ -20,7 +20,9 @@ class WatchedFiles final : public FileService {
     if (beforeReport && file.extension() == ".xrpt") beforeReport(file);
     return files_->Read(file, limit, error);
   }
-  bool Write(const Path& file, std::string_view bytes) override { return files_->Write(file, bytes); }
+  SaveResult Write(const Path& file, std::string_view bytes, const FileVersion* expected) override {
+    return files_->Write(file, bytes, expected);
+  }
   std::vector<Path> List(const Path& folder, std::wstring_view ending) override { return files_->List(folder, ending); }
   bool CreateFolder(const Path& folder) override { return files_->CreateFolder(folder); }
   bool Rename(const Path& from, const Path& to) override { return files_->Rename(from, to); }

@@ -36,13 +36,17 @@ struct LabelText {
   std::wstring text;
   const RVCardLabel& label;
 
-  FontService& Fonts() const { return *label.Services().fonts; }
+  bool IsTurned() const { return std::fmod(label.orientation, 360.0) != 0.0; }
   SizeD BoxIn(const RectD& area) const {
     const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
-    return TurnedBox(card, label.orientation, Fonts().Metrics(font).lineSpacing);
+    return IsTurned() ? TurnedRoom(card, label.orientation) : card;
   }
   TextLayout LaidOutIn(const RectD& area) const {
-    return LayOutText(Fonts(), font, text, {BoxIn(area), label.horizontalAlign, label.verticalAlign});
+    const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
+    const TextBox box{card, label.horizontalAlign, label.verticalAlign};
+    FontService& fonts = *label.Services().fonts;
+    return IsTurned() ? LayOutTurnedText(fonts, font, text, box, label.orientation)
+                      : LayOutText(fonts, font, text, box);
   }
   bool FitsInto(const RectD& area) const {
     const SizeD box = BoxIn(area);

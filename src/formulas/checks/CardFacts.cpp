@@ -18,7 +18,7 @@ void AddExpression(const std::wstring& expression, CardFacts& facts) {
 }
 
 void AddBound(const ListTable<RVCardControl>& table, const RVCardControl& card, CardFacts& facts) {
-  for (const auto& row : table.rows) {
+  for (const ListOf<RVCardControl>& row : table.rows) {
     if (row.panel.editor != FieldEditor::Variable) continue;
     for (std::size_t i = 0; i < row.size(card); ++i) facts.formulas.push_back(row.text(card, i));
   }
@@ -53,7 +53,6 @@ void AddCard(const RVCardControl& card, CardFacts& facts) {
 // As the cards draw their ground.
 bool IsOpaque(const RVCardControl& card) {
   const bool hasGround = card.backcolor != kNoColor;
-  if (dynamic_cast<const RVCardImage*>(&card)) return hasGround && card.backcolor != RVCardImage::kNewBackColor;
   if (const auto* shape = dynamic_cast<const RVCardPrimitive*>(&card)) {
     const bool fillsItsCard =
         shape->type == PrimitiveType::Line || (shape->type == PrimitiveType::Box && shape->orientation == 0.0);

@@ -39,7 +39,7 @@ bool SetField(RVCardControl& card, const Change& change) {
 
 bool ApplyToCard(RVReportPage& page, const CardPlace& place, const Change& change) {
   if (change.kind == Change::Kind::MoveToFront) {
-    page.cards.MoveToFront(static_cast<std::size_t>(place.card));
+    page.cards.MoveToFront({static_cast<std::size_t>(place.card)});
     return true;
   }
   RVCardControl* card = CardAt(page, place);
