@@ -75,7 +75,7 @@ TEST_F(OpenReportTest, LooksOnlyAtWhatChanged) {
   Edit<RVCardFormule>(7).value = L"1 +";
   EXPECT_EQ(LookedAt(), 1u);
   EXPECT_EQ(CodesOf(check.Findings()), Codes{"FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.7"});
-  report.pages[0]->cards.MoveToFront(7);
+  report.pages[0]->cards.MoveToFront({7});
   EXPECT_EQ(LookedAt(), 0u);
   EXPECT_EQ(CodesOf(check.Findings()), Codes{"FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.0"});
   report.pages[0]->cards.Remove({0});
