@@ -1,6 +1,6 @@
-// How the cost of each command grows with the cards it works on: 1,000, 10,000 and 100,000, all of them selected. Twice as
-// many may cost a little more than twice as much and no more: an exponent above 1.2 fails the run. Each figure is the
-// best of a few, of the whole command with its step of the history.
+// How the cost of each command grows with the cards it works on: 1,000, 10,000 and 100,000, all of them selected. Twice
+// as many may cost a little more than twice as much and no more: an exponent above 1.2 fails the run. Each figure is
+// the best of a few, of the whole command with its step of the history.
 #include <algorithm>
 #include <chrono>
 #include <cmath>

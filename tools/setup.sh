@@ -7,7 +7,7 @@ BUILD_PACKAGES="g++ cmake ninja-build ccache mold zlib1g-dev libpugixml-dev libc
 TEST_PACKAGES="libgtest-dev libgmock-dev librapidcheck-dev libmuparser-dev libbenchmark-dev libxml2-utils xvfb xdotool openbox
   poppler-utils python3"
 # What only CI needs.
-CI_PACKAGES="clang-14 libclang-rt-14-dev clang-format-14"
+CI_PACKAGES="clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14"
 
 install_packages() {
   local missing=""

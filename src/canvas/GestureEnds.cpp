@@ -26,10 +26,11 @@ void DropOnGrid(CardRect& rect, int style, const GridSteps& grid) {
   if (!moves && style & kRightEdge) DropFar(rect.x, rect.width, grid.x);
 }
 
-// A card that is less than a pixel at this zoom keeps its size, whatever happens to its place.
-void KeepExtent(CardRect& rect, const RVCardControl& card) {
-  if (!(rect.width > 0.0)) rect.width = card.width;
-  if (!(rect.height > 0.0)) rect.height = card.height;
+// A card that is less than a pixel at this zoom keeps its size, whatever happens to its place; and neither grid nor
+// guides leave one without extent.
+void KeepExtent(CardRect& rect, const CardRect& stored) {
+  if (!(rect.width >= kLeastExtent)) rect.width = stored.width;
+  if (!(rect.height >= kLeastExtent)) rect.height = stored.height;
 }
 
 void ApplyHit(const std::optional<GuideHit>& hit, double& start, double& size, bool resized) {
@@ -127,7 +128,8 @@ bool RVEditTemplateWnd::EndDrawing(const PagePlacement& place) {
   const Rect drawn = gesture_.Band().value_or(Rect());
   if (drawn.Width() < Gesture::kSmallestDragged || drawn.Height() < Gesture::kSmallestDragged) return false;
   const GridSteps grid = gesture_.Snaps() ? GridOf(page_.properties) : GridSteps();
-  CardRect rect = ToMillimetres(place, drawn);
+  const CardRect asDrawn = ToMillimetres(place, drawn);
+  CardRect rect = asDrawn;
   const double right = rect.x + rect.width;
   const double bottom = rect.y + rect.height;
   DropNear(rect.x, grid.x);
@@ -138,6 +140,7 @@ bool RVEditTemplateWnd::EndDrawing(const PagePlacement& place) {
   DropFar(rect.y, rect.height, grid.y);
   ApplyHit(gesture_.Hits().x, rect.x, rect.width, true);
   ApplyHit(gesture_.Hits().y, rect.y, rect.height, true);
+  KeepExtent(rect, asDrawn);
   PageEdit edit = Edit(GestureName());
   AddControl(rect.x, rect.y, rect.width, rect.height);
   edit.EndQuietly();
@@ -154,11 +157,14 @@ std::vector<CardRect> RVEditTemplateWnd::DroppedRects(const std::vector<std::siz
     const bool isThere = indexes[i] != CardList::kNowhere;
     const bool shifts = isThere && options_.keepsStoredDigits && gesture_.Moves();
     rects.push_back(shifts ? Shifted(RectOf(page_.cards[indexes[i]]), part, place) : ToMillimetres(place, part.rect));
-    if (isThere) KeepExtent(rects.back(), page_.cards[indexes[i]]);
+    if (isThere) KeepExtent(rects.back(), RectOf(page_.cards[indexes[i]]));
     DropOnGrid(rects.back(), gesture_.Style(), grid);
     IntelligentAdjustToGrid(rects.back(), grid, place);
   }
   AdjustToGuides(rects, gesture_.Hits(), !gesture_.Moves());
+  for (std::size_t i = 0; i < indexes.size(); ++i) {
+    if (indexes[i] != CardList::kNowhere) KeepExtent(rects[i], RectOf(page_.cards[indexes[i]]));
+  }
   return rects;
 }
 

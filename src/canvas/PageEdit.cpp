@@ -35,6 +35,7 @@ bool RVEditTemplateWnd::FinishEdit(UndoName name, const JoinKey& joins, bool ann
   const RVGlobalProperties& before = history_.IsEmpty() ? now : history_.Newest().Page();
   if (before.width != now.width || before.height != now.height) RefitAfterPageChange();
   const bool changed = Record(false, name, joins);
+  if (changed) AnnounceAnimations();
   DropGoneFromSelection();
   RedrawBackground();
   if (announces) queue_.Post(&parent_, {Message::CardChanged, SelectedCardId(), 0});

@@ -19,6 +19,7 @@ RVEditTemplateWnd::RVEditTemplateWnd(RVReportPage& page, WindowPort& port, Messa
       parent_(parent),
       madeWithBackcolor_(page.properties.backcolor) {
   AddUndoInfo(true);
+  AnnounceAnimations();
 }
 
 RVEditTemplateWnd::~RVEditTemplateWnd() { PauseTimer(); }
@@ -30,6 +31,7 @@ bool RVEditTemplateWnd::SetTemplate(const XmlNode& page) {
   picked_ = 0;
   DeleteUndoList();
   AddUndoInfo(true);
+  AnnounceAnimations();
   RedrawBackground();
   return true;
 }
@@ -176,6 +178,16 @@ void RVEditTemplateWnd::PauseTimer() {
   marching_.timerId = 0;
 }
 
+// A card says when it begins to move and when it stops; what moves is counted when a step was made, not while it moves.
+void RVEditTemplateWnd::AnnounceAnimations() {
+  int moving = 0;
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) moving += page_.cards[i].IsAnimated() ? 1 : 0;
+  for (; animation_.cards < moving; OnControlAnimationStart())
+    queue_.Post(&parent_, {Message::CardAnimationStarted, {}, 0});
+  for (; animation_.cards > moving; OnControlAnimationStop())
+    queue_.Post(&parent_, {Message::CardAnimationStopped, {}, 0});
+}
+
 void RVEditTemplateWnd::OnControlAnimationStop() {
   if (animation_.cards < 1) return;
   --animation_.cards;
@@ -185,17 +197,9 @@ void RVEditTemplateWnd::OnControlAnimationStop() {
 // --- What painting needs ---
 
 tagDraw RVEditTemplateWnd::MakeDraw(const Rect& clip) const {
-  const PagePlacement place = Placement();
   tagDraw draw;
+  static_cast<PagePlacement&>(draw) = Placement();
   draw.clip = clip;
-  draw.offsetX = place.offsetX;
-  draw.offsetY = place.offsetY;
-  draw.pageWidthPx = place.pageWidthPx;
-  draw.pageHeightPx = place.pageHeightPx;
-  draw.roundedPxX = place.roundedPxX;
-  draw.roundedPxY = place.roundedPxY;
-  draw.pageWidth = place.pageWidth;
-  draw.pageHeight = place.pageHeight;
   draw.zoom = Zoom();
   draw.pixelsPerMmX = viewport_.Scale().x;
   draw.pixelsPerMmY = viewport_.Scale().y;

@@ -228,6 +228,7 @@ class RVEditTemplateWnd {
   void PauseTimer();
   void OnControlAnimationStart() { ++animation_.cards; }
   void OnControlAnimationStop();
+  int AnimatedCards() const { return animation_.cards; }
   int Phase() const { return marching_.phase; }
   // How long the page has been shown, in milliseconds: where moving texts and pictures are on their way.
   void SetAnimationTime(int milliseconds) { animation_.time = milliseconds; }
@@ -296,6 +297,7 @@ class RVEditTemplateWnd {
   bool Record(bool force, UndoName name, const JoinKey& joins);
   bool Join();
   void RefitAfterPageChange();
+  void AnnounceAnimations();
   UndoName StepName(const RVUndo& step, UndoName asked) const;
   void Restore(const RVUndo& step, const RVUndo& flags);
   void TakePageFrom(const RVUndo& step);

@@ -5,13 +5,9 @@
 #include "canvas/UndoTexts.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
-namespace {
-
-constexpr int kDefaultLabelText = 32426;
-
-}  // namespace
 
 void RVEditTemplateWnd::SelectAlone(CardKey card) {
   ClearSelection();
@@ -102,7 +98,7 @@ std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
   std::unique_ptr<RVCardControl> card = row->kind().Create();
   if (row->frameColor) card->color = *row->frameColor;
   if (&card->GetRuntimeClass() == &RVCardLabel::Class()) {
-    static_cast<RVCardLabel&>(*card).text = HostText(kDefaultLabelText);
+    static_cast<RVCardLabel&>(*card).text = HostText(kNewCaptionText);
   }
   return card;
 }

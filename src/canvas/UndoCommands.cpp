@@ -88,7 +88,10 @@ void RVEditTemplateWnd::ControlRedo() {
 void RVEditTemplateWnd::Restore(const RVUndo& step, const RVUndo& flags) {
   DropGesture();
   joins_.clear();
-  if (flags.IsControlListChanged()) editedPage_.cards.Restore(step.Cards());
+  if (flags.IsControlListChanged()) {
+    editedPage_.cards.Restore(step.Cards());
+    AnnounceAnimations();
+  }
   if (flags.IsSelectionChanged() || !options_.countsSelections) selection_ = step.Selection();
   if (flags.IsGlobalsChanged()) TakePageFrom(step);
   DropGoneFromSelection();

@@ -34,7 +34,6 @@
 namespace xrpt {
 
 namespace {
-constexpr wchar_t kLastReport[] = L"LastInforme";
 constexpr char kPropertiesPanel[] = "PropertiesPanel";
 
 // The log names the function a message comes from, "Class::Function(): ", which says nothing to users.
@@ -89,14 +88,14 @@ void MainWindow::Open(const std::wstring& nameOrPath) {
 void MainWindow::OpenLast() {
   const std::vector<std::wstring> names = NamesInFolder(CurrentHost().setup->CfgPath(), kReportEnding);
   if (names.empty()) return;
-  const std::wstring last = CurrentHost().settings->RegistryText(kLastReport);
+  const std::wstring last = CurrentHost().settings->RegistryText(kLastReportValue);
   const bool there = std::find(names.begin(), names.end(), last) != names.end();
   frame_->OpenByName(there ? last : names.front());
 }
 
 void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
+  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;

@@ -57,7 +57,7 @@ bool RVEditControlWnd::OpenFromList() {
   const std::optional<std::wstring> chosen = port_.ChooseReport(report_.name);
   if (!chosen || *chosen == report_.name) return false;
   OpenByName(*chosen);
-  CurrentHost().settings->SetRegistryText(L"LastInforme", report_.name);
+  CurrentHost().settings->SetRegistryText(kLastReportValue, report_.name);
   return true;
 }
 
@@ -142,6 +142,8 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
       break;
     case Message::SelectionOrGeometryChanged:
     case Message::CardChanged:
+    case Message::CardAnimationStarted:
+    case Message::CardAnimationStopped:
       break;
     case Message::Refused:
       return port_.Tell(static_cast<int>(message.value));

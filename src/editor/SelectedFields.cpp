@@ -1,6 +1,8 @@
 #include "editor/SelectedFields.h"
 
 #include <algorithm>
+#include <memory>
+#include <set>
 
 #include "canvas/KeepOnPage.h"
 #include "canvas/RVEditTemplateWnd.h"

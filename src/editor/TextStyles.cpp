@@ -11,7 +11,6 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
 constexpr std::string_view kClipboardRoot = "styleClipboard";
 constexpr std::size_t kLongestName = 200;  // bytes; with identifier and ending a file name has 255
 
@@ -44,7 +43,7 @@ void TellHost() { CurrentHost().identifiers->invalidateGuid(GuidKind::Styles, tr
 void WriteStyle(const tagStyleCfg& style, XmlNode root) {
   root.SetValue("revision", CurrentHost().guids->NewGuidText());
   root.SetValue("name", style.name);
-  root.SetValue("version", kVersion);
+  root.SetValue("version", kFormatVersion);
   XmlNode font = root.Node("font");
   if (!font) font = root.NewChild("font");
   for (const FieldOf<Cfg>& row : kRows) font.SetValue(row.name, row.text(style));

@@ -8,10 +8,9 @@
 #include "model/FieldTable.h"
 #include "platform/Color.h"
 #include "platform/Fonts.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kStyleEnding = L".XSTY";
 
 // One style as the edit dialog holds it.
 struct tagStyleCfg {

@@ -20,6 +20,7 @@
 #include "host/SystemLocale.h"
 #include "host/TextCatalogue.h"
 #include "host/VariableNames.h"
+#include "host/WarningList.h"
 #include "host/expressions/EmbeddedExpressions.h"
 
 namespace xrpt {
@@ -84,6 +85,7 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->locale = std::make_unique<SystemLocale>();
   host->dates = std::make_unique<LocaleDates>(*host);
   AddPlant(*host);
+  host->debugInfo = std::make_unique<WarningList>();
   AddStyles(*host);
   AddScreenAndPaper(*host, options);
   return host;

@@ -1,6 +1,7 @@
 #include "host/MomentText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cwctype>
 #include <vector>
 
@@ -74,15 +75,53 @@ Parts Split(std::wstring_view text, const LocaleService& locale) {
   return parts;
 }
 
-// Where year, month and day stand among the first three numbers.
-struct DateOrder {
-  std::size_t year = 2;
-  std::size_t month = 1;
-  std::size_t day = 0;
-};
+DateOrder OrderOf(const std::vector<Part>& parts, const DateOrder& localeOrder) {
+  if (parts[0].digits == 4) return {0, 1, 2};
+  if (parts[0].isMonth) return {2, 0, 1};
+  if (parts[1].isMonth) return {2, 1, 0};
+  return localeOrder.year == 0 && parts[2].digits == 4 ? DateOrder{} : localeOrder;
+}
 
-// As the locale writes a date whose three numbers can be told apart.
-DateOrder OrderOf(const LocaleService& locale) {
+int FullYear(const Part& part) {
+  return part.digits > 2 ? part.number : part.number + (part.number < 70 ? 2000 : 1900);
+}
+
+int HourOf(int hour, const Parts& parts) {
+  if (parts.afternoon && hour < 12) return hour + 12;
+  return parts.morning && hour == 12 ? 0 : hour;
+}
+
+// False for a day or an hour no calendar has.
+bool Normalised(std::tm& moment) {
+  using namespace std::chrono;
+  const year_month_day day(year(moment.tm_year + 1900), month(static_cast<unsigned>(moment.tm_mon + 1)),
+                           std::chrono::day(static_cast<unsigned>(moment.tm_mday)));
+  if (moment.tm_year < 1 - 1900 || moment.tm_year > 9999 - 1900 || moment.tm_mon < 0 || moment.tm_mon > 11)
+    return false;
+  if (moment.tm_mday > 31 || !day.ok() || moment.tm_hour > 23 || moment.tm_min > 59 || moment.tm_sec > 60) return false;
+  moment.tm_isdst = -1;
+  moment.tm_wday = static_cast<int>(weekday(sys_days(day)).c_encoding());
+  moment.tm_yday = static_cast<int>((sys_days(day) - sys_days(day.year() / January / 1)).count());
+  return true;
+}
+
+std::optional<std::tm> MomentIn(const DateOrder& order, const Parts& parts) {
+  const auto time = [&parts](std::size_t i) { return i < parts.list.size() ? parts.list[i].number : 0; };
+  std::tm moment{};
+  moment.tm_year = FullYear(parts.list[order.year]) - 1900;
+  moment.tm_mon = parts.list[order.month].number - 1;
+  moment.tm_mday = parts.list[order.day].number;
+  moment.tm_hour = HourOf(time(3), parts);
+  moment.tm_min = time(4);
+  moment.tm_sec = time(5);
+  if (!Normalised(moment)) return std::nullopt;
+  return moment;
+}
+
+}  // namespace
+
+// Asked of a date whose three numbers can be told apart.
+DateOrder DateOrderOf(const LocaleService& locale) {
   std::tm probe{};
   probe.tm_year = 2033 - 1900;
   probe.tm_mon = 10;
@@ -98,53 +137,14 @@ DateOrder OrderOf(const LocaleService& locale) {
   return order;
 }
 
-DateOrder OrderOf(const std::vector<Part>& parts, const LocaleService& locale) {
-  if (parts[0].digits == 4) return {0, 1, 2};
-  if (parts[0].isMonth) return {2, 0, 1};
-  if (parts[1].isMonth) return {2, 1, 0};
-  const DateOrder order = OrderOf(locale);
-  return order.year == 0 && parts[2].digits == 4 ? DateOrder{} : order;
-}
-
-int FullYear(const Part& part) {
-  return part.digits > 2 ? part.number : part.number + (part.number < 70 ? 2000 : 1900);
-}
-
-int HourOf(int hour, const Parts& parts) {
-  if (parts.afternoon && hour < 12) return hour + 12;
-  return parts.morning && hour == 12 ? 0 : hour;
-}
-
-// False for a day or an hour no calendar has.
-bool Normalised(std::tm& moment) {
-  const std::tm asked = moment;
-  if (asked.tm_year < 1 - 1900 || asked.tm_year > 9999 - 1900) return false;
-  moment.tm_isdst = -1;
-  std::tm midday = moment;  // away from the hours that clocks skip
-  midday.tm_hour = 12;
-  if (std::mktime(&midday) == -1) return false;
-  moment.tm_wday = midday.tm_wday;
-  moment.tm_yday = midday.tm_yday;
-  return midday.tm_mday == asked.tm_mday && midday.tm_mon == asked.tm_mon && asked.tm_hour < 24 && asked.tm_min < 60 &&
-         asked.tm_sec <= 60;
-}
-
-}  // namespace
-
-std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale) {
+// A report travels: a date whose day can be no month was written where the day comes first, or the other way round.
+std::optional<std::tm> ReadMoment(std::wstring_view text, const LocaleService& locale, const DateOrder& localeOrder) {
   const Parts parts = Split(text, locale);
   if (parts.list.size() < 3) return std::nullopt;
-  const DateOrder order = OrderOf(parts.list, locale);
-  const auto time = [&parts](std::size_t i) { return i < parts.list.size() ? parts.list[i].number : 0; };
-  std::tm moment{};
-  moment.tm_year = FullYear(parts.list[order.year]) - 1900;
-  moment.tm_mon = parts.list[order.month].number - 1;
-  moment.tm_mday = parts.list[order.day].number;
-  moment.tm_hour = HourOf(time(3), parts);
-  moment.tm_min = time(4);
-  moment.tm_sec = time(5);
-  if (!Normalised(moment)) return std::nullopt;
-  return moment;
+  const DateOrder order = OrderOf(parts.list, localeOrder);
+  const std::optional<std::tm> moment = MomentIn(order, parts);
+  if (moment || order.year == 0 || parts.list[order.month].isMonth) return moment;
+  return MomentIn({order.year, order.day, order.month}, parts);
 }
 
 }  // namespace xrpt

@@ -16,6 +16,7 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/cli.inc"
 #include "host/texts/en/commands.inc"
 #include "host/texts/en/formulas.inc"
+#include "host/texts/en/checks.inc"
 #include "host/texts/en/files.inc"
 #include "host/texts/en/dialogs.inc"
 };
@@ -28,6 +29,7 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/cli.inc"
 #include "host/texts/es/commands.inc"
 #include "host/texts/es/formulas.inc"
+#include "host/texts/es/checks.inc"
 #include "host/texts/es/files.inc"
 #include "host/texts/es/dialogs.inc"
 };

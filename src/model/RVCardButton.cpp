@@ -1,11 +1,11 @@
 #include "model/RVCardButton.h"
 
 #include "model/StyleReference.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
 namespace {
 
-constexpr int kCaptionTextId = 32426;
 constexpr double kFontSize = 20.0;
 
 bool SameRow(const Picture& left, const Picture& right, int row) {
@@ -60,7 +60,7 @@ const CardClass& RVCardButton::Class() {
 }
 
 RVCardButton::RVCardButton(ModelServices& services)
-    : RVCardControl(services), text(services.texts->Text(kCaptionTextId)) {
+    : RVCardControl(services), text(services.texts->Text(kNewCaptionText)) {
   font.size = kFontSize;
 }
 

@@ -7,8 +7,6 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
-
 void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& to) {
   for (const XmlNode& child : from) {
     if (child.Tag() == tag) to.Root().Append(child);
@@ -24,7 +22,7 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 }  // namespace
 
 RVReport::RVReport(Host& host)
-    : id(host.guids->NewGuidText()), version(kVersion), dpiFont(host.screen->DpiY()), host_(&host) {
+    : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
   AddPage();
 }
 
@@ -42,18 +40,18 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
   XmlDocument document;
   result.loaded = document.Load(*host_->files, file, &result.error);
   if (!result.loaded) document.Create("reportLayout");
-  ReadTemplate(document.Root(), askedName);
+  ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
   modified = false;
   return result;
 }
 
-void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName) {
+void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
   pages.clear();
   ReadIdentity(root, askedName);
-  version = root.Value("version", kVersion);
+  version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
-  ReadPages(root);
+  ReadPages(root, readPage);
   if (pages.empty()) AddPage();
 }
 
@@ -84,9 +82,9 @@ void RVReport::ReadVirtualLists(const XmlNode& root) {
   CopyChildren(root.Node("goBackVariables"), "goBackVariable", goBackVariables);
 }
 
-void RVReport::ReadPages(const XmlNode& root) {
+void RVReport::ReadPages(const XmlNode& root, PageReader readPage) {
   for (const XmlNode& element : root) {
-    if (element.Tag() == "page") AddPage().TakeTemplate(element);
+    if (element.Tag() == "page") (AddPage().*readPage)(element);
     if (element.Tag() == "formules") formules.Create("formules").Assign(element);
   }
 }
@@ -116,7 +114,7 @@ SaveResult RVReport::Save() {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
-  host_->settings->SetRegistryText(L"LastInforme", name);
+  host_->settings->SetRegistryText(kLastReportValue, name);
   host_->files->CreateFolder(ConfigFolder());
   return SaveTo(FilePath());
 }
@@ -124,12 +122,16 @@ SaveResult RVReport::Save() {
 Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
 
 SaveResult RVReport::SaveTo(const Path& file) {
+  SaveResult result = WriteTo(file);
+  modified = !result;
+  return result;
+}
+
+SaveResult RVReport::WriteTo(const Path& file) const {
   std::string text;
   XmlWriter out(text);
   WriteTemplate(out);
-  SaveResult result = SaveText(file, out);
-  modified = !result;
-  return result;
+  return SaveText(file, out);
 }
 
 std::string RVReport::TemplateText(XmlError* fault) const {

@@ -7,11 +7,10 @@
 
 #include "model/RVReportPage.h"
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 #include "platform/Xml.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kReportEnding = L".xrpt";
 
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {
@@ -32,10 +31,15 @@ class RVReport {
   // Opens one file. Without an asked-for name the stored one stands.
   LoadResult LoadFile(const Path& file, const std::wstring* askedName = nullptr);
 
+  // Takes what a "reportLayout" element holds; the element stays as it is, and the stored name stands.
+  void SetTemplate(const XmlNode& root) { ReadTemplate(root, nullptr, &RVReportPage::SetTemplate); }
+
   // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
   // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
   SaveResult Save();
   SaveResult SaveTo(const Path& file);
+  // A copy for others: the report stays as modified as it was.
+  SaveResult WriteTo(const Path& file) const;
   // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
   std::string TemplateText(XmlError* fault = nullptr) const;
 
@@ -59,11 +63,12 @@ class RVReport {
 
  private:
   Path ConfigFolder() const { return host_->setup->CfgPath(); }
-  void ReadTemplate(const XmlNode& root, const std::wstring* askedName);
+  using PageReader = bool (RVReportPage::*)(const XmlNode& page);
+  void ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
   void ReadFontScale(const XmlNode& root);
   void ReadVirtualLists(const XmlNode& root);
-  void ReadPages(const XmlNode& root);
+  void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
   void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;

@@ -93,6 +93,8 @@ class LoggerService {
 class PictureService {
  public:
   virtual ~PictureService() = default;
+  // Whether it knows any format at all; a build without the toolkit knows none.
+  virtual bool CanDecode() const { return true; }
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
 };
@@ -205,6 +207,15 @@ class ValueService {
   virtual std::optional<double> Reading(std::wstring_view variable) = 0;
 };
 
+// The host's diagnostics collector: background checks hand it a warning record a problem, from their own thread.
+class XmlNode;
+class RVDebugInfo {
+ public:
+  virtual ~RVDebugInfo() = default;
+  // The record is the caller's; what is kept of it is copied.
+  virtual void addWarning(const XmlNode& warning) = 0;
+};
+
 // What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
 // that a page needs no installed host.
 struct ModelServices {
@@ -237,6 +248,7 @@ struct Host : ModelServices {
   std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<DeviceCatalogue> devices;
+  std::unique_ptr<RVDebugInfo> debugInfo;
 
   // Its store has the pictures of the images folder.
   Host();

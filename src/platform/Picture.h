@@ -14,6 +14,7 @@ struct Picture {
   std::vector<std::uint8_t> rgb;    // 3 * width * height bytes, red first, rows from the top
   std::vector<std::uint8_t> alpha;  // width * height bytes, or empty when the whole picture is opaque
   std::size_t encodedSize = 0;      // bytes of the file it was decoded from
+  bool isDrawing = false;           // of lines and shapes: however many pixels it has, there were more to be had
 
   static constexpr int kBitsPerPixel = 24;
   const std::uint8_t* Row(int y) const { return rgb.data() + static_cast<std::size_t>(y) * RowBytes(); }

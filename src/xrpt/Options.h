@@ -62,6 +62,6 @@ void PrintError(const std::string& file, const std::string& reason);
 // Writes a file through the host; false and a line on standard error when that fails.
 bool WriteOutput(const std::string& file, const std::string& bytes);
 // The same for a report; the file "-" is standard output.
-bool SaveReport(RVReport& report, const std::string& file);
+bool SaveReport(const RVReport& report, const std::string& file);
 
 }  // namespace xrpt

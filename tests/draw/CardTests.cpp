@@ -400,8 +400,9 @@ TEST_F(CardDrawTest, HostilePlacesAndSizesAreDrawnInBoundedSteps) {
       card->width = card->height = value;
       EXPECT_LT(Recorded(*card).calls.size(), kMostCalls) << card->GetRuntimeClass().tag << ' ' << value;
       card->width = card->height = 40.0;
-      for (double tagDraw::*member : {&tagDraw::zoom, &tagDraw::fontFactor, &tagDraw::pixelsPerMmY,
-                                      &tagDraw::pageWidthPx, &tagDraw::pageHeight, &tagDraw::offsetX}) {
+      for (double tagDraw::*member :
+           std::initializer_list<double tagDraw::*>{&tagDraw::zoom, &tagDraw::fontFactor, &tagDraw::pixelsPerMmY,
+                                                    &tagDraw::pageWidthPx, &tagDraw::pageHeight, &tagDraw::offsetX}) {
         tagDraw draw = DrawAt();
         draw.*member = value;
         EXPECT_LT(Recorded(*card, draw).calls.size(), kMostCalls) << card->GetRuntimeClass().tag << ' ' << value;

@@ -47,6 +47,12 @@ TEST(Numbers, DecimalsAreReadAsTheLibraryReadsThem) {
                            "1e999",
                            "-1e999",
                            "1e-999",
+                           "0.1e999",
+                           "2e545e-",
+                           "0x1p-5000",
+                           "0x1p5000",
+                           "0.0e9999",
+                           "-.",
                            "0.0000000001",
                            "1234567890",
                            "12345678901",
@@ -87,6 +93,14 @@ RC_GTEST_PROP(NumberProperties, WhatIsWrittenReadsBack, (double value, Color col
   char printed[400];
   std::snprintf(printed, sizeof printed, "%.2f", value);
   RC_ASSERT(FormatDecimal(value) == printed);
+}
+
+TEST(Numbers, TooLargeAndTooSmallOnesOfAnyLength) {
+  const std::string zeros(500, '0');
+  for (const std::string& text : {"1" + zeros, "0." + zeros + "1", "1" + zeros + "e-500", "0." + zeros + "1e501",
+                                  "000" + zeros + "1e400", "0x" + zeros + "1", "0x1" + zeros, "0x0." + zeros + "1"}) {
+    EXPECT_TRUE(Same(ParseDecimal(text), Library(text))) << text << " reads as " << ParseDecimal(text);
+  }
 }
 
 TEST(Numbers, WideOnesEndAtTheFirstForeignCharacter) {

@@ -15,13 +15,12 @@
 #include "desktop/panels/MixedSpinBox.h"
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
+#include "platform/SystemNames.h"
 #include "platform/Text.h"
 
 namespace xrpt {
 
 namespace {
-
-constexpr std::wstring_view kStyleEnding = L".XSTY";
 
 // What all of them share: the toolkit's widget and who hears of edits.
 template <class Control>

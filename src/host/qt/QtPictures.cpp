@@ -68,15 +68,17 @@ QtPictures::QtPictures() { QImageReader::setAllocationLimit(static_cast<int>(kMa
 
 PicturePtr QtPictures::Decode(std::string_view bytes) {
   if (bytes.empty() || bytes.size() > kMaxBytes) return nullptr;
-  const QImage image = ReadImage(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  return image.isNull() ? nullptr : FromImage(image, bytes.size());
+  const QByteArray raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  const QImage image = ReadImage(raw);
+  return image.isNull() ? nullptr : FromImage(image, bytes.size(), LooksLikeSvg(raw));
 }
 
-PicturePtr FromImage(const QImage& image, std::size_t encodedSize) {
+PicturePtr FromImage(const QImage& image, std::size_t encodedSize, bool isDrawing) {
   auto picture = std::make_shared<Picture>();
   picture->width = image.width();
   picture->height = image.height();
   picture->encodedSize = encodedSize;
+  picture->isDrawing = isDrawing;
   if (image.hasAlphaChannel()) {
     SplitPlanes(image.convertToFormat(QImage::Format_RGBA8888), *picture);
   } else {
