@@ -45,7 +45,13 @@ std::vector<std::size_t> LostCards(const Frame& frame) {
   }
   return lost;
 }
-bool HasLostCards(const Frame& frame) { return !LostCards(frame).empty(); }
+bool HasLostCards(const Frame& frame) {
+  const CardList& cards = frame.CurrentPage().Page().cards;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    if (IsOutOfSight(RectOf(cards[i]), PageSize(frame))) return true;
+  }
+  return false;
+}
 
 std::wstring UndoDetail(const Frame& frame) { return UndoText(frame.History().NextUndoName()); }
 std::wstring RedoDetail(const Frame& frame) { return UndoText(frame.History().NextRedoName()); }

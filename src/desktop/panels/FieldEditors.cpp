@@ -102,7 +102,7 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
     control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
     if (row.panel.editor == FieldEditor::Angle) AsAngle();
     QObject::connect(control_, &QDoubleSpinBox::valueChanged, control_, [this, isInteger](double value) {
-      if (!control_->IsMixed()) Tell(FormatFixed(value, isInteger ? 0 : 2));
+      if (!control_->IsMixed()) TellNumber(FormatFixed(value, isInteger ? 0 : 2));
     });
     QObject::connect(control_, &QAbstractSpinBox::editingFinished, control_, [this] { Show(last_); });
   }
@@ -122,8 +122,12 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
     control_->setSuffix(QStringLiteral("°"));
     control_->setSingleStep(15.0);
   }
+  void TellNumber(const std::string& text) {
+    last_ = FromUtf8(text);
+    Tell(text);
+  }
 
-  std::optional<std::wstring> last_;
+  std::optional<std::wstring> last_;  // as shown or told, whichever came later
 };
 
 class ColorEditor final : public EditorOf<ColorButton> {
