@@ -11,6 +11,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
 #include "desktop/page/ClipboardPictures.h"
@@ -162,6 +163,7 @@ void MainWindow::Refresh() {
   ShowSelectionGeometry();
   ShowCaption();
   pages_->Refresh();
+  if (search_) search_->ReportChanged();
 }
 
 void MainWindow::ShowCaption() {

@@ -24,6 +24,7 @@ class ProblemsList;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
+class SearchDialog;
 class SideDocks;
 class StatusBar;
 
@@ -94,6 +95,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ApplySurround();
   void OpenPalette();
   void OpenShortcutSheet();
+  // Dialogs over the report, see MainWindowDialogs.cpp
+  SearchDialog& Searching();
+  void OpenSearch();
+  void OpenReplace();
+  void SearchNext();
+  void SearchPrevious();
+  void OpenFormulas();
+  void OpenSources();
   void ExportPdf();
   void ExportImages();
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
@@ -116,6 +125,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel* properties_ = nullptr;
   ProblemsList* problems_ = nullptr;
   StatusBar* status_ = nullptr;
+  SearchDialog* search_ = nullptr;                          // once it was asked for
   std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;
   bool refreshIsDue_ = false;

@@ -32,7 +32,13 @@ bool MainWindow::RunCommand(const char* name) {
       {"SaveAs", &MainWindow::SaveAs},
       {"ExportPdf", &MainWindow::ExportPdf},
       {"ExportImages", &MainWindow::ExportImages},
-      {"Print", &MainWindow::Print}};
+      {"Print", &MainWindow::Print},
+      {"Search", &MainWindow::OpenSearch},
+      {"Replace", &MainWindow::OpenReplace},
+      {"SearchNext", &MainWindow::SearchNext},
+      {"SearchPrevious", &MainWindow::SearchPrevious},
+      {"FormulesSetup", &MainWindow::OpenFormulas},
+      {"VirtualDevices", &MainWindow::OpenSources}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;
     (this->*run)();

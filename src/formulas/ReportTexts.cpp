@@ -44,8 +44,8 @@ std::vector<SearchHit> SearchReport(const RVReport& report, const TextFinder& fi
     if (!IsSearched(text.role)) return;
     const std::vector<std::size_t> found = finder.FindAll(text.text);
     if (found.empty()) return;
-    const auto whole = std::make_shared<const std::wstring>(text.text);
-    for (const std::size_t at : found) hits.push_back({text.place, text.Owner(), at, whole});
+    const auto whole = std::make_shared<const FoundText>(FoundText{text.Owner(), std::wstring(text.text)});
+    for (const std::size_t at : found) hits.push_back({text.place, at, whole});
   });
   return hits;
 }

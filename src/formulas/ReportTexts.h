@@ -64,13 +64,18 @@ void ForEachText(const RVReport& report, const Visit& visit) {
   }
 }
 
+// A text with matches, the same for all of them.
+struct FoundText {
+  TextOwner owner;
+  std::wstring text;
+};
 // One match of a search.
 struct SearchHit {
   TextPlace place;
-  TextOwner owner;
   std::size_t position = 0;  // characters from 0
-  std::shared_ptr<const std::wstring> text;
+  std::shared_ptr<const FoundText> in;
 };
+// In the order in which texts are visited.
 std::vector<SearchHit> SearchReport(const RVReport& report, const TextFinder& finder);
 
 // One text that is to become another.

@@ -1,0 +1,70 @@
+#include "desktop/dialogs/DialogParts.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+
+#include "desktop/TextIds.h"
+#include "desktop/dialogs/DialogTexts.h"
+#include "desktop/look/Texts.h"
+
+namespace xrpt {
+
+namespace {
+constexpr wchar_t kSection[] = L"Dialogs";
+constexpr int kLargest = 10000;
+}  // namespace
+
+void KeepSize(QDialog& dialog, const wchar_t* name, QSize first) {
+  const QStringList kept = ToQString(CurrentHost().settings->ProfileText(kSection, name)).split(QLatin1Char('x'));
+  const QSize size = kept.size() == 2 ? QSize(kept[0].toInt(), kept[1].toInt()) : first;
+  const bool isSound = size.width() > 0 && size.height() > 0 && size.width() < kLargest && size.height() < kLargest;
+  dialog.resize(isSound ? size : first);
+  QObject::connect(&dialog, &QDialog::finished, &dialog, [&dialog, name] {
+    const QString now = QStringLiteral("%1x%2").arg(dialog.width()).arg(dialog.height());
+    CurrentHost().settings->SetProfileText(kSection, name, now.toStdWString());
+  });
+}
+
+QDialogButtonBox* AddClosingButtons(QDialog& dialog) {
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+  buttons->button(QDialogButtonBox::Ok)->setText(Translated(text::kAccept));
+  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+  buttons->button(QDialogButtonBox::Cancel)->setText(Translated(text::kCancel));
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  return buttons;
+}
+
+QPushButton* ButtonFor(QAction& action, QWidget* parent) {
+  auto* button = new QPushButton(action.icon(), action.text(), parent);
+  button->setToolTip(action.toolTip());
+  button->setAutoDefault(false);
+  button->setEnabled(action.isEnabled());
+  QObject::connect(button, &QPushButton::clicked, &action, [&action] { action.trigger(); });
+  QObject::connect(&action, &QAction::changed, button, [button, &action] { button->setEnabled(action.isEnabled()); });
+  return button;
+}
+
+bool AskYesNo(QDialog& dialog, const QString& question) {
+  QMessageBox box(QMessageBox::Question, dialog.windowTitle(), question, QMessageBox::Yes | QMessageBox::No, &dialog);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+QString TranslatedWith(int textId, const QStringList& arguments) {
+  static const QRegularExpression kPlace(QStringLiteral("%[ds]"));
+  QString text = Translated(textId);
+  qsizetype from = 0;
+  for (const QString& argument : arguments) {
+    const QRegularExpressionMatch place = kPlace.match(text, from);
+    if (!place.hasMatch()) break;
+    text.replace(place.capturedStart(), place.capturedLength(), argument);
+    from = place.capturedStart() + argument.size();
+  }
+  return text;
+}
+
+}  // namespace xrpt
