@@ -3,6 +3,8 @@
 #include "desktop/dialogs/formulas/FormulasDialog.h"
 #include "desktop/dialogs/formulas/SourcesDialog.h"
 #include "desktop/dialogs/search/SearchDialog.h"
+#include "desktop/page/PageFrame.h"
+#include "desktop/page/PageView.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -10,6 +12,10 @@ namespace xrpt {
 SearchDialog& MainWindow::Searching() {
   if (!search_) {
     search_ = new SearchDialog(*frame_, this);
+    search_->matchShown = [this] {
+      Refresh();
+      pages_->View().RevealSelection();
+    };
     search_->formulaChosen = [this](const std::wstring& name) { EditFormulas(*frame_, search_, name); };
   }
   return *search_;

@@ -24,6 +24,8 @@ class SelectedFields {
  public:
   explicit SelectedFields(RVEditControlWnd& frame) : frame_(frame) {}
 
+  const RVEditControlWnd& Frame() const { return frame_; }
+
   // How many cards are meant; 0: the page is.
   std::size_t Count() const { return Cards().size(); }
   // The cards' kind when all are of one, else 0 (0 for the page, too).

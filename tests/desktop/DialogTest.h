@@ -19,12 +19,14 @@ class DialogTest : public WindowTest {
     waiting->setInterval(5);
     QObject::connect(waiting, &QTimer::timeout, qApp, [this, waiting, work] {
       auto* dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
-      if (!dialog) return;
-      delete waiting;
+      if (!dialog || !dialog->isActiveWindow()) return;
+      waiting->stop();
+      waiting->deleteLater();
       ++seen_;
       work(*dialog);
       if (dialog->isVisible() && dialog == QApplication::activeModalWidget()) dialog->reject();
     });
+    waiting->start();
   }
   void TearDown() override { EXPECT_EQ(seen_, expected_) << "dialogs that opened, and that were to"; }
 

@@ -20,6 +20,7 @@
 #include "desktop/dialogs/formulas/FormulaWizard.h"
 #include "desktop/dialogs/formulas/FormulasDialog.h"
 #include "desktop/dialogs/formulas/SourcesDialog.h"
+#include "desktop/look/Texts.h"
 #include "formulas/FormulaTable.h"
 #include "formulas/VirtualLists.h"
 
@@ -149,8 +150,9 @@ TEST_F(FormulaDialogTest, TheFilterOpensWhatItFinds) {
   EXPECT_TRUE(list.currentItem()->text(0).startsWith("MAIN.P"));
   QString inserted;
   tree.chosen = [&](const std::wstring& text, std::size_t) { inserted = ToQString(text); };
-  const QRect place = list.visualItemRect(list.currentItem());
-  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place.center());
+  const QPoint place = list.visualItemRect(list.currentItem()).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
   EXPECT_TRUE(inserted.startsWith("[MAIN.P"));
 }
 

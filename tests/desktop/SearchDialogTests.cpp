@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeView>
@@ -118,6 +119,7 @@ TEST_F(SearchDialogTest, TheListFollowsTheReport) {
   Rest();
   EXPECT_EQ(List().model()->rowCount(), 2);
   Page().SelectControlById(L"a");
+  Settle();
   Run("Delete");
   Rest(400);
   EXPECT_EQ(List().model()->rowCount(), 0);

@@ -32,6 +32,7 @@ QDialogButtonBox* AddClosingButtons(QDialog& dialog) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
   buttons->button(QDialogButtonBox::Ok)->setText(Translated(text::kAccept));
   buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+  for (QAbstractButton* button : buttons->buttons()) button->setIcon({});  // the base style's are of another world
   buttons->button(QDialogButtonBox::Cancel)->setText(Translated(text::kCancel));
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

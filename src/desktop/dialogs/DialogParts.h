@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialogButtonBox>
+#include <QSize>
 #include <QStringList>
 
 class QAction;

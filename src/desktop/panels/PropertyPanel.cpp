@@ -3,9 +3,11 @@
 #include <QGridLayout>
 
 #include "desktop/TextIds.h"
+#include "desktop/dialogs/formulas/ExpressionEditor.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/FieldEditors.h"
 #include "desktop/panels/FieldUndo.h"
+#include "editor/ReportDialogs.h"
 
 namespace xrpt {
 
@@ -20,7 +22,9 @@ int GroupTextId(FieldGroup group) { return text::kFirstFieldGroup + static_cast<
 
 // Short numbers stand two on a line; a text box takes the whole width below its label.
 bool StandsInPairs(const FieldRow& row) { return row.panel.group == FieldGroup::Geometry; }
-bool StandsBelowLabel(const FieldRow& row) { return row.panel.editor == FieldEditor::Lines; }
+bool StandsBelowLabel(const FieldRow& row) {
+  return row.panel.editor == FieldEditor::Lines || row.role == TextRole::Expression;
+}
 
 }  // namespace
 
@@ -108,8 +112,10 @@ QGridLayout* PropertyPanel::StartSection(QBoxLayout& column, FieldGroup group) {
 
 void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) {
   QWidget* parent = grid.parentWidget() ? grid.parentWidget() : title_->parentWidget();
-  auto editor = MakeFieldEditor(
-      row, [this, &row](const std::string& text) { Edit(row, text); }, parent);
+  const auto told = [this, &row](const std::string& text) { Edit(row, text); };
+  const auto sources = [this] { return SourcesOf(fields_.Frame()); };
+  auto editor = row.role == TextRole::Expression ? MakeExpressionEditor(row, told, sources, parent)
+                                                 : MakeFieldEditor(row, told, parent);
   const QString name = Translated(row.panel.textId);
   auto* label = new QLabel(name, parent);
   label->setObjectName(QStringLiteral("muted"));
@@ -120,7 +126,7 @@ void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) 
   editor->Widget()->setMinimumWidth(48);
   editor->Widget()->setSizePolicy(QSizePolicy::Ignored, editor->Widget()->sizePolicy().verticalPolicy());
   editor->Widget()->setAccessibleName(name);
-  undo_->Watch(*editor->Widget());
+  undo_->Watch(editor->Widget()->focusProxy() ? *editor->Widget()->focusProxy() : *editor->Widget());
   editor->Widget()->setObjectName(QString::fromStdString(row.FullName()));
   const int line = StandsInPairs(row) ? index / 2 : grid.rowCount();
   const int column = StandsInPairs(row) ? index % 2 * 2 : 0;

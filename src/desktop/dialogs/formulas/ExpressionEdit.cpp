@@ -16,7 +16,8 @@ namespace xrpt {
 
 namespace {
 
-constexpr int kRoundText = 10;  // pixels above and below together
+constexpr int kErrorGround = 56;  // of 255
+constexpr int kRoundText = 10;    // pixels above and below together
 constexpr int kWidestOffer = 460;
 constexpr int kLongestHelp = 48;  // characters
 
@@ -62,8 +63,12 @@ ExpressionEdit::ExpressionEdit(QWidget* parent)
 
 void ExpressionEdit::SetSources(const ExpressionSources& sources) {
   choices_ = ExpressionChoices(sources);
+  SetFormulas(sources.formulas);
+}
+
+void ExpressionEdit::SetFormulas(const FormulaTable& formulas) {
   std::set<std::wstring, std::less<>> names;
-  for (const Formula& formula : sources.formulas) names.insert(formula.name);
+  for (const Formula& formula : formulas) names.insert(formula.name);
   const QSignalBlocker quiet(this);
   colors_->SetKnownNames(std::move(names));
 }
@@ -87,7 +92,11 @@ void ExpressionEdit::Insert(const std::wstring& text, std::size_t caretBack) {
   ensureCursorVisible();
 }
 
-void ExpressionEdit::SetLines(int lines) { setFixedHeight(fontMetrics().lineSpacing() * lines + kRoundText); }
+void ExpressionEdit::SetLines(int lines, bool grows) {
+  const int height = fontMetrics().lineSpacing() * lines + kRoundText;
+  setMinimumHeight(height);
+  setMaximumHeight(grows ? QWIDGETSIZE_MAX : height);
+}
 
 // --- Marks ---
 
@@ -122,6 +131,9 @@ void ExpressionEdit::MarkPlaces() {
     QTextCharFormat format;
     format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
     format.setUnderlineColor(CurrentTheme().wrong);
+    QColor ground = CurrentTheme().wrong;
+    ground.setAlpha(kErrorGround);
+    format.setBackground(ground);
     mark(std::min(error_, places.Wide().size()) - 1, format);
   }
   setExtraSelections(marks);
@@ -181,6 +193,8 @@ void ExpressionEdit::keyPressEvent(QKeyEvent* event) {
 void ExpressionEdit::focusInEvent(QFocusEvent* event) {
   completer_->setWidget(this);
   QPlainTextEdit::focusInEvent(event);
+  const bool isBack = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (entered && !isBack) entered();
 }
 
 void ExpressionEdit::changeEvent(QEvent* event) {

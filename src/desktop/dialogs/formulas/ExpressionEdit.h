@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <functional>
 
 #include "formulas/ExpressionChoices.h"
 
@@ -16,7 +17,9 @@ class ExpressionEdit final : public QPlainTextEdit {
  public:
   explicit ExpressionEdit(QWidget* parent);
 
-  // What is offered, and which formulas count as defined.
+  // Which formulas count as defined.
+  void SetFormulas(const FormulaTable& formulas);
+  // What is offered, and the same.
   void SetSources(const ExpressionSources& sources);
   const std::vector<ExpressionChoice>& Choices() const { return choices_; }
 
@@ -27,14 +30,16 @@ class ExpressionEdit final : public QPlainTextEdit {
   void Insert(const std::wstring& text, std::size_t caretBack);
   // Characters from 1; 0 for none.
   void MarkError(std::size_t position);
-  // As high as so many lines.
-  void SetLines(int lines);
+  // As high as so many lines, or taking the room there is above that.
+  void SetLines(int lines, bool grows = false);
   // Offers what may stand at the cursor, even where nothing was typed yet.
   void OfferAll() { Offer(true); }
   bool IsOffering() const;
 
   // The user changed the text.
   std::function<void()> edited;
+  // It took the keyboard.
+  std::function<void()> entered;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

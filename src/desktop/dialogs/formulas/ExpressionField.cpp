@@ -1,6 +1,7 @@
 #include "desktop/dialogs/formulas/ExpressionField.h"
 
 #include <QStyle>
+#include <QToolButton>
 
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/formulas/ExpressionEdit.h"
@@ -13,11 +14,18 @@ constexpr int kIdleMilliseconds = 120;
 }
 
 ExpressionField::ExpressionField(ExpressionKind kind, QWidget* parent)
-    : QWidget(parent), kind_(kind), edit_(new ExpressionEdit(this)), line_(new QLabel(this)), idle_(new QTimer(this)) {
+    : QWidget(parent),
+      kind_(kind),
+      row_(new QHBoxLayout()),
+      edit_(new ExpressionEdit(this)),
+      line_(new QLabel(this)),
+      idle_(new QTimer(this)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(3);
-  column->addWidget(edit_);
+  row_->setSpacing(3);
+  row_->addWidget(edit_, 1);
+  column->addLayout(row_, 1);
   column->addWidget(line_);
   line_->setObjectName(QStringLiteral("verdict"));
   line_->setTextFormat(Qt::PlainText);
@@ -33,11 +41,30 @@ ExpressionField::ExpressionField(ExpressionKind kind, QWidget* parent)
     idle_->start();
     if (textEdited) textEdited(Text());
   };
+  edit_->entered = [this] {
+    if (entered) entered();
+  };
+}
+
+void ExpressionField::SetFormulas(const FormulaTable& formulas) {
+  formulas_ = formulas;
+  edit_->SetFormulas(formulas);
 }
 
 void ExpressionField::SetSources(const ExpressionSources& sources) {
   formulas_ = sources.formulas;
   edit_->SetSources(sources);
+}
+
+void ExpressionField::AddButton(const QIcon& icon, const QString& name, std::function<void()> run) {
+  auto* button = new QToolButton(this);
+  button->setIcon(icon);
+  button->setToolTip(name);
+  button->setAccessibleName(name);
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setProperty("flat", true);
+  connect(button, &QToolButton::clicked, this, std::move(run));
+  row_->addWidget(button, 0, Qt::AlignTop);
 }
 
 void ExpressionField::SetText(const std::wstring& text) {
@@ -58,6 +85,7 @@ void ExpressionField::Judge() {
 
 void ExpressionField::Show() {
   line_->setText(ToQString(judgement_.Line()));
+  line_->setVisible(!hidesEmptyLine || !line_->text().isEmpty());
   line_->setProperty("refused", !judgement_.accepted);
   line_->style()->unpolish(line_);
   line_->style()->polish(line_);

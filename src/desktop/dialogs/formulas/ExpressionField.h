@@ -8,6 +8,8 @@
 #include "formulas/ExpressionChoices.h"
 #include "formulas/ExpressionJudgement.h"
 
+class QBoxLayout;
+class QIcon;
 class QLabel;
 class QTimer;
 
@@ -19,7 +21,8 @@ class ExpressionField final : public QWidget {
  public:
   ExpressionField(ExpressionKind kind, QWidget* parent);
 
-  // What the expression may use.
+  // What the expression may use; the formulas alone are enough to judge it.
+  void SetFormulas(const FormulaTable& formulas);
   void SetSources(const ExpressionSources& sources);
   void SetText(const std::wstring& text);
   std::wstring Text() const;
@@ -31,10 +34,17 @@ class ExpressionField final : public QWidget {
   // What the line under the text says, for whoever reads it to the user.
   QString Line() const;
 
+  // A small button beside the text.
+  void AddButton(const QIcon& icon, const QString& name, std::function<void()> run);
+
+  // Whether the line under the text takes no room while it says nothing.
+  bool hidesEmptyLine = false;
   // How it is judged instead of by kind and sources.
   std::function<ExpressionJudgement(const std::wstring&)> judge;
   // The user changed the text.
   std::function<void(const std::wstring&)> textEdited;
+  // The text took the keyboard.
+  std::function<void()> entered;
   // The expression was judged anew.
   std::function<void()> judged;
 
@@ -43,6 +53,7 @@ class ExpressionField final : public QWidget {
 
   ExpressionKind kind_;
   FormulaTable formulas_;
+  QBoxLayout* row_;  // the text, and what stands beside it
   ExpressionEdit* edit_;
   QLabel* line_;
   QTimer* idle_;

@@ -6,6 +6,7 @@
 
 #include "desktop/dialogs/DialogParts.h"
 #include "desktop/dialogs/DialogTexts.h"
+#include "desktop/dialogs/formulas/ExpressionEdit.h"
 #include "desktop/dialogs/formulas/ExpressionField.h"
 #include "desktop/dialogs/formulas/FormulaWizard.h"
 #include "desktop/look/Texts.h"
@@ -33,6 +34,7 @@ void FormulaDialog::BuildFields() {
   name_ = new QLineEdit(ToQString(formula_.name), this);
   name_->setAccessibleName(Translated(text::kNameColumn));
   field_ = new ExpressionField(ExpressionKind::Numeric, this);
+  field_->Edit().SetLines(3, true);
   field_->SetSources(sources_);
   field_->SetText(formula_.text);
   field_->judge = [this](const std::wstring& text) {
@@ -45,8 +47,8 @@ void FormulaDialog::BuildFields() {
   connect(name_, &QLineEdit::textChanged, this, [this] { field_->Judge(); });
   form->addRow(Translated(text::kNameColumn), name_);
   form->addRow(Translated(text::kFormulaExpression), field_);
-  column->addLayout(form);
-  column->addStretch(1);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  column->addLayout(form, 1);
 }
 
 void FormulaDialog::OpenWizard() {

@@ -49,6 +49,7 @@ void FormulasDialog::BuildList() {
   list_->setAccessibleName(Translated(text::kFormulas));
   list_->header()->setAccessibleName(Translated(text::kFormulas));
   list_->setRootIsDecorated(false);
+  list_->setAllColumnsShowFocus(true);
   list_->setUniformRowHeights(true);
   list_->setAlternatingRowColors(true);
   list_->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QKeySequence>
+#include <QList>
 #include <map>
 
 #include "formulas/CDlgFormules.h"

@@ -58,6 +58,7 @@ QTreeWidget* SourcesDialog::NewList(const Part& part) {
   list->header()->setAccessibleName(Translated(part.titleText));
   list->setHeaderLabels({Translated(text::kNameColumn), Translated(text::kIdentifier), Translated(text::kUses)});
   list->setRootIsDecorated(false);
+  list->setAllColumnsShowFocus(true);
   list->setContextMenuPolicy(Qt::ActionsContextMenu);
   list->header()->setStretchLastSection(false);
   list->header()->setSectionResizeMode(0, QHeaderView::Stretch);

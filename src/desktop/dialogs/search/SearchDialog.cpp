@@ -194,18 +194,23 @@ void SearchDialog::ShowState() {
   state_->setText(count == 1 ? Translated(text::kOneMatch) : TranslatedWith(text::kMatchCount, {total}));
 }
 
+void SearchDialog::Arrived() {
+  ShowCurrent();
+  if (search_.Current() && matchShown) matchShown();
+}
+
 void SearchDialog::FindNext() {
   if (idle_->isActive()) SearchAnew();
   said_.clear();
   search_.Next();
-  ShowCurrent();
+  Arrived();
 }
 
 void SearchDialog::FindPrevious() {
   if (idle_->isActive()) SearchAnew();
   said_.clear();
   search_.Previous();
-  ShowCurrent();
+  Arrived();
 }
 
 void SearchDialog::GoToRow(const QModelIndex& index, bool opens) {
@@ -213,7 +218,7 @@ void SearchDialog::GoToRow(const QModelIndex& index, bool opens) {
   said_.clear();
   const std::size_t hit = model_->HitOf(index.row());
   search_.GoTo(hit);
-  ShowCurrent();
+  Arrived();
   if (hit >= search_.Hits().size()) return;
   const SearchHit found = search_.Hits()[hit];
   if (opens && found.place.page == TextPlace::kFormulas && formulaChosen) formulaChosen(found.in->owner.id);
@@ -226,6 +231,7 @@ void SearchDialog::Replace() {
   idle_->stop();
   if (search_.Replace()) search_.Next();
   FillList();
+  Arrived();
 }
 
 void SearchDialog::ReplaceAll() {

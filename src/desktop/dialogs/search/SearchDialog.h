@@ -11,9 +11,11 @@ class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTabBar;
+class QTimer;
 class QTreeView;
 
 namespace xrpt {
@@ -34,6 +36,8 @@ class SearchDialog final : public QDialog {
   bool IsEmpty() const { return search_.text.empty(); }
 
   const ReportSearch& State() const { return search_; }
+  // Another match is the current one, and its card selected.
+  std::function<void()> matchShown;
   // A match stands in this formula; it is shown where formulas are.
   std::function<void(const std::wstring& name)> formulaChosen;
 
@@ -51,6 +55,7 @@ class SearchDialog final : public QDialog {
   void SearchAnew();
   void FillList();
   void ShowCurrent();
+  void Arrived();
   void ShowState();
   void Replace();
   void ReplaceAll();
