@@ -81,13 +81,17 @@ void MainWindow::BuildDocks() {
   outline_->cardsChosen = [this](const std::vector<std::size_t>& cards) {
     properties_->Commit();
     frame_->CurrentPage().SelectPlaces(cards);
+    pages_->View().RevealSelection();
     RefreshSoon();
   };
   properties_ = new PropertyPanel(*fields_, this);
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsDesk(*frame_, pages_->View(), *this);
   problems_->beforeAct = [this] { properties_->Commit(); };
-  problems_->acted = [this] { RefreshSoon(); };
+  problems_->acted = [this] {
+    pages_->View().RevealSelection();
+    RefreshSoon();
+  };
   QDockWidget* left = AddPanel("OutlinePanel", text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
   QDockWidget* right =
       AddPanel("PropertiesPanel", text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);

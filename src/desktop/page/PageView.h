@@ -47,6 +47,9 @@ class PageView final : public QAbstractScrollArea {
   // Scrolls so that this many millimetres of the page come to stand at a pixel.
   void ZoomAt(double zoom, QPoint at);
 
+  // Scrolls until the selected cards are in sight, as far as they fit.
+  void RevealSelection();
+
   // What lies over the page for the time being, and what it says at a pixel (nothing: no tooltip).
   std::function<void(QPainter&)> paintOver;
   std::function<QString(QPoint)> tipAt;
