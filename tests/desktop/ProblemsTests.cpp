@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QMenu>
+#include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
 
@@ -110,13 +111,13 @@ TEST_F(ProblemsWindow, LeadsToTheCard) {
 
 TEST_F(ProblemsWindow, StepsFromProblemToProblem) {
   OpenText(Formule("a", "") + Formule("b", "1 +", 40) + Formule("c", "", 60));
-  ASSERT_EQ(Problems().Size(), 4u) << "the second has two";
+  ASSERT_EQ(Problems().Size(), 3u);
   std::vector<std::wstring> visited;
-  for (int i = 0; i < 5; ++i) {
+  for (int i = 0; i < 4; ++i) {
     Run("NextProblem");
     visited.push_back(Page().SelectedCardId());
   }
-  EXPECT_EQ(visited, (Strings{L"a", L"b", L"b", L"c", L"a"}));
+  EXPECT_EQ(visited, (Strings{L"a", L"b", L"c", L"a"}));
   Run("PreviousProblem");
   EXPECT_EQ(Page().SelectedCardId(), L"c");
 }

@@ -7,6 +7,7 @@
 #include "editor/ProblemMarks.h"
 #include "formulas/checks/HostCodes.h"
 #include "model/RVCardConditioned.h"
+#include "platform/Text.h"
 #include "support/AnsweringPort.h"
 #include "support/TestHost.h"
 
@@ -57,6 +58,16 @@ class ProblemTest : public HostTest {
     const std::string text =
         "<reportLayout><id>R</id><name>r</name>" + pages + "<formules>" + formulas + "</formules></reportLayout>";
     ASSERT_TRUE(frame.Setup(host.WriteCfg("r.xrpt", text).wstring()).loaded);
+  }
+  // With a style that is there when the report is opened and gone afterwards.
+  void OpenWithStyle(RVEditControlWnd& frame, const std::string& pages, const std::string& formulas = {}) {
+    const Path style = host.WriteCfg("S1.Gone.XSTY",
+                                     "<style><id>S1</id><name>Gone</name><font><name>Arial</name>"
+                                     "</font></style>");
+    host->identifiers->invalidateGuid(GuidKind::Styles, true);
+    Open(frame, pages, formulas);
+    std::filesystem::remove(style);
+    host->identifiers->invalidateGuid(GuidKind::Styles, true);
   }
   static std::string Page(const std::string& cards) { return "<page><id>p</id>" + cards + "</page>"; }
   static std::string Label(const std::string& id, const std::string& more = {}) {
@@ -113,17 +124,17 @@ TEST_F(ProblemTest, EachRemedyIsOneStepThatUndoTakesBack) {
                                            "eleven twelve thirteen fourteen</textStr></text><font><size>20</size>"
                                            "</font>"))},
               {L"FORMULA_UNUSED", Page("")},
-              {L"STYLE_UNKNOWN", Page(Label("a", "<style>GONE</style>"))},
+              {L"STYLE_UNKNOWN", Page(Label("a", "<style>S1</style>"))},
               {L"CARD_ID_SHARED", Page(Label("a") + Label("b")) + Page(Label("a"))},
               {L"CARD_WITHOUT_ID", Page(Label("a") + Label(""))},
               {L"CARD_HIDDEN", Page(front + Label("back"))}};
   for (const auto& [code, pages] : rows) {
     RVEditControlWnd frame(port, EditingOptions::Comfort());
-    Open(frame, pages, formula);
+    OpenWithStyle(frame, pages, formula);
     const std::string before = frame.Report().TemplateText();
     const Problem problem = Of(frame, code);
-    ASSERT_TRUE(ApplyRemedy(frame, problem)) << problem.finding.code->name.data();
-    EXPECT_FALSE(Has(frame, code)) << std::string(code, code + std::wcslen(code));
+    ASSERT_TRUE(ApplyRemedy(frame, problem)) << ToUtf8(code);
+    EXPECT_FALSE(Has(frame, code)) << ToUtf8(code);
     EXPECT_TRUE(frame.IsModified());
     EXPECT_EQ(frame.History().DoneNames().size(), 1u);
     EXPECT_EQ(UndoText(frame.History().NextUndoName()), HostText(problem.finding.remedy.textId));
@@ -137,8 +148,9 @@ TEST_F(ProblemTest, EachRemedyIsOneStepThatUndoTakesBack) {
 
 TEST_F(ProblemTest, ACardInsideAnotherIsPutRightToo) {
   RVEditControlWnd frame(port);
-  Open(frame, Page("<conditioned><id>c</id><width>50</width><height>20</height><control><condition>1 &lt; 2</condition>"
-                   "<label><id>i</id><style>GONE</style></label></control></conditioned>"));
+  OpenWithStyle(
+      frame, Page("<conditioned><id>c</id><width>50</width><height>20</height><control><condition>1 &lt; 2</condition>"
+                  "<label><id>i</id><style>S1</style></label></control></conditioned>"));
   const auto inner = [&frame]() -> const RVCardControl& {
     return *dynamic_cast<const RVCardConditioned&>(frame.CurrentPage().Page().cards[0]).cards.at(0);
   };
@@ -154,7 +166,7 @@ TEST_F(ProblemTest, ACardInsideAnotherIsPutRightToo) {
 // Between finding and mending the report went on changing.
 TEST_F(ProblemTest, TheCardIsFoundWhereverItIsNow) {
   RVEditControlWnd frame(port, EditingOptions::Comfort());
-  Open(frame, Page(Label("a") + Label("far", "<x>500</x>")) + Page(""));
+  Open(frame, Page(Label("a") + "<label><id>far</id><x>500</x></label>") + Page(""));
   const Problem problem = Of(frame, L"CARD_OUTSIDE_PAGE");
   frame.MovePage(0, 2);
   frame.Page(1).SelectPlaces({1});
