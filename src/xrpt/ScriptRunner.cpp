@@ -53,6 +53,20 @@ const std::vector<ScriptRunner::Row>& ScriptRunner::Steps() {
                                          {"tick", &R::Tick},
                                          {"set", &R::Set},
                                          {"answer", &R::SetAnswer},
+                                         {"formula-add", &R::FormulaAdd},
+                                         {"formula-modify", &R::FormulaModify},
+                                         {"formula-delete", &R::FormulaDelete},
+                                         {"formula-copy", &R::FormulaCopy},
+                                         {"formula-paste", &R::FormulaPaste},
+                                         {"device-add", &R::DeviceAdd},
+                                         {"device-modify", &R::DeviceModify},
+                                         {"device-delete", &R::DeviceDelete},
+                                         {"goback-add", &R::GoBackAdd},
+                                         {"goback-modify", &R::GoBackModify},
+                                         {"goback-delete", &R::GoBackDelete},
+                                         {"search", &R::Search},
+                                         {"replace", &R::Replace},
+                                         {"replace-all", &R::ReplaceAll},
                                          {"print", &R::Print}};
   return steps;
 }
