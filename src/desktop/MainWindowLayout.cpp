@@ -99,7 +99,7 @@ void MainWindow::BuildDocks() {
       AddPanel("ProblemsPanel", text::kProblems, "problems", &problems_->Panel(), Qt::BottomDockWidgetArea);
   sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
   resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
-  resizeDocks({below}, {110}, Qt::Vertical);
+  resizeDocks({below}, {180}, Qt::Vertical);
   below->hide();
   problems_->listWanted = [below] { below->show(); };
   problems_->listToggled = [this, below] { TogglePanel(*below); };

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "formulas/checks/BackgroundCheck.h"
+#include "formulas/checks/Problem.h"
 
 namespace xrpt {
 

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "formulas/checks/BackgroundCheck.h"
+#include "formulas/checks/Problem.h"
 
 namespace xrpt {
 

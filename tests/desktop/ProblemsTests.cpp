@@ -198,6 +198,15 @@ TEST_F(ProblemsWindow, TheCountsOpenTheList) {
   EXPECT_TRUE(Panel().isVisible());
 }
 
+TEST_F(ProblemsWindow, TheMessageHasMostOfTheRoom) {
+  OpenText(Formule("a", ""));
+  for (const int width : {240, 420, 900, 1600}) {
+    Panel().resize(width, 150);
+    EXPECT_GT(List().columnWidth(ProblemsModel::kMessage), width * 4 / 10) << width;
+    EXPECT_EQ(List().isColumnHidden(ProblemsModel::kCard), width < 421) << width;
+  }
+}
+
 // The row that was chosen stays chosen when other problems come and go.
 TEST_F(ProblemsWindow, KeepsWhatWasChosen) {
   OpenText(Formule("a", "") + Formule("b", "", 40));

@@ -5,7 +5,7 @@
 #include "editor/CDlgEditor.h"
 #include "editor/ProblemCards.h"
 #include "editor/ProblemMarks.h"
-#include "formulas/checks/HostCodes.h"
+#include "formulas/checks/OpenReportCheck.h"
 #include "model/RVCardConditioned.h"
 #include "platform/Text.h"
 #include "support/AnsweringPort.h"

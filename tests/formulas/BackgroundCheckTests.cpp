@@ -5,6 +5,7 @@
 
 #include "formulas/FormulaTable.h"
 #include "formulas/checks/BackgroundCheck.h"
+#include "formulas/checks/OpenReportCheck.h"
 #include "model/RVCardFormule.h"
 #include "support/CheckedReport.h"
 

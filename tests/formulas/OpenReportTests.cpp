@@ -132,6 +132,24 @@ TEST_F(OpenReportTest, WorksInSlices) {
   EXPECT_EQ(check.CardsChecked(), 21u) << "what was looked at before the change is not looked at again";
 }
 
+TEST_F(OpenReportTest, AnotherReportOfTheSameName) {
+  Load({Formule("1")});
+  report.name = L"alike";
+  report.Save();
+  EXPECT_EQ(Now(), Codes());
+  const Path other = host.WriteCfg("OTHER.alike.xrpt", "<reportLayout/>");
+  host.WriteCfg("THIRD.nearly alike.xrpt", "<reportLayout/>");
+  EXPECT_EQ(Now(), Codes()) << "not looked for again";
+  check.Forget();
+  EXPECT_EQ(Now(), Codes{"REPORT_NAME_SHARED@0.-1"});
+  report.name = L"unlike";
+  EXPECT_EQ(Now(), Codes());
+  report.name = L"alike";
+  EXPECT_EQ(Now(), Codes{"REPORT_NAME_SHARED@0.-1"});
+  report.name.clear();
+  EXPECT_EQ(Now(), Codes()) << "a report without a name has no other's";
+}
+
 TEST_F(OpenReportTest, SnapshotsShareAndTellApart) {
   Load({Formule("1") + "<label><id>l</id></label>", "A=1"});
   Look();

@@ -22,6 +22,7 @@ namespace {
 
 constexpr Severity kSeverities[] = {Severity::Error, Severity::Warning, Severity::Information};
 constexpr int kCardCharacters = 34;
+constexpr int kFewestCardCharacters = 20;
 constexpr int kPageCharacters = 8;
 
 }  // namespace
@@ -90,8 +91,16 @@ void ProblemsPanel::MakeList() {
 
 void ProblemsPanel::SizeColumns() {
   const int character = fontMetrics().averageCharWidth();
-  list_->header()->resizeSection(ProblemsModel::kCard, character * kCardCharacters);
+  const int card = std::min(character * kCardCharacters, width() * 3 / 10);
+  list_->header()->resizeSection(ProblemsModel::kCard, card);
   list_->header()->resizeSection(ProblemsModel::kPage, character * kPageCharacters);
+  list_->setColumnHidden(ProblemsModel::kCard, card < character * kFewestCardCharacters);
+}
+
+// What is wrong needs the room most; which card it is, the page shows when the row is chosen.
+void ProblemsPanel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  SizeColumns();
 }
 
 void ProblemsPanel::changeEvent(QEvent* event) {

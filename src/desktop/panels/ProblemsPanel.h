@@ -37,6 +37,7 @@ class ProblemsPanel final : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeBar();

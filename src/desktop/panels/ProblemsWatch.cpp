@@ -2,6 +2,7 @@
 
 #include "desktop/look/Texts.h"
 #include "editor/RVEditControlWnd.h"
+#include "formulas/checks/BackgroundCheck.h"
 
 namespace xrpt {
 

@@ -5,11 +5,13 @@
 #include <QObject>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "editor/ProblemList.h"
 
 namespace xrpt {
 
+class BackgroundCheck;
 class RVEditControlWnd;
 
 class ProblemsWatch final : public QObject {

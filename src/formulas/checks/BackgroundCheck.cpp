@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "formulas/checks/OpenReportCheck.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
 
@@ -24,7 +25,7 @@ std::vector<Problem> WithCards(const std::vector<Finding>& findings, const Repor
 }  // namespace
 
 BackgroundCheck::BackgroundCheck(const Host& host, CheckChoice choice, std::function<void()> found)
-    : tell_(std::move(found)), check_(host, std::move(choice)) {
+    : tell_(std::move(found)), check_(std::make_unique<OpenReportCheck>(host, std::move(choice))) {
   try {
     thread_ = std::thread([this] { Run(); });
   } catch (const std::system_error& fault) {
@@ -107,14 +108,14 @@ bool BackgroundCheck::WaitForTask(Task& task) {
 }
 
 void BackgroundCheck::Do(const Task& task) {
-  if (task.isAfresh) check_.Forget();
-  check_.Look(*task.report);
+  if (task.isAfresh) check_->Forget();
+  check_->Look(*task.report);
   {
     const std::lock_guard guard(lock_);
     lookedAt_ = task.number;
   }
-  const bool isWhole = check_.Work([this] { return HasNewer(); });
-  if (isWhole) Tell(WithCards(check_.Findings(), *task.report), task.number);
+  const bool isWhole = check_->Work([this] { return HasNewer(); });
+  if (isWhole) Tell(WithCards(check_->Findings(), *task.report), task.number);
 }
 
 bool BackgroundCheck::HasNewer() const {
@@ -128,7 +129,7 @@ void BackgroundCheck::Tell(std::vector<Problem> problems, std::uint64_t number) 
   {
     const std::lock_guard guard(lock_);
     done_ = number;
-    cardsChecked_ = check_.CardsChecked();
+    cardsChecked_ = check_->CardsChecked();
     if (isNews) found_ = std::move(problems);
   }
   if (isNews && tell_) tell_();

@@ -13,16 +13,15 @@
 #include <thread>
 #include <vector>
 
-#include "formulas/checks/OpenReportCheck.h"
+#include "formulas/checks/CheckChoice.h"
+#include "formulas/checks/Problem.h"
 
 namespace xrpt {
 
-// A finding, and what tells its card apart while the report goes on changing.
-struct Problem {
-  Finding finding;
-  CardKey card = 0;  // 0 for none
-  bool operator==(const Problem&) const = default;
-};
+class OpenReportCheck;
+class RVReport;
+struct Host;
+struct ReportSnapshot;
 
 // All calls from one thread, the one that edits.
 class BackgroundCheck {
@@ -79,7 +78,7 @@ class BackgroundCheck {
   std::optional<std::vector<Problem>> found_;
 
   std::function<void()> tell_;
-  OpenReportCheck check_;  // of the check's thread, as the next
+  std::unique_ptr<OpenReportCheck> check_;  // of the check's thread, as the next
   std::vector<Problem> toldLast_;
   std::thread thread_;
 };

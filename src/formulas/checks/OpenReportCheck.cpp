@@ -3,6 +3,8 @@
 #include "formulas/checks/EditorInspection.h"
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/ReportWalk.h"
+#include "platform/NamedFiles.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -136,7 +138,37 @@ void OpenReportCheck::Conclude() {
   Append(findings_, found_, {});
   const std::vector<Finding> rest = InspectFacts(facts, choice_);
   findings_.insert(findings_.end(), rest.begin(), rest.end());
+  CheckName();
   isConcluded_ = true;
+}
+
+// By the names of the folder's files, which are listed once for each name.
+void OpenReportCheck::CheckName() {
+  const CheckCode& code = *FindEditorCode(kNameSharedCode);
+  if (!choice_.Has(code)) return;
+  if (report_->file != file_) {
+    file_ = report_->file;
+    nameShared_.reset();
+    const std::optional<Path> other = OtherOfThatName();
+    if (other) nameShared_ = Finding{.code = &code, .detail = FromUtf8(other->filename().string())};
+  }
+  if (nameShared_) findings_.push_back(*nameShared_);
+}
+
+// A report that has no file where it would be saved came from another one of its name.
+std::optional<Path> OpenReportCheck::OtherOfThatName() const {
+  if (file_.empty()) return std::nullopt;
+  std::vector<Path> others;
+  bool isThere = false;
+  for (const Path& other : host_.files->List(file_.parent_path(), kReportEnding)) {
+    if (other == file_) {
+      isThere = true;
+    } else if (NameOfFile(other, kReportEnding) == report_->name) {
+      others.push_back(other);
+    }
+  }
+  if (others.size() < (isThere ? 1u : 2u)) return std::nullopt;
+  return others.back();
 }
 
 void OpenReportCheck::ConcludePage(const PageSnapshot& page, int number, ReportFacts& facts) {
@@ -151,6 +183,8 @@ void OpenReportCheck::ConcludePage(const PageSnapshot& page, int number, ReportF
 }
 
 void OpenReportCheck::Forget() {
+  file_.clear();
+  nameShared_.reset();
   entries_.clear();
   inspector_.Forget();
 }

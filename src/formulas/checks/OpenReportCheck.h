@@ -50,12 +50,16 @@ class OpenReportCheck {
   void Conclude();
   void ConcludePage(const PageSnapshot& page, int number, ReportFacts& facts);
   void TakeUsed(const CardEntry& entry);
+  void CheckName();
+  std::optional<Path> OtherOfThatName() const;
 
   const Host& host_;
   const CheckChoice choice_;
   std::vector<Finding> found_;  // by the inspector, of the card it is at
   Inspector inspector_;
   const ReportSnapshot* report_ = nullptr;
+  Path file_;  // whose name was looked for last
+  std::optional<Finding> nameShared_;
   std::string formulas_;      // how the tables read at the last look
   std::string declarations_;  // virtual devices and go-back variables
   std::shared_ptr<const XmlDocument> formulasDocument_;

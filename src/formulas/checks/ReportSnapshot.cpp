@@ -45,7 +45,9 @@ bool AreDeclarationsOn(const RVReport& report) {
 }  // namespace
 
 ReportSnapshot::ReportSnapshot(const RVReport& report, const ReportSnapshot* before)
-    : formulas(TakeTable(report.formules, before ? &before->formulas : nullptr)),
+    : name(report.name),
+      file(name.empty() ? Path() : report.FilePath()),
+      formulas(TakeTable(report.formules, before ? &before->formulas : nullptr)),
       hasDeclarations(AreDeclarationsOn(report)),
       virtualDevices(TakeTable(report.virtualDevices, before ? &before->virtualDevices : nullptr)),
       goBackVariables(TakeTable(report.goBackVariables, before ? &before->goBackVariables : nullptr)) {
@@ -55,8 +57,8 @@ ReportSnapshot::ReportSnapshot(const RVReport& report, const ReportSnapshot* bef
 }
 
 bool ReportSnapshot::IsSame(const ReportSnapshot& other) const {
-  return formulas.document == other.formulas.document && hasDeclarations == other.hasDeclarations &&
-         virtualDevices.document == other.virtualDevices.document &&
+  return name == other.name && file == other.file && formulas.document == other.formulas.document &&
+         hasDeclarations == other.hasDeclarations && virtualDevices.document == other.virtualDevices.document &&
          goBackVariables.document == other.goBackVariables.document &&
          std::equal(pages.begin(), pages.end(), other.pages.begin(), other.pages.end(), IsSamePage);
 }

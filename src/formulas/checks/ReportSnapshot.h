@@ -26,6 +26,8 @@ struct TableSnapshot {
 };
 
 struct ReportSnapshot {
+  std::wstring name;  // empty for one that was never saved
+  Path file;          // where it is saved
   std::vector<PageSnapshot> pages;
   TableSnapshot formulas;
   bool hasDeclarations = false;  // virtual devices and go-back variables count
