@@ -5,9 +5,9 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "desktop/ProblemsDesk.h"
 #include "desktop/WindowTest.h"
 #include "desktop/panels/MessageBar.h"
-#include "desktop/ProblemsDesk.h"
 #include "desktop/panels/ProblemsWatch.h"
 
 namespace xrpt {
