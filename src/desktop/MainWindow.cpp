@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/OpenDialog.h"
@@ -20,7 +21,6 @@
 #include "desktop/page/PageView.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/Outline.h"
-#include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
@@ -73,6 +73,7 @@ MainWindow::MainWindow() {
 // A field that the keyboard leaves now still tells what was typed.
 MainWindow::~MainWindow() {
   if (QWidget* field = focusWidget()) field->clearFocus();
+  problems_->Stop();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
   frame_.reset();
@@ -101,7 +102,7 @@ void MainWindow::ReportOpened(const LoadResult& result) {
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
   messages_->Show(message, true);
-  problems_->Add({ProblemSeverity::Error, message, {}});
+  problems_->AddNotice(Severity::Error, message);
 }
 
 std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
@@ -164,6 +165,7 @@ void MainWindow::Refresh() {
   ShowCaption();
   pages_->Refresh();
   if (search_) search_->ReportChanged();
+  problems_->Refresh();
 }
 
 void MainWindow::ShowCaption() {
@@ -210,7 +212,7 @@ void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kError = 4;
   if (severity < kWarning) return;
   const QString message = WithoutOrigin(logged);
-  problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
+  problems_->AddNotice(severity >= kError ? Severity::Error : Severity::Warning, message);
   if (severity < kError) return;
   writeFailed_ = true;
   messages_->Show(message, true, {{Translated(text::kSaveAs), [this] { SaveAs(); }}});

@@ -5,6 +5,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/MainWindow.h"
+#include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
 #include "desktop/dialogs/ShortcutSheet.h"
@@ -45,6 +46,7 @@ bool MainWindow::RunCommand(const char* name) {
     ShowSwitches();
     return true;
   }
+  if (problems_->RunCommand(name)) return true;
   const auto dock = docks_.find(std::string_view(name));
   if (dock == docks_.end()) return false;
   TogglePanel(*dock->second);

@@ -35,6 +35,8 @@ class CDlgEditor {
   void OnFormulesSetup() { frame_.OnMessage({Message::Command, {}, RVEditControlWnd::kFormulasCommand}); }
   // Applies a replace that waits.
   void OnCtrlSearchReplace() { frame_.ApplyPendingReplace(); }
+  // Hides the marks of the validator; they come back when the user asks for them.
+  void OnCtrlWarningHide() { frame_.ShowMarks(false); }
   // Deliberately nothing: Enter and Escape never close the editor.
   void OnOK() {}
   void OnCancel() {}

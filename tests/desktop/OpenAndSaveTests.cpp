@@ -5,9 +5,10 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "desktop/ProblemsDesk.h"
 #include "desktop/WindowTest.h"
 #include "desktop/panels/MessageBar.h"
-#include "desktop/panels/ProblemsDock.h"
+#include "desktop/panels/ProblemsWatch.h"
 
 namespace xrpt {
 namespace {
@@ -42,7 +43,7 @@ TEST_F(OpenAndSave, WhatCannotBeReadSaysWhyAndOpensAsANewReport) {
     EXPECT_EQ(Frame().PageCount(), 1u) << name;
     EXPECT_FALSE(Frame().IsModified()) << name;
   }
-  EXPECT_EQ(Window().Problems().topLevelItemCount(), 4);
+  EXPECT_EQ(Window().Problems().Watch().Problems().Count(Severity::Error), 4u);
   OpenSample();
   EXPECT_EQ(Message(), "");
 }
