@@ -179,7 +179,10 @@ void ExpressionEdit::Complete(std::size_t offer) {
 void ExpressionEdit::keyPressEvent(QKeyEvent* event) {
   if (IsOffering() && ClosesOffers(*event)) return event->ignore();
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter) return event->ignore();
+  if (isEnter) {
+    if (finishing) finishing();
+    return event->ignore();
+  }
   if (event->key() == Qt::Key_Space && event->modifiers() == Qt::ControlModifier) return Offer(true);
   const QString before = toPlainText();
   QPlainTextEdit::keyPressEvent(event);

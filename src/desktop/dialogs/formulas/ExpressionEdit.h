@@ -38,6 +38,8 @@ class ExpressionEdit final : public QPlainTextEdit {
 
   // The user changed the text.
   std::function<void()> edited;
+  // Enter is about to go to the dialog.
+  std::function<void()> finishing;
   // It took the keyboard.
   std::function<void()> entered;
 

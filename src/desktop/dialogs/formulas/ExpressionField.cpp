@@ -41,6 +41,10 @@ ExpressionField::ExpressionField(ExpressionKind kind, QWidget* parent)
     idle_->start();
     if (textEdited) textEdited(Text());
   };
+  // A button that waits for the verdict is not waited for.
+  edit_->finishing = [this] {
+    if (idle_->isActive()) Judge();
+  };
   edit_->entered = [this] {
     if (entered) entered();
   };
