@@ -200,6 +200,7 @@ TEST_F(FormulaDialogTest, VirtualDevicesAreDeclaredOnce) {
     };
     In<CDlgIntroduceIdentification>(typeName("Site"));
     Hit(devices, Qt::Key_Insert);
+    dialog.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     In<CDlgIntroduceIdentification>([&](CDlgIntroduceIdentification& prompt) {
       In<QMessageBox>([&](QMessageBox& refusal) {
@@ -213,6 +214,7 @@ TEST_F(FormulaDialogTest, VirtualDevicesAreDeclaredOnce) {
       typeName("Site")(prompt);
     });
     Hit(devices, Qt::Key_Insert);
+    dialog.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     In<CDlgIntroduceIdentification>(typeName("P1"));
     Hit(goBacks, Qt::Key_Insert);
