@@ -1,5 +1,5 @@
-// The items of the one card that a panel is about: a graph's series, the variables that a button forces. Several of them
-// can be changed at once; each change is one step.
+// The items of the one card that a panel is about: a graph's series, the variables that a button forces. Several of
+// them can be changed at once; each change is one step.
 #pragma once
 
 #include "editor/SelectedFields.h"

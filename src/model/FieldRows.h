@@ -237,7 +237,8 @@ constexpr RowOf<Owner> KnownBy(RowOf<Owner> row, const FieldPanel& panel) {
   return row;
 }
 
-// Another way to what other rows hold: without a name, for it is not in the file, and never what tells two objects apart.
+// Another way to what other rows hold: without a name, for it is not in the file, and never what tells two objects
+// apart.
 template <class Owner>
 constexpr RowOf<Owner> OtherWay() {
   using Root = typename Owner::FieldRoot;
