@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -21,6 +22,15 @@ namespace xrpt {
 
 namespace {
 
+// In the middle of a square, so that all previews are of one size.
+QImage OnSquare(const QImage& picture) {
+  QImage square(PicturesModel::kPreview, PicturesModel::kPreview, QImage::Format_ARGB32_Premultiplied);
+  square.fill(Qt::transparent);
+  QPainter(&square).drawImage((square.width() - picture.width()) / 2, (square.height() - picture.height()) / 2,
+                              picture);
+  return square;
+}
+
 QImage PreviewOf(const std::wstring& name) {
   const PictureKey key = ParsePictureName(name);
   const PicturePtr picture = ReadImageFile(CurrentHost(), key.id, key.path);
@@ -28,7 +38,13 @@ QImage PreviewOf(const std::wstring& name) {
   const QImage whole = ToImage(*picture);
   const QSize room(PicturesModel::kPreview, PicturesModel::kPreview);
   const bool fits = whole.width() <= room.width() && whole.height() <= room.height();
-  return fits ? whole.copy() : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  return OnSquare(fits ? whole : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+// Until a preview is there.
+QPixmap Placeholder() {
+  const QPixmap icon = ThemedIcon(QStringLiteral("image")).pixmap(PicturesModel::kPreview / 2);
+  return QPixmap::fromImage(OnSquare(icon.toImage()));
 }
 
 }  // namespace
@@ -71,7 +87,7 @@ QVariant PicturesModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DecorationRole) return {};
   if (rows_[row].preview.isNull()) {
     Ask(row);
-    return ThemedIcon(QStringLiteral("image")).pixmap(kPreview / 2);
+    return Placeholder();
   }
   return rows_[row].preview;
 }
