@@ -103,6 +103,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void SearchPrevious();
   void OpenFormulas();
   void OpenSources();
+  void OpenStyles();
   void ExportPdf();
   void ExportImages();
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,

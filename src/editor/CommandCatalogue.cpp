@@ -288,6 +288,7 @@ constexpr Command kCommands[] = {
      nullptr, nullptr},
     {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+Shift+V", true,
      Always, nullptr, nullptr},
+    {"Styles", kReport, text::kResourcesGroup, text::kStyles, "styles", "Ctrl+Shift+Y", true, Always, nullptr, nullptr},
     {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},
     {"NextProblem", kReport, text::kChecksGroup, text::kNextProblem, "chevron-down", "F8", false, Always, nullptr,
      nullptr},

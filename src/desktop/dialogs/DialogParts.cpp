@@ -12,22 +12,6 @@
 
 namespace xrpt {
 
-namespace {
-constexpr wchar_t kSection[] = L"Dialogs";
-constexpr int kLargest = 10000;
-}  // namespace
-
-void KeepSize(QDialog& dialog, const wchar_t* name, QSize first) {
-  const QStringList kept = ToQString(CurrentHost().settings->ProfileText(kSection, name)).split(QLatin1Char('x'));
-  const QSize size = kept.size() == 2 ? QSize(kept[0].toInt(), kept[1].toInt()) : first;
-  const bool isSound = size.width() > 0 && size.height() > 0 && size.width() < kLargest && size.height() < kLargest;
-  dialog.resize(isSound ? size : first);
-  QObject::connect(&dialog, &QDialog::finished, &dialog, [&dialog, name] {
-    const QString now = QStringLiteral("%1x%2").arg(dialog.width()).arg(dialog.height());
-    CurrentHost().settings->SetProfileText(kSection, name, now.toStdWString());
-  });
-}
-
 QDialogButtonBox* AddClosingButtons(QDialog& dialog) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
   buttons->button(QDialogButtonBox::Ok)->setText(Translated(text::kAccept));

@@ -1,8 +1,7 @@
-// What dialogs have in common: the size they were left with, their closing buttons, and texts with several places.
+// What dialogs have in common: their closing buttons, and texts with several places.
 #pragma once
 
 #include <QDialogButtonBox>
-#include <QSize>
 #include <QStringList>
 
 class QAction;
@@ -10,9 +9,6 @@ class QDialog;
 class QPushButton;
 
 namespace xrpt {
-
-// The dialog opens as large as it was closed last, under that name; at first as large as given.
-void KeepSize(QDialog& dialog, const wchar_t* name, QSize first);
 
 // OK, which Enter presses, and Cancel.
 QDialogButtonBox* AddClosingButtons(QDialog& dialog);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "desktop/dialogs/DialogParts.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/formulas/ExpressionEdit.h"
 #include "desktop/dialogs/formulas/ExpressionField.h"

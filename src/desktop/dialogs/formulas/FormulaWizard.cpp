@@ -1,6 +1,7 @@
 #include "desktop/dialogs/formulas/FormulaWizard.h"
 
 #include "desktop/dialogs/DialogParts.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/formulas/ChoiceTree.h"
 #include "desktop/dialogs/formulas/ExpressionEdit.h"

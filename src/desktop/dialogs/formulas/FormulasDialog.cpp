@@ -9,6 +9,7 @@
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogParts.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/formulas/FormulaDialog.h"
 #include "desktop/dialogs/formulas/FormulaModel.h"

@@ -10,6 +10,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CDlgIntroduceIdentification.h"
 #include "desktop/dialogs/DialogParts.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"

@@ -12,6 +12,7 @@
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogParts.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/search/MatchDelegate.h"
 #include "desktop/dialogs/search/MatchModel.h"
