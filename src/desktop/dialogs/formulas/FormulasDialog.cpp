@@ -68,7 +68,7 @@ void FormulasDialog::BuildActions() {
   AddAction(text::kNewEntry, "new", {Qt::Key_Insert, QKeySequence::New}, &CDlgFormules::OnXciAdd);
   modify_ =
       AddAction(text::kModifyEntry, "replace", {Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2}, &CDlgFormules::OnXciModify);
-  remove_ = AddAction(text::kRemoveEntry, "delete", {QKeySequence::Delete}, &CDlgFormules::OnXciDelete);
+  remove_ = AddAction(text::kRemoveRow, "delete", {QKeySequence::Delete}, &CDlgFormules::OnXciDelete);
   copy_ = new QAction(ThemedIcon(QStringLiteral("copy")), Translated(text::kCopyEntries), this);
   copy_->setShortcut(QKeySequence::Copy);
   connect(copy_, &QAction::triggered, this, [this] { table_.CopyToClipboard(); });

@@ -84,7 +84,7 @@ void SourcesDialog::AddActions(Part& part) {
   QAction* modify = add(text::kModifyEntry, "replace", {Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2}, [this, &part] {
     if ((setup_.*part.modify)(RowOf(part))) UpdateList(part, RowOf(part));
   });
-  QAction* remove = add(text::kRemoveEntry, "delete", {QKeySequence::Delete}, [this, &part] {
+  QAction* remove = add(text::kRemoveRow, "delete", {QKeySequence::Delete}, [this, &part] {
     const std::size_t row = RowOf(part);
     if ((setup_.*part.remove)(row)) UpdateList(part, row);
   });
