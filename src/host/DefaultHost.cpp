@@ -51,6 +51,13 @@ void AddScreenAndPaper(Host& host, const HostOptions& options) {
 
 }  // namespace
 
+void LimitPictures(Host& host, const HostOptions& options) {
+  constexpr int kUsual = PictureMemory::kUsualLimit >> 20;
+  const int wanted = options.pictureMegabytes > 0 ? options.pictureMegabytes
+                                                  : host.settings->ProfileInt(L"Pictures", L"MemoryMegabytes", kUsual);
+  host.pictureStore.Memory()->SetLimit(static_cast<std::size_t>(std::clamp(wanted, 16, 16384)) << 20);
+}
+
 HostOptions WithUserFolders(HostOptions options) {
   const Path user = UserFolder("XDG_CONFIG_HOME", ".config");
   if (options.settingsFile.empty()) options.settingsFile = user / "settings.ini";
@@ -74,6 +81,7 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->variables = std::make_unique<VariableNames>();
   AddStyles(*host);
   AddScreenAndPaper(*host, options);
+  LimitPictures(*host, options);
   return host;
 }
 

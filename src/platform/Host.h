@@ -94,6 +94,10 @@ class PictureService {
   virtual ~PictureService() = default;
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
+  // What it would be decoded to, without its pixels, where that can be told without decoding; otherwise nothing.
+  virtual PicturePtr Outline(std::string_view) { return nullptr; }
+  // Decoded to so many pixels.
+  virtual PicturePtr DecodeScaled(std::string_view bytes, int, int) { return Decode(bytes); }
 };
 
 // What one copy puts on the clipboard: the text, and pictures of the same thing for other programs (either may be

@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstring>
-#include <iostream>
 
 #include "editor/RVEditControlWnd.h"
 #include "host/DefaultHost.h"
@@ -35,7 +34,7 @@ bool IsSaved(const std::string& file, const SaveResult& result) {
 bool PrintReport(const RVReport& report) {
   XmlError fault;
   const std::string text = report.TemplateText(&fault);
-  if (fault.message.empty() && !(std::cout << text << std::flush)) fault.message = std::strerror(errno);
+  if (fault.message.empty() && !PrintDocument(text)) fault.message = std::strerror(errno);
   if (!fault.message.empty()) PrintError("standard output", fault.message);
   return fault.message.empty();
 }
@@ -93,10 +92,6 @@ bool OpenReport(const CommonOptions& options, const std::string& name, RVReport&
 
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options) {
   return IsLoaded(frame.OpenFile(FileOf(options), nullptr));
-}
-
-void PrintError(const std::string& file, const std::string& reason) {
-  std::cerr << "xrpt: " << file << ": " << reason << '\n';
 }
 
 bool WriteOutput(const std::string& file, const std::string& bytes) {

@@ -6,6 +6,7 @@
 
 #include "host/DefaultHost.h"
 #include "model/RVReport.h"
+#include "xrpt/Output.h"
 
 namespace CLI {
 class App;
@@ -57,8 +58,6 @@ bool OpenReport(const CommonOptions& options, const std::string& name, RVReport&
 // The same in an editor's frame, under the stored name.
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options);
 
-// "xrpt: FILE: REASON" on standard error.
-void PrintError(const std::string& file, const std::string& reason);
 // Writes a file through the host; false and a line on standard error when that fails.
 bool WriteOutput(const std::string& file, const std::string& bytes);
 // The same for a report; the file "-" is standard output.

@@ -1,12 +1,11 @@
 #include "xrpt/ScriptRunner.h"
 
-#include <iostream>
-
 #include "editor/CommandCatalogue.h"
 #include "editor/SelectedFields.h"
 #include "platform/Json.h"
 #include "platform/Text.h"
 #include "xrpt/ActionNames.h"
+#include "xrpt/Output.h"
 
 namespace xrpt {
 namespace {
@@ -192,7 +191,7 @@ std::string ScriptRunner::Set(Arguments arguments) {
 }
 
 std::string ScriptRunner::Print(Arguments) {
-  std::cout << StateAsJson(frame_) << std::endl;
+  xrpt::Print(StateAsJson(frame_) + "\n");
   return {};
 }
 

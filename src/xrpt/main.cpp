@@ -1,7 +1,7 @@
 // xrpt: report templates in scripts.
 #include <CLI/CLI.hpp>
 #include <exception>
-#include <iostream>
+#include <sstream>
 
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
@@ -24,7 +24,12 @@ int Run(int argc, char** argv) {
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return program.exit(error) == 0 ? xrpt::kNothingToReport : xrpt::kCouldNotRun;
+    std::ostringstream out;
+    std::ostringstream aside;
+    const bool isHelp = program.exit(error, out, aside) == 0;
+    xrpt::Print(out.str());
+    xrpt::PrintAside(aside.str());
+    return isHelp ? xrpt::kNothingToReport : xrpt::kCouldNotRun;
   }
   return status;
 }
@@ -35,7 +40,7 @@ int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const std::exception& fault) {
-    std::cerr << "xrpt: " << fault.what() << '\n';
+    xrpt::PrintAside(std::string("xrpt: ") + fault.what() + "\n");
     return xrpt::kCouldNotRun;
   }
 }

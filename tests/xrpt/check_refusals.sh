@@ -60,4 +60,19 @@ if "$xrpt" resave "$folder/plain.xrpt" -o - >/dev/full 2>"$work/stderr"; then
   failed=1
 fi
 refuse nowhere resave "$folder/plain.xrpt" -o "$work/nowhere/out.xrpt"
+
+# Control characters of content, names and arguments never reach a terminal.
+escape=$(printf '\033')
+sed "s/<name>.*<\/name>/<name>\&#27;[2J\&#155;31m<\/name>/" "$folder/plain.xrpt" >"$work/evil$escape[2J.xrpt"
+{
+  "$xrpt" info "$work/evil$escape[2J.xrpt"
+  "$xrpt" info "$work/evil$escape[2J.xrpt" --format json
+  "$xrpt" info "$work/none$escape[2J.xrpt"
+  "$xrpt" info --none "$escape[2J"
+  "$xrpt" edit "$work/evil$escape[2J.xrpt" -o "$work/out.xrpt" --actions "$work/none$escape[2J"
+} >"$work/stdout" 2>&1
+if LC_ALL=C grep -q "$(printf '[\001-\010\013-\037\177]\|\302\233')" "$work/stdout"; then
+  echo "a control character came through:" && cat -v "$work/stdout"
+  failed=1
+fi
 exit $failed
