@@ -4,6 +4,7 @@
 
 #include "host/DeviceFile.h"
 #include "host/DiskFiles.h"
+#include "host/FileLocks.h"
 #include "host/FileLogger.h"
 #include "host/FileStyles.h"
 #include "host/FixedScreen.h"
@@ -14,6 +15,7 @@
 #include "host/NoPictures.h"
 #include "host/PlainFonts.h"
 #include "host/RandomGuids.h"
+#include "host/RecoveryStore.h"
 #include "host/SystemLocale.h"
 #include "host/TextCatalogue.h"
 #include "host/VariableNames.h"
@@ -73,6 +75,8 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->setup = std::make_unique<FixedSetup>(options.cfgFolder, options.imagesFolder);
   host->logger = std::make_unique<FileLogger>(options.stateFolder, options.logToStderr);
   host->files = std::make_unique<DiskFiles>(*host, options.stateFolder);
+  host->locks = std::make_unique<FileLocks>();
+  host->recovery = std::make_unique<RecoveryStore>(*host, options.stateFolder);
   host->texts = std::make_unique<TextCatalogue>(LanguageFrom(options.language));
   host->settings = std::make_unique<IniSettings>(*host, options.settingsFile);
   host->guids = std::make_unique<RandomGuids>();

@@ -14,8 +14,10 @@
 #include "platform/Color.h"
 #include "platform/Files.h"
 #include "platform/Fonts.h"
+#include "platform/Locks.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
+#include "platform/Recovery.h"
 
 namespace xrpt {
 
@@ -169,6 +171,8 @@ struct Host {
   std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
   std::unique_ptr<SetupService> setup;
   std::unique_ptr<FileService> files;
+  std::unique_ptr<LockService> locks;
+  std::unique_ptr<RecoveryService> recovery;
   std::unique_ptr<TextService> texts;
   std::unique_ptr<SettingsService> settings;
   std::unique_ptr<IdentifierCache> identifiers;
