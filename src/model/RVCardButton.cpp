@@ -71,7 +71,7 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }

@@ -32,7 +32,7 @@ const CardClass& RVCardLabel::Class() {
 bool RVCardLabel::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, color); }
 
 void RVCardLabel::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(reference, styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardLabel::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }

@@ -102,7 +102,7 @@ const CardClass& RVCardReportGraph::Class() {
 bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
 
 void RVCardReportGraph::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(node.Node("style"), styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }

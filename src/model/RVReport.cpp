@@ -1,5 +1,7 @@
 #include "model/RVReport.h"
 
+#include <algorithm>
+
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
@@ -8,6 +10,7 @@ namespace xrpt {
 namespace {
 
 constexpr std::wstring_view kVersion = L"24.11.17";
+constexpr std::string_view kRoot = "reportLayout";
 
 Path ConfigFolder() { return CurrentHost().setup->CfgPath(); }
 
@@ -15,6 +18,37 @@ void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& 
   for (const XmlNode& child : from) {
     if (child.Tag() == tag) to.Root().Append(child);
   }
+}
+
+// A document of another name is a report's all the same when it holds a page, a formula or a value of one. Documents of
+// our own other kinds have identifiers and names, too.
+bool MayBeReport(const XmlNode& root) {
+  constexpr std::string_view kDistinct[] = {"page",    "formules",       "revision",       "dpiFont",
+                                            "hasZoom", "virtualEnabled", "virtualDevices", "goBackVariables"};
+  constexpr std::string_view kCommon[] = {"id", "name", "version"};
+  constexpr std::string_view kOtherKinds[] = {"style",  "styleClipboard", "formulesClipboard", "controlClipboard",
+                                              "device", "devices",        "warnings"};
+  if (root.Tag() == kRoot) return true;
+  const auto isOneOf = [](std::string_view tag, const auto& tags) {
+    return std::find(std::begin(tags), std::end(tags), tag) != std::end(tags);
+  };
+  const bool isOtherKind = isOneOf(root.Tag(), kOtherKinds);
+  return std::any_of(root.begin(), root.end(), [&](const XmlNode& child) {
+    return isOneOf(child.Tag(), kDistinct) || (!isOtherKind && isOneOf(child.Tag(), kCommon));
+  });
+}
+
+// What may stand in a file's name stays; an identifier read from a file may hold anything.
+std::wstring FileNamePart(std::wstring text) {
+  for (wchar_t& c : text) {
+    if (!IsSafeFileName(std::wstring(1, c)) && c != L'.') c = L'_';
+  }
+  return text;
+}
+
+bool IsSameFile(const Path& a, const Path& b) {
+  std::error_code ignored;
+  return a == b || std::filesystem::equivalent(a, b, ignored);
 }
 
 bool HasChildren(const XmlDocument& document) { return document.Root().Size() > 0; }
@@ -40,13 +74,49 @@ LoadResult RVReport::Load(const std::wstring& nameOrPath) {
 }
 
 LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
-  LoadResult result{file, false, {}};
+  LoadResult result;
+  result.file = file;
   XmlDocument document;
-  result.loaded = document.Load(file, &result.error);
-  if (!result.loaded) document.Create("reportLayout");
+  result.loaded = ReadDocument(result, document);
+  if (!result.loaded) document.Create(kRoot);
   ReadTemplate(document.Root(), askedName);
+  for (const auto& page : pages) result.lostStyles += page->lostStyles;
+  fileName_ = name;
   modified = false;
   return result;
+}
+
+bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
+  file_.clear();
+  FileService& files = *CurrentHost().files;
+  const FileStamp stamp = files.Stamp(result.file);
+  FileError fault;
+  std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &fault);
+  if (!bytes) {
+    result.error.message = fault.reason;
+    return false;
+  }
+  Remember(result.file, stamp, *bytes);
+  if (document.Parse(std::move(*bytes), &result.error)) {
+    if (MayBeReport(document.Root())) return true;
+    result.error.message = "not a report but a document of <" + std::string(document.Root().Tag()) + ">";
+  }
+  file_.clear();
+  return false;
+}
+
+void RVReport::BelongTo(const Path& file) {
+  FileService& files = *CurrentHost().files;
+  const FileStamp stamp = files.Stamp(file);
+  const std::optional<std::string> bytes = files.Read(file, XmlDocument::kMaxBytes);
+  Remember(file, stamp, bytes ? *bytes : std::string());
+  modified = true;
+}
+
+void RVReport::Remember(const Path& file, const FileStamp& stamp, std::string_view bytes) {
+  file_ = file;
+  onDisk_ = FileVersion(stamp, bytes);
+  fileName_ = name;
 }
 
 void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName) {
@@ -113,24 +183,37 @@ bool RVReport::EnsureName() {
   return IsSafeFileName(name);
 }
 
-SaveResult RVReport::Save() {
-  if (!EnsureName()) {
+SaveResult RVReport::Save(const SaveRules& rules) {
+  if (!GoesBack(rules) && !EnsureName()) {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
   CurrentHost().settings->SetRegistryText(L"LastInforme", name);
   CurrentHost().files->CreateFolder(ConfigFolder());
-  return SaveTo(FilePath());
+  return SaveTo(FilePath(rules), rules);
 }
 
-Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
+bool RVReport::GoesBack(const SaveRules& rules) const {
+  return rules.backToItsFile && !file_.empty() && !name.empty() && name == fileName_;
+}
 
-SaveResult RVReport::SaveTo(const Path& file) {
+Path RVReport::FilePath(const SaveRules& rules) const {
+  if (GoesBack(rules)) return file_;
+  return NamedFilePath(ConfigFolder(), FileNamePart(id), name, kReportEnding);
+}
+
+bool RVReport::HasChangedOnDisk() const { return !file_.empty() && HasChanged(*CurrentHost().files, file_, onDisk_); }
+
+SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
+  const bool isOwn = !file_.empty() && IsSameFile(file, file_);
+  const FileVersion none;
   std::string text;
   XmlWriter out(text);
   WriteTemplate(out);
-  SaveResult result = SaveText(file, out);
+  SaveResult result = SaveText(file, out, rules.asksFirst ? (isOwn ? &onDisk_ : &none) : nullptr);
+  if (result.outcome == SaveOutcome::Changed && !isOwn) result.outcome = SaveOutcome::Taken;
   modified = !result;
+  if (result) Remember(file, CurrentHost().files->Stamp(file), text);
   return result;
 }
 
@@ -144,7 +227,7 @@ std::string RVReport::TemplateText(XmlError* fault) const {
 
 void RVReport::WriteTemplate(XmlWriter& out) const {
   out.Declaration();
-  const XmlElement root(out, "reportLayout");
+  const XmlElement root(out, kRoot);
   out.Value("id", id);
   out.Value("name", name);
   out.Value("version", version);

@@ -1,14 +1,18 @@
 #include "model/StyleReference.h"
 
+#include "model/RVReportPage.h"
 #include "platform/Host.h"
 
 namespace xrpt {
 
-bool ReadStyleReference(const XmlNode& reference, std::wstring& styleName) {
+bool ReadStyleReference(const XmlNode& reference, std::wstring& styleName, RVReportPage* page) {
   if (!reference) return false;
-  const bool known = CurrentHost().styles->StyleId2Name(reference.Value(), styleName);
-  if (!known) styleName.clear();
-  return known;
+  const std::wstring id = reference.Value();
+  const bool known = CurrentHost().styles->StyleId2Name(id, styleName);
+  if (known) return true;
+  styleName.clear();
+  if (page && !id.empty()) ++page->lostStyles;
+  return false;
 }
 
 void WriteStyleReference(XmlWriter& out, const std::wstring& styleName) {

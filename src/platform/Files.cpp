@@ -30,6 +30,8 @@ std::wstring TextOf(const SaveResult& result) {
       return FormatText(FormatText(HostText(text::kNotSaved), file), FromUtf8(result.reason));
     case SaveOutcome::Changed:
       return FormatText(HostText(text::kChangedOnDisk), file);
+    case SaveOutcome::Taken:
+      return FormatText(HostText(text::kFileIsAnothers), file);
     case SaveOutcome::BadName:
       return HostText(text::kNameIsNoFile);
   }

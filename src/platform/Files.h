@@ -44,6 +44,7 @@ enum class SaveOutcome {
   Saved,
   Failed,   // `reason` says why
   Changed,  // the file on disk is another than the one that was read: nothing was written
+  Taken,    // there is a file already, which is not the one that was opened: nothing was written
   BadName,  // the name cannot be a file's, or there is none
 };
 

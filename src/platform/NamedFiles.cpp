@@ -27,6 +27,13 @@ std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, st
   return found;
 }
 
+std::vector<Path> FilesOfName(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+  if (!IsSafeFileName(name)) return {};
+  std::vector<Path> files = CurrentHost().files->List(folder, std::wstring(name) + std::wstring(ending));
+  std::erase_if(files, [&](const Path& file) { return NameOfFile(file, ending) != name; });
+  return files;
+}
+
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending) {
   std::wstring fileName(id);
   fileName += L'.';

@@ -12,6 +12,9 @@ namespace xrpt {
 // first point is exactly the name comes first. Nothing when none matches or the name is no safe file name.
 std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending);
 
+// All files of exactly that name: more than one when reports or styles of several identifiers are called alike.
+std::vector<Path> FilesOfName(const Path& folder, std::wstring_view name, std::wstring_view ending);
+
 // folder / (id + "." + name + ending).
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending);
 
