@@ -1,6 +1,5 @@
 // xrpt edit: drives the page window by the lines of a file, without a screen, and saves.
 #include <CLI/CLI.hpp>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -17,24 +16,23 @@ struct EditOptions : CommonOptions {
   std::string actions;
 };
 
-std::optional<std::string> ReadScript(const std::string& file) {
+constexpr std::size_t kMaxScript = 64u << 20;
+
+std::optional<std::string> ReadScript(const std::string& file, FileError& error) {
+  if (file != "-") return CurrentHost().files->Read(file, kMaxScript, &error);
   std::ostringstream text;
-  if (file == "-") {
-    text << std::cin.rdbuf();
-    return text.str();
-  }
-  const std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
-  text << stream.rdbuf();
+  text << std::cin.rdbuf();
   return text.str();
 }
 
 std::string AtLine(const std::string& file, int line) { return file + ":" + std::to_string(line); }
 
 int Edit(const EditOptions& options) {
-  const std::optional<std::string> text = ReadScript(options.actions);
+  const HostSession session(options);
+  FileError unreadable;
+  const std::optional<std::string> text = ReadScript(options.actions, unreadable);
   if (!text) {
-    PrintError(options.actions, "could not be read");
+    PrintError(options.actions, unreadable.reason);
     return kCouldNotRun;
   }
   ScriptError error;
@@ -43,7 +41,6 @@ int Edit(const EditOptions& options) {
     PrintError(AtLine(options.actions, error.line), error.message);
     return kCouldNotRun;
   }
-  const HostSession session(options);
   ScriptRunner runner;
   if (!OpenIn(runner.Frame(), options)) return kCouldNotRun;
   for (const Action& action : *actions) {

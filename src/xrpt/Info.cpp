@@ -17,7 +17,7 @@ struct InfoOptions : CommonOptions {
 int Info(const InfoOptions& options) {
   const HostSession session(options);
   RVReport report;
-  if (!OpenReport(options, {}, report)) return kCouldNotRun;
+  if (!OpenReport(options, report)) return kCouldNotRun;
   const ReportInfo info = InfoOf(report);
   Print(options.format == "json" ? info.AsJson() : info.AsText());
   return kNothingToReport;

@@ -19,6 +19,14 @@ Path FileOf(const CommonOptions& options) {
   return FindNamedFile(ConfigFolderOf(options), FromUtf8(options.report), kReportEnding).value_or(file);
 }
 
+// One line, and no more than a line: scripts rely on the exit status.
+void AnnounceLosses(const LoadResult& result) {
+  if (result.lostStyles == 0) return;
+  PrintError(result.file.string(),
+             "warning: " + std::to_string(result.lostStyles) +
+                 " references to text styles that are not in the configuration folder are left out");
+}
+
 bool IsLoaded(const LoadResult& result) {
   if (result.loaded) return true;
   const std::string place = result.error.offset ? " at byte " + std::to_string(result.error.offset) : "";
@@ -85,13 +93,19 @@ HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), f
 
 HostSession::~HostSession() { InstallHost(former_); }
 
-bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report) {
+bool OpenReport(const CommonOptions& options, RVReport& report) { return IsLoaded(report.LoadFile(FileOf(options))); }
+
+bool OpenToSave(const CommonOptions& options, const std::string& name, RVReport& report) {
   const std::wstring asked = FromUtf8(name);
-  return IsLoaded(report.LoadFile(FileOf(options), name.empty() ? nullptr : &asked));
+  const LoadResult result = report.LoadFile(FileOf(options), name.empty() ? nullptr : &asked);
+  AnnounceLosses(result);
+  return IsLoaded(result);
 }
 
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options) {
-  return IsLoaded(frame.OpenFile(FileOf(options), nullptr));
+  const LoadResult result = frame.OpenFile(FileOf(options), nullptr);
+  AnnounceLosses(result);
+  return IsLoaded(result);
 }
 
 bool WriteOutput(const std::string& file, const std::string& bytes) {

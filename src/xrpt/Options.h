@@ -52,9 +52,12 @@ HostOptions HostOptionsOf(const CommonOptions& options);
 Path ConfigFolderOf(const CommonOptions& options);
 Path ImagesFolderOf(const CommonOptions& options);
 
-// Opens the report of the options; under `name` when one is given. False, and a line on standard error, when there is
-// no such file or it cannot be read.
-bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report);
+// Opens the report of the options. False, and a line on standard error, when there is no such file, it cannot be read
+// or is no report.
+bool OpenReport(const CommonOptions& options, RVReport& report);
+// The same for a report that will be written, under `name` when one is given: what loading left out is counted on
+// standard error.
+bool OpenToSave(const CommonOptions& options, const std::string& name, RVReport& report);
 // The same in an editor's frame, under the stored name.
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options);
 
