@@ -95,9 +95,10 @@ void Snapshots() {
   const std::wstring id = desk.page.cards[0].id;
   std::vector<double> bytes;
   const double ms = MedianMs(15, [&](int i) {
-    desk.window.EditCard(id)->x = 0.5 + i * 0.1;
+    PageEdit edit = desk.window.Edit({});
+    edit.Card(id)->x = 0.5 + i * 0.1;
     const std::size_t before = BytesInUse();
-    desk.window.AddUndoInfo(false);
+    edit.End();
     bytes.push_back(static_cast<double>(BytesInUse() - before));
     if (desk.window.UndoCount() != std::min<std::size_t>(20, 3 + static_cast<std::size_t>(i) + 1)) std::abort();
   });

@@ -2,12 +2,12 @@
 
 # What the editor itself is built from.
 BUILD_PACKAGES="g++ cmake ninja-build ccache mold zlib1g-dev libpugixml-dev libcli11-dev qt6-base-dev qt6-svg-dev
-  qt6-image-formats-plugins fontconfig fonts-liberation fonts-dejavu-core"
+  qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-liberation fonts-dejavu-core"
 # What only the tests need.
 TEST_PACKAGES="libgtest-dev libgmock-dev librapidcheck-dev libmuparser-dev libbenchmark-dev libxml2-utils xvfb xdotool openbox
   poppler-utils python3"
 # What only CI needs.
-CI_PACKAGES="clang-14 libclang-rt-14-dev clang-format-14"
+CI_PACKAGES="clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14"
 
 install_packages() {
   local missing=""

@@ -14,20 +14,15 @@ void RVEditTemplateWnd::Arrange(const Rule& rule, int undoTextId) {
   Rects rects;
   for (const std::size_t index : indexes) rects.push_back(RectOf(page_.cards[index]));
   rule(rects, indexes);
+  PageEdit edit = Edit({undoTextId, static_cast<int>(selection_.Size())});
   for (std::size_t i = 0; i < indexes.size(); ++i) {
-    if (rects[i] != RectOf(page_.cards[indexes[i]])) SetRect(page_.cards.Edit(indexes[i]), rects[i]);
+    if (rects[i] != RectOf(page_.cards[indexes[i]])) SetRect(edit.Card(indexes[i]), rects[i]);
   }
-  FinishArranging(undoTextId);
-}
-
-void RVEditTemplateWnd::FinishArranging(int undoTextId) {
-  if (!AddUndoInfo(false, {undoTextId, static_cast<int>(selection_.Size())})) return;
-  RedrawBackground();
-  PostChange(false);
+  if (edit.EndQuietly()) PostChange(false);
 }
 
 bool RVEditTemplateWnd::IsReferenceThere() const {
-  return !selection_.IsEmpty() && page_.cards.Find(selection_.Entries().back().id) != nullptr;
+  return !selection_.IsEmpty() && page_.cards.IndexOf(selection_.Entries().back().key) != CardList::kNowhere;
 }
 
 void RVEditTemplateWnd::AlignSelectedControls(int mode) {
@@ -73,29 +68,20 @@ ArrangePage RVEditTemplateWnd::PageOf(const PagePlacement& place) {
   return {place.pageWidth, place.pageHeight, place.PixelWidth(), place.PixelHeight()};
 }
 
-void RVEditTemplateWnd::ControlBringToFront() {
+void RVEditTemplateWnd::ControlBringToFront() { Stack(true, text::kToFront); }
+
+void RVEditTemplateWnd::ControlSendToBack() { Stack(false, text::kToBack); }
+
+// A step even when the order stays as it was: unless what the user sees counts, hosts expect one.
+void RVEditTemplateWnd::Stack(bool front, int undoTextId) {
   if (selection_.IsEmpty()) return;
   DropGesture();
-  for (const std::wstring& id : selection_.Ids()) {
-    const std::size_t index = page_.cards.IndexOf(id);
-    if (index != CardList::kNowhere) page_.cards.MoveToFront(index);
-  }
-  FinishStacking(text::kToFront);
-}
-
-void RVEditTemplateWnd::ControlSendToBack() {
-  if (selection_.IsEmpty()) return;
-  DropGesture();
-  for (const std::wstring& id : selection_.Ids()) {
-    const std::size_t index = page_.cards.IndexOf(id);
-    if (index != CardList::kNowhere) page_.cards.MoveToBack(index);
-  }
-  FinishStacking(text::kToBack);
-}
-
-void RVEditTemplateWnd::FinishStacking(int undoTextId) {
-  AddUndoInfo(true, {undoTextId, static_cast<int>(selection_.Size())});
-  RedrawBackground();
+  std::vector<std::size_t> indexes = SelectedIndexes();
+  std::erase(indexes, CardList::kNowhere);
+  const UndoName name{undoTextId, static_cast<int>(selection_.Size())};
+  PageEdit edit = Edit(name);
+  front ? edit.Cards().MoveToFront(indexes) : edit.Cards().MoveToBack(indexes);
+  if (!edit.EndQuietly() && !options_.keepsStoredDigits) AddUndoInfo(true, name);
   PostChange(false);
 }
 

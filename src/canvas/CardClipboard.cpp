@@ -1,23 +1,12 @@
 #include "canvas/CardClipboard.h"
 
 #include "model/CardRegistry.h"
-#include "model/RVCardConditioned.h"
 #include "platform/Host.h"
 
 namespace xrpt {
 namespace {
 
 constexpr std::string_view kRoot = "controlClipboard";
-
-// The cards inside a conditioned one are cards of their own too.
-void RenewIds(RVCardControl& card) {
-  card.InitializeId();
-  if (auto* conditioned = dynamic_cast<RVCardConditioned*>(&card)) {
-    for (const auto& inner : conditioned->cards) {
-      if (inner) inner->InitializeId();
-    }
-  }
-}
 
 }  // namespace
 
@@ -50,7 +39,7 @@ bool ClipboardReader::Read(RVReportPage& page, std::vector<std::unique_ptr<RVCar
     if (cards.size() == kMostCards) return false;
     card->SetParent(&page);
     card->GetFromXml(element);
-    RenewIds(*card);
+    card->RenewIds();
     cards.push_back(std::move(card));
   }
   return true;

@@ -20,6 +20,9 @@ class ClipboardReader {
   static constexpr std::size_t kLimit = 8u << 20;  // bytes
   static constexpr std::size_t kMostCards = 20'000;
 
+  // Whether so many cards with a text of so many bytes can be read again.
+  static bool Takes(std::size_t cards, std::size_t bytes) { return cards <= kMostCards && bytes <= kLimit; }
+
   bool HoldsCards() const { return Document() != nullptr; }
   // New cards for a page, with fresh ids throughout, in document order; unknown elements are skipped. False when the
   // clipboard holds no cards document, or one of more cards than anybody copies.

@@ -1,6 +1,5 @@
 // Copy, cut, paste, delete and select all.
 #include "canvas/CardClipboard.h"
-#include "canvas/MouseState.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 
@@ -21,28 +20,33 @@ void Shift(double& near, double size, double shift, double page) {
 
 }  // namespace
 
-void RVEditTemplateWnd::ControlCopy() {
-  if (selection_.IsEmpty()) return;
+bool RVEditTemplateWnd::ControlCopy() {
+  if (selection_.IsEmpty()) return false;
   std::vector<const RVCardControl*> cards;
   for (const std::size_t index : SelectedIndexes()) {
     if (index != CardList::kNowhere) cards.push_back(&page_.cards[index]);
   }
   ClipboardContent content;
   content.text = CardsAsText(cards);
+  // What could not be pasted again is not copied, and above all not cut.
+  if (!ClipboardReader::Takes(cards.size(), content.text.size())) {
+    Refuse(text::kTooMuchForClipboard);
+    return false;
+  }
   if (pictureMaker_) pictureMaker_(page_, selection_.Ids(), content);
   CurrentHost().clipboard->PutToClipboard(content);
+  return true;
 }
 
 void RVEditTemplateWnd::ControlCut() {
-  ControlCopy();
-  DeleteSelectedControls();
+  if (ControlCopy()) DeleteSelectedControls();
 }
 
 bool RVEditTemplateWnd::IsActionPasteEnabled() const { return clipboardReader_.HoldsCards(); }
 
 void RVEditTemplateWnd::ControlPaste() {
   std::vector<std::unique_ptr<RVCardControl>> cards;
-  if (!clipboardReader_.Read(page_, cards)) return;
+  if (!clipboardReader_.Read(editedPage_, cards)) return;
   const PagePlacement place = Placement();
   const GridSteps grid = GridOf(page_.properties);
   const double dx = place.IsValid() ? PasteShift(grid.x, place.pixelsPerMm.x, place.PixelWidth()) : 0.0;
@@ -50,17 +54,15 @@ void RVEditTemplateWnd::ControlPaste() {
   DropGesture();
   PauseTimer();
   ClearSelection();
+  PageEdit edit = Edit({text::kPasteCards, static_cast<int>(cards.size())});
   for (auto& card : cards) {
     Shift(card->x, card->width, dx, page_.properties.width);
     Shift(card->y, card->height, dy, page_.properties.height);
-    Select(*card, ToPixels(place, RectOf(*card)));
-    page_.cards.PushFront(std::move(card));
+    selection_.AddSelection(*card);
+    edit.Cards().PushFront(std::move(card));
   }
-  if (!cards.empty()) {
-    RedrawBackground();
-    PostChange(false);
-  }
-  AddUndoInfo(false, {text::kPasteCards, static_cast<int>(cards.size())});
+  edit.EndQuietly();
+  if (!cards.empty()) PostChange(false);
   // The clipboard now holds the shifted cards, so that pasting again lands one step further.
   ControlCopy();
   StartTimer();
@@ -76,20 +78,19 @@ void RVEditTemplateWnd::DeleteSelectedControls() {
   for (const std::size_t index : indexes) {
     parent_.OnMessage({Message::CardAboutToBeDeleted, page_.cards[index].id, 0});
   }
-  page_.cards.Remove(std::move(indexes));
-  AddUndoInfo(false, {text::kDeleteCards, count});
+  PageEdit edit = Edit({text::kDeleteCards, count});
+  edit.Cards().Remove(std::move(indexes));
+  edit.EndQuietly();
   ClearSelection();
-  RedrawBackground();
   PostChange(false);
 }
 
 void RVEditTemplateWnd::ControlSelectAll() {
-  const PagePlacement place = Placement();
-  if (page_.cards.IsEmpty() || !place.IsValid()) return;
+  if (page_.cards.IsEmpty() || !Placement().IsValid()) return;
   DropGesture();
   PauseTimer();
   ClearSelection();
-  for (std::size_t i = 0; i < page_.cards.Size(); ++i) Select(page_.cards[i], ToPixels(place, RectOf(page_.cards[i])));
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) selection_.AddSelection(page_.cards[i]);
   StartTimer();
   AddUndoInfo(false, {text::kSelect, 0});
   port_.Invalidate();

@@ -2,10 +2,12 @@
 
 namespace xrpt {
 
-void History::Add(RVUndo step) {
+bool History::Add(RVUndo step, std::size_t most) {
   undone_.clear();
   steps_.push_back(std::move(step));
-  if (steps_.size() > kMostSteps) steps_.pop_front();
+  if (steps_.size() <= most) return false;
+  steps_.pop_front();
+  return true;
 }
 
 const RVUndo& History::StepBack() {
@@ -27,11 +29,6 @@ void History::DeleteLast() {
 void History::Clear() {
   steps_.clear();
   undone_.clear();
-}
-
-void History::SetSurround(Color color) {
-  for (RVUndo& step : steps_) step.SetSurround(color);
-  for (RVUndo& step : undone_) step.SetSurround(color);
 }
 
 }  // namespace xrpt

@@ -1,8 +1,8 @@
 // Which card lies under the pointer, and which handle of it.
 #pragma once
 
+#include "canvas/DraggingStyle.h"
 #include "canvas/Placement.h"
-#include "canvas/RVSelection.h"
 #include "model/CardList.h"
 #include "platform/Window.h"
 

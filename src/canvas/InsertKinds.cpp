@@ -11,21 +11,34 @@
 
 namespace xrpt {
 
+namespace {
+
+const InsertKindRow kRows[] = {
+    {tool::kLabel, &RVCardLabel::Class, 0x0001, 0x000000},
+    {tool::kImage, &RVCardImage::Class, 0x0002, std::nullopt},
+    {tool::kDate, &RVCardDate::Class, 0x0004, 0xC000C0},
+    {tool::kFormule, &RVCardFormule::Class, 0x0008, 0x6060C0},
+    {tool::kConditioned, &RVCardConditioned::Class, 0x0010, 0x60C060},
+    {tool::kReportGraph, &RVCardReportGraph::Class, 0x0020, 0x606060},
+    {tool::kAnalogBar, &RVAnalogBar::Class, 0x0040, 0x000000},
+    {tool::kPrimitive, &RVCardPrimitive::Class, 0x4000, std::nullopt},
+};
+
+}  // namespace
+
+std::span<const InsertKindRow> InsertKinds() { return kRows; }
+
 const InsertKindRow* FindInsertKind(int code) {
-  static const InsertKindRow kRows[] = {
-      {tool::kLabel, &RVCardLabel::Class, 0x0001, 0x000000},
-      {tool::kImage, &RVCardImage::Class, 0x0002, std::nullopt},
-      {tool::kDate, &RVCardDate::Class, 0x0004, 0xC000C0},
-      {tool::kFormule, &RVCardFormule::Class, 0x0008, 0x6060C0},
-      {tool::kConditioned, &RVCardConditioned::Class, 0x0010, 0x60C060},
-      {tool::kReportGraph, &RVCardReportGraph::Class, 0x0020, 0x606060},
-      {tool::kAnalogBar, &RVAnalogBar::Class, 0x0040, 0x000000},
-      {tool::kPrimitive, &RVCardPrimitive::Class, 0x4000, std::nullopt},
-  };
   for (const InsertKindRow& row : kRows) {
     if (row.code == code) return &row;
   }
   return nullptr;
+}
+
+unsigned AllInsertKinds() {
+  unsigned all = 0;
+  for (const InsertKindRow& row : kRows) all |= row.support;
+  return all;
 }
 
 }  // namespace xrpt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "model/RVCardControl.h"
 
@@ -14,7 +15,10 @@ struct InsertKindRow {
   std::optional<Color> frameColor;  // of a new card; nothing keeps the one of its class
 };
 
+std::span<const InsertKindRow> InsertKinds();
 // Null for a code that inserts nothing, the pointer's among them.
 const InsertKindRow* FindInsertKind(int code);
+// The bits of all of them.
+unsigned AllInsertKinds();
 
 }  // namespace xrpt

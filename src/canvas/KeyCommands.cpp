@@ -1,7 +1,5 @@
 // Keys and the context menu.
 #include "canvas/DragRules.h"
-#include "canvas/HitTest.h"
-#include "canvas/MouseState.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 
@@ -44,25 +42,35 @@ void RVEditTemplateWnd::OnKeyDown(int code, MouseFlags flags, long long keyFlags
   flags.control = flags.control || port_.IsControlDown();
   if (code == key::Delete) return ControlDelete();
   if (IsArrow(code) && !selection_.IsEmpty()) return MoveByKey(code, flags.control);
-  if (flags.control) {
-    switch (code) {
-      case 'C':
-        return ControlCopy();
-      case 'V':
-        return ControlPaste();
-      case 'X':
-        return ControlCut();
-      case 'Z':
-        return flags.shift ? ControlRedo() : ControlUndo();
-      case 'Y':
-        return ControlRedo();
-      case 'E':
-        return ControlSelectAll();
-      default:
-        break;
-    }
-  }
+  if (flags.control && OnControlKey(code, flags.shift)) return;
   parent_.OnMessage({Message::KeyDown, {}, keyFlags, code});
+}
+
+// False for a key that is the parent's; undo keys are where they mean the whole report.
+bool RVEditTemplateWnd::OnControlKey(int code, bool shift) {
+  if (options_.reportHistory && (code == 'Z' || code == 'Y')) return false;
+  switch (code) {
+    case 'C':
+      ControlCopy();
+      return true;
+    case 'V':
+      ControlPaste();
+      return true;
+    case 'X':
+      ControlCut();
+      return true;
+    case 'Z':
+      shift ? ControlRedo() : ControlUndo();
+      return true;
+    case 'Y':
+      ControlRedo();
+      return true;
+    case 'E':
+      ControlSelectAll();
+      return true;
+    default:
+      return false;
+  }
 }
 
 void RVEditTemplateWnd::KeyProcessESC(long long keyFlags) {
@@ -72,26 +80,19 @@ void RVEditTemplateWnd::KeyProcessESC(long long keyFlags) {
 // A key press runs as a whole gesture, so that page and grid bind as for the mouse.
 void RVEditTemplateWnd::MoveByKey(int code, bool control) {
   const PagePlacement place = Placement();
-  if (!place.IsValid() || mouseState_ != kIdle) return;
+  if (!place.IsValid() || gesture_.IsRunning()) return;
   const GridSteps grid = GridOf(page_.properties);
   const Point direction = Direction(code);
-  RefreshRects();
-  snaps_ = true;
-  guideHits_ = {};
-  const Rect all = selection_.CalculateGlobalRect();
-  selection_.anchor = {(all.left + all.right) / 2, (all.top + all.bottom) / 2};
-  selection_.draggingStyle = kMoveAll;
-  mouseState_ = kDragCard;
-  cursor_ = Cursor::Moving;
-  const Point step = MoveInside(all,
-                                {direction.x * ArrowStep(HorizontalAxis(place, grid), control),
-                                 direction.y * ArrowStep(VerticalAxis(place, grid), control)},
-                                place);
-  selection_.Offset(step.x, step.y);
+  gesture_.StartDrag(kDragCard, kMoveAll, 0, {}, SelectedParts());
+  const Rect all = gesture_.GlobalRect();
+  const Point from{(all.left + all.right) / 2, (all.top + all.bottom) / 2};
+  gesture_.StartDrag(kDragCard, kMoveAll, 0, from, SelectedParts());
+  gesture_.shownCursor = Cursor::Moving;
+  gesture_.DragTo({from.x + direction.x * ArrowStep(HorizontalAxis(place, grid), control),
+                   from.y + direction.y * ArrowStep(VerticalAxis(place, grid), control)},
+                  {}, {place, grid, {}});
   RepositioningControl();
-  selection_.draggingStyle = kNoEdge;
-  selection_.SetRectUndefined();
-  mouseState_ = kIdle;
+  gesture_.End();
   RedrawBackground();
   PostChange(false);
   Hover(port_.CursorPosition());
@@ -101,8 +102,10 @@ void RVEditTemplateWnd::MoveByKey(int code, bool control) {
 // --- The context menu ---
 
 void RVEditTemplateWnd::OnRButtonUp(Point point) {
+  EndEdit();
+  if (options_.rightClickSelects) SelectUnder(point);
   PauseTimer();
-  hoverId_.clear();
+  gesture_.hovered = 0;
   const tagEditMenuState state = EditMenuState();
   const MenuItem separator;
   const bool isToolbarShown = toolbar_.isShown && toolbar_.isShown();
@@ -121,7 +124,18 @@ void RVEditTemplateWnd::OnRButtonUp(Point point) {
   PlayTimer();
 }
 
+// What the menu's commands work on is what was clicked.
+void RVEditTemplateWnd::SelectUnder(Point point) {
+  const HitCard hit = CardAt(page_.cards, Placement(), Bounded(point));
+  if (!hit.card || selection_.IsSelected(*hit.card) || gesture_.IsRunning()) return;
+  SelectAlone(hit.card->Key());
+  AddUndoInfo(false, {text::kSelect, 0});
+  PostChange(true);
+  port_.Invalidate();
+}
+
 bool RVEditTemplateWnd::OnCommand(int command) {
+  EndEdit();
   switch (command) {
     case kCopy:
       ControlCopy();

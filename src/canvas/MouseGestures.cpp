@@ -1,8 +1,5 @@
-// The mouse machine: a press starts a gesture, moves carry it on, the release ends it (DragGestures.cpp says how).
+// The mouse machine: a press starts a gesture, moves carry it on, the release ends it (GestureEnds.cpp says how).
 #include "canvas/DragRules.h"
-#include "canvas/HitTest.h"
-#include "canvas/InsertTools.h"
-#include "canvas/MouseState.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 
@@ -12,61 +9,61 @@ namespace xrpt {
 
 void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
   point = Bounded(point);
+  EndEdit();
   DropGesture();
   const HitCard hit = CardAt(page_.cards, Placement(), point);
-  hoverId_ = hit.card ? hit.card->id : std::wstring();
-  pressedId_ = hoverId_;
-  const bool wasSelected = hit.card && selection_.IsSelected(hit.card->id);
+  gesture_.hovered = hit.card ? hit.card->Key() : 0;
+  const bool wasSelected = hit.card && selection_.IsSelected(*hit.card);
   const bool keeps = flags.control || flags.shift;
   // The pointer tool on empty page leaves the selection to the rubber band.
   if (!keeps && !wasSelected && (hit.card || insertKind_ != tool::kPointer)) ClearSelection();
-  if (hit.card && !wasSelected) Select(*hit.card, hit.rect);
-  RefreshRects();
   if (hit.card) {
-    StartOnCard(hit.card->id, wasSelected, point, hit.rect, flags);
+    selection_.AddSelection(*hit.card);
+    StartOnCard(hit, wasSelected, point, flags);
   } else if (!StartOnPage(point, flags)) {
     return port_.Invalidate();
   }
   StartGesture();
 }
 
-// False outside the page, where nothing starts.
+// False outside the page, where nothing starts but the rubber bands of whoever wants them there.
 bool RVEditTemplateWnd::StartOnPage(Point point, MouseFlags flags) {
   const PagePlacement place = Placement();
-  if (!place.IsValid() || !place.PageRect().Contains(point)) return false;
   const bool pointer = insertKind_ == tool::kPointer;
-  const GridSteps grid = GridOf(page_.properties);
-  mouseState_ = PressOnPage(pointer, flags.control, flags.shift);
-  selection_.StartBand(
-      {SnapPixel(HorizontalAxis(place, grid), point.x), SnapPixel(VerticalAxis(place, grid), point.y)});
-  selection_.draggingStyle = kRightEdge | kBottomEdge;
-  activeCursor_ = pointer ? Cursor::SizeAll : Cursor::No;
+  const bool outside = place.IsValid() && !place.PageRect().Contains(point);
+  if (!place.IsValid() || (outside && !(pointer && options_.bandsBesidePage))) return false;
+  const GridSteps grid = outside ? GridSteps() : GridOf(page_.properties);
+  gesture_.StartBand(PressOnPage(pointer, flags.control, flags.shift),
+                     {SnapPixel(HorizontalAxis(place, grid), point.x), SnapPixel(VerticalAxis(place, grid), point.y)});
+  gesture_.activeCursor = pointer ? Cursor::SizeAll : Cursor::No;
   return true;
 }
 
-void RVEditTemplateWnd::StartOnCard(const std::wstring& id, bool wasSelected, Point point, const Rect& rect,
-                                    MouseFlags flags) {
-  const RVCardControl* card = page_.cards.Find(id);
-  const int style = card && card->Resizable() ? HandleAt(rect, point) : kNoEdge;
-  mouseState_ = PressOnCard(wasSelected, flags.control, flags.shift);
-  selection_.draggingStyle = style;
-  selection_.anchor = point;
-  for (std::size_t i = 0; i < selection_.Size(); ++i) {
-    const RVSelection::Entry& entry = selection_.Entries()[i];
-    selection_.SetFixedPoint(i, FixedCorner(entry.rect, style, entry.fixedPoint));
+void RVEditTemplateWnd::StartOnCard(const HitCard& hit, bool wasSelected, Point point, MouseFlags flags) {
+  const int style = hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
+  gesture_.StartDrag(PressOnCard(wasSelected, flags.control, flags.shift), style, hit.card->Key(), point,
+                     SelectedParts());
+  gesture_.activeCursor = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::Moving);
+}
+
+// The selected cards where they lie now, in selection order.
+std::vector<Gesture::Part> RVEditTemplateWnd::SelectedParts() const {
+  const PagePlacement place = Placement();
+  std::vector<Gesture::Part> parts;
+  for (const std::size_t index : SelectedIndexes()) {
+    if (index == CardList::kNowhere) continue;
+    const RVCardControl& card = page_.cards[index];
+    const Rect rect = ToPixels(place, RectOf(card));
+    parts.push_back({card.Key(), rect, {rect.left, rect.top}, card.Resizable(), rect});
   }
-  activeCursor_ = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::Moving);
+  return parts;
 }
 
 void RVEditTemplateWnd::StartGesture() {
-  phase_ = 0;
+  marching_.phase = 0;
   PauseTimer();
-  pressPoint_ = selection_.anchor;
-  snaps_ = true;
-  guideSource_.reset();
-  guideHits_ = {};
   port_.SetCapture();
-  SetCursor(activeCursor_);
+  SetCursor(gesture_.activeCursor);
   port_.Invalidate();
   port_.SetFocus();
 }
@@ -75,79 +72,62 @@ void RVEditTemplateWnd::StartGesture() {
 
 void RVEditTemplateWnd::OnMouseMove(Point point, DragModifiers modifiers) {
   point = Bounded(point);
-  if (point == lastPoint_) return;
-  lastPoint_ = point;
-  if (mouseState_ == kIdle) return Hover(point);
-  mouseState_ = AfterFirstMove(mouseState_);
-  DragTo(point, modifiers);
-  SetNewCursor();
+  if (point == gesture_.lastPoint) return;
+  gesture_.lastPoint = point;
+  if (!gesture_.IsRunning()) return Hover(point);
+  gesture_.Advance();
+  gesture_.DragTo(point, modifiers, Ground());
+  SetCursor(gesture_.DragCursor());
   port_.Invalidate();
 }
 
 void RVEditTemplateWnd::Hover(Point point) {
   const HitCard hit = CardAt(page_.cards, Placement(), point);
-  const std::wstring hoverId = hit.card ? hit.card->id : std::wstring();
-  const int style = hit.card && hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
+  const CardKey hovered = hit.card ? hit.card->Key() : 0;
   if (hit.card) {
-    activeCursor_ = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::OverCard);
+    const int style = hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
+    gesture_.activeCursor = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::OverCard);
   } else {
     UpdateActiveCursor();
   }
-  if (activeCursor_ == cursor_ && hoverId == hoverId_) return;
-  hoverId_ = hoverId;
-  SetCursor(activeCursor_);
+  if (gesture_.activeCursor == gesture_.shownCursor && hovered == gesture_.hovered) return;
+  gesture_.hovered = hovered;
+  SetCursor(gesture_.activeCursor);
   port_.Invalidate();
 }
 
-void RVEditTemplateWnd::DragTo(Point point, const DragModifiers& modifiers) {
-  snaps_ = !(smartGuides_ && modifiers.alt);
-  guideLines_.clear();
-  guideHits_ = {};
-  switch (selection_.draggingStyle) {
-    case kLeftEdge:
-    case kRightEdge:
-      return ResizeDraggingRect(point, true, false);
-    case kTopEdge:
-    case kBottomEdge:
-      return ResizeDraggingRect(point, false, true);
-    case kLeftEdge | kBottomEdge:
-    case kRightEdge | kBottomEdge:
-    case kLeftEdge | kTopEdge:
-    case kRightEdge | kTopEdge:
-      return ResizeDraggingRect(point, true, true);
-    default:
-      return MoveDraggingRect(smartGuides_ && modifiers.shift ? KeepAxis(pressPoint_, point) : point);
-  }
-}
-
-// --- Cursor ---
-
 void RVEditTemplateWnd::SetCursor(Cursor cursor) {
-  cursor_ = cursor;
+  gesture_.shownCursor = cursor;
   port_.SetCursor(cursor);
 }
 
-bool RVEditTemplateWnd::IsTooSmall() const {
-  const auto small = [](const Rect& r) { return r.Width() < kSmallestDragged || r.Height() < kSmallestDragged; };
-  if (selection_.Band()) return small(*selection_.Band());
-  const auto& entries = selection_.Entries();
-  return std::any_of(entries.begin(), entries.end(), [small](const auto& entry) { return small(entry.rect); });
+GestureGround RVEditTemplateWnd::Ground() const {
+  GestureGround ground{Placement(), GridOf(page_.properties), {}};
+  if (smartGuides_) ground.guides = [this, place = ground.place] { return GatherGuides(place); };
+  return ground;
 }
 
-// The forbidden cursor says that letting go now would change nothing.
-void RVEditTemplateWnd::SetNewCursor() {
-  if (activeCursor_ == Cursor::Moving) return SetCursor(Cursor::Moving);
-  if (IsDrawing(mouseState_)) return SetCursor(IsTooSmall() ? Cursor::No : Cursor::SizeNWSE);
-  SetCursor(IsDraggingCards(mouseState_) && IsTooSmall() ? Cursor::No : activeCursor_);
+// The page and the cards that can be seen and are not moved themselves; the front ones when there are very many.
+GuideSource RVEditTemplateWnd::GatherGuides(const PagePlacement& place) const {
+  const Rect client = port_.ClientRect();
+  GuideSource source;
+  source.targets.push_back({place.PageRect(), {0.0, 0.0, place.pageWidth, place.pageHeight}});
+  for (std::size_t i = 0; i < page_.cards.Size() && source.targets.size() < GuideSource::kMostTargets; ++i) {
+    const CardRect card = RectOf(page_.cards[i]);
+    const Rect rect = ToPixels(place, card);
+    const bool moves = !gesture_.Band() && selection_.IsSelected(page_.cards[i]);
+    if (!moves && IsVisible(client, rect)) source.targets.push_back({rect, card});
+  }
+  return source;
 }
 
 // --- Release and loss ---
 
 void RVEditTemplateWnd::OnLButtonUp(Point point) {
   point = Bounded(point);
-  bool selectionOnly = ChangesSelectionOnly(mouseState_);
+  bool selectionOnly = gesture_.Row().selectionOnly;
   const UndoName name = GestureName();
-  if (mouseState_ != kIdle) {
+  if (gesture_.IsRunning()) {
     if (RepositioningControl()) selectionOnly = true;
     DropGesture();
     SetCursor(CardAt(page_.cards, Placement(), point).card ? Cursor::OverCard : Cursor::Arrow);
@@ -158,37 +138,32 @@ void RVEditTemplateWnd::OnLButtonUp(Point point) {
   PostChange(selectionOnly);
 }
 
-// Ends a gesture without writing anything. The state goes first: letting go of the capture tells the window that it
+// The state goes first: letting go of the capture tells the window that it
 // lost it.
 void RVEditTemplateWnd::DropGesture() {
-  if (mouseState_ == kIdle) return;
-  mouseState_ = kIdle;
-  selection_.draggingStyle = kNoEdge;
-  selection_.SetRectUndefined();
-  guideLines_.clear();
-  guideSource_.reset();
+  if (!gesture_.IsRunning()) return;
+  gesture_.End();
   port_.ReleaseCapture();
 }
 
 // Cancels a running gesture: no geometry is written, and the selection goes.
 void RVEditTemplateWnd::OnCaptureChanged() {
-  if (mouseState_ == kIdle) return;
+  if (!gesture_.IsRunning()) return;
   DropGesture();
   ClearSelection();
   AddUndoInfo(false, {text::kSelect, 0});
   StartTimer();
   UpdateActiveCursor();
-  SetCursor(activeCursor_);
+  SetCursor(gesture_.activeCursor);
   RedrawBackground();
   PostChange(true);
 }
 
 UndoName RVEditTemplateWnd::GestureName() const {
-  const int count = static_cast<int>(selection_.Size());
-  if (IsDrawing(mouseState_)) return {text::kInsert, 1};
-  if (!IsDraggingCards(mouseState_)) return {text::kSelect, 0};
-  const bool moves = selection_.draggingStyle == kMoveAll || selection_.draggingStyle == kNoEdge;
-  return {moves ? text::kMove : text::kResize, count};
+  const GestureKind kind = gesture_.Row().kind;
+  if (kind == GestureKind::Draw) return {text::kInsert, 1};
+  if (kind != GestureKind::Drag) return {text::kSelect, 0};
+  return {gesture_.Moves() ? text::kMove : text::kResize, static_cast<int>(selection_.Size())};
 }
 
 }  // namespace xrpt

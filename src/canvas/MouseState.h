@@ -1,4 +1,5 @@
-// The states of the mouse machine, and what the first move after a press makes of them.
+// The states of the mouse machine, a row each: what the first move after the press makes of it, what kind of gesture it
+// is, and what the release does.
 #pragma once
 
 namespace xrpt {
@@ -29,15 +30,24 @@ enum MouseState : int {
   kDragSelectedShift = 22,
 };
 
-// A state that is no press stays as it is.
-int AfterFirstMove(int state);
+// What is going on: a click so far, cards being moved or resized, a card being drawn, a rubber band.
+enum class GestureKind { None, Click, Drag, Draw, Band };
 
-bool IsBand(int state);
-bool IsDrawing(int state);
-// Cards are being moved or resized.
-bool IsDraggingCards(int state);
-// A gesture that ended in this state changed the selection at most.
-bool ChangesSelectionOnly(int state);
+// What the release does to the selection: leaves it, selects the pressed card alone, takes it out or in, or selects
+// what the band touches instead of, besides or in exchange for what is selected.
+enum class SelectionRule { Keep, Alone, Remove, Add, Replace, Toggle };
+
+struct MouseStateRow {
+  int state;
+  int afterFirstMove;
+  GestureKind kind;
+  SelectionRule onRelease;
+  bool selectionOnly;  // a gesture that ended in this state changed the selection at most
+  bool keepsSelection = false;
+};
+
+// The row of a state; that of kIdle for a number that is none.
+const MouseStateRow& StateRow(int state);
 
 // The states a press leads to. Ctrl wins over Shift.
 int PressOnCard(bool wasSelected, bool control, bool shift);

@@ -5,16 +5,27 @@
 namespace xrpt {
 namespace {
 
+bool IsRounded(const tagDraw& draw) { return draw.roundedPxX > 0.0 && draw.roundedPxY > 0.0; }
+
 RectD PageRect(const tagDraw& draw) {
   return RectD(Rect{trunci(draw.offsetX), trunci(draw.offsetY), trunci(draw.offsetX + draw.pageWidthPx),
                     trunci(draw.offsetY + draw.pageHeightPx)});
 }
 
-void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, bool surround) {
-  const Color behind = page.properties.backcolor;
-  if (surround && behind != kNoColor) graphics.FillRect(RectD(draw.clip), behind);
+// Where cards are seen: on the page, its far edges included, because a card's edges are rounded apart from the page's.
+void ClipToPage(Graphics& graphics, const tagDraw& draw) {
+  RectD page(CardPixelRect(draw, 0.0, 0.0, draw.pageWidth, draw.pageHeight));
+  page.right += 1.0;
+  page.bottom += 1.0;
+  if (IsRounded(draw)) return graphics.ClipRoundRect(page, draw.roundedPxX, draw.roundedPxY);
+  graphics.ClipRect(page);
+}
+
+void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
+  const Color behind = how.surroundColor.value_or(page.properties.backcolor);
+  if (how.surround && behind != kNoColor) graphics.FillRect(RectD(draw.clip), behind);
   const RectD paper = PageRect(draw);
-  const bool rounded = draw.roundedPxX > 0.0 && draw.roundedPxY > 0.0;
+  const bool rounded = IsRounded(draw);
   if (rounded) {
     graphics.FillRoundRect(paper, draw.roundedPxX, draw.roundedPxY, kWhite);
   } else {
@@ -23,7 +34,9 @@ void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw&
   if (!page.properties.ThereAreBackground()) return;
   const GraphicsState state(graphics);
   if (rounded) graphics.ClipRoundRect(paper, draw.roundedPxX, draw.roundedPxY);
-  PaintCard(graphics, page.properties.Background(), draw);
+  tagDraw plain = draw;
+  plain.flag1 = 0;  // a stand-in as large as the page would hide it
+  PaintCard(graphics, page.properties.Background(), plain);
 }
 
 void DrawFailure(Graphics& graphics, const Rect& card) {
@@ -92,8 +105,10 @@ void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw) 
 }
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
-  DrawBackground(graphics, page, draw, how.surround);
+  DrawBackground(graphics, page, draw, how);
   if (how.grid) DrawGrid(*how.grid, page.properties, draw);
+  const GraphicsState state(graphics);
+  if (how.surround || IsRounded(draw)) ClipToPage(graphics, draw);  // else the device ends with the page
   PaintCards(graphics, page.cards, draw);
 }
 

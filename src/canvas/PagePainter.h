@@ -1,6 +1,9 @@
-// The full pass over a page: what stands behind it, the page, its background picture, the grid and the cards. Screen,
+// The full pass over a page: what stands behind it, the page, its background picture, the grid and the cards, of which
+// nothing is seen beyond the page. Screen,
 // PNG, SVG, PDF and print all come through here.
 #pragma once
+
+#include <optional>
 
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
@@ -10,7 +13,8 @@
 namespace xrpt {
 
 struct PagePaint {
-  bool surround = true;         // fill what lies round the page with the page's back colour
+  bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
+  std::optional<Color> surroundColor;
   PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
 };
 

@@ -10,8 +10,6 @@ namespace {
 constexpr int kInitialPixels = 30;
 constexpr double kInitialMillimetres = 10.0;
 
-bool IsExtent(double value) { return std::isfinite(value) && value > 0.0; }
-
 // The offset of a centred page, or of one scrolled because it does not fit. A position from the time when it was larger
 // never scrolls it out of sight.
 double Offset(int client, double pagePx, int scroll) {
@@ -48,14 +46,6 @@ void SnapAxis(double& near, double& size, double step) {
 
 Point Bounded(Point point) {
   return {std::clamp(point.x, -kFarPixel, kFarPixel), std::clamp(point.y, -kFarPixel, kFarPixel)};
-}
-
-bool PagePlacement::IsValid() const { return IsExtent(pageWidthPx) && IsExtent(pageHeightPx); }
-
-Rect PagePlacement::PageRect() const {
-  const int left = ToPixel(offsetX);
-  const int top = ToPixel(offsetY);
-  return {left, top, left + ToPixel(pageWidthPx), top + ToPixel(pageHeightPx)};
 }
 
 PagePlacement PlacePage(const RVGlobalProperties& page, const PixelsPerMm& scale, double zoom, const Rect& client,
@@ -113,7 +103,7 @@ double SnapToGrid(double value, double step) {
 
 void SnapFarEdge(double near, double& size, double step) {
   const double snapped = SnapToGrid(near + size, step) - near;
-  if (snapped > 0.0) size = snapped;
+  if (snapped >= kLeastExtent) size = snapped;
 }
 
 void IntelligentAdjustToGrid(CardRect& rect, const GridSteps& grid, const PagePlacement& place) {

@@ -1,6 +1,7 @@
 // Where the page lies in the window, and the way between millimetres on the page and pixels of the client area. Pure.
 #pragma once
 
+#include "model/PagePlacement.h"
 #include "model/RVCardControl.h"
 #include "model/RVGlobalProperties.h"
 #include "platform/Geometry.h"
@@ -12,31 +13,6 @@ inline constexpr double kUndeterminedZoom = 2.2250738585072014e-308;
 
 // A point no further out than pixels go.
 Point Bounded(Point point);
-
-struct PixelsPerMm {
-  double x = 96.0 / 25.4;
-  double y = 96.0 / 25.4;
-};
-
-struct PagePlacement {
-  double offsetX = 0.0;  // pixels, of the page's top-left corner
-  double offsetY = 0.0;
-  double pageWidthPx = 0.0;
-  double pageHeightPx = 0.0;
-  double roundedPxX = 0.0;
-  double roundedPxY = 0.0;
-  double pageWidth = 0.0;  // millimetres
-  double pageHeight = 0.0;
-  PixelsPerMm pixelsPerMm;  // at the zoom
-
-  // A page without extent, or one that is no number, has no place.
-  bool IsValid() const;
-  // Pixels the page covers.
-  Rect PageRect() const;
-  // One pixel in millimetres.
-  double PixelWidth() const { return pageWidth / pageWidthPx; }
-  double PixelHeight() const { return pageHeight / pageHeightPx; }
-};
 
 // Centred; an axis on which the page does not fit is scrolled instead.
 PagePlacement PlacePage(const RVGlobalProperties& page, const PixelsPerMm& scale, double zoom, const Rect& client,
@@ -73,6 +49,8 @@ inline bool IsActive(double step) { return step > 0.0; }
 
 // The nearest grid line.
 double SnapToGrid(double value, double step);
+// The least that the two decimals of a file can tell from nothing, millimetres.
+inline constexpr double kLeastExtent = 0.01;
 // The far edge put onto the grid; never so that nothing of the size is left.
 void SnapFarEdge(double near, double& size, double step);
 // Pulls an edge onto the grid when it already lies within a pixel of a line; cards placed between lines stay.

@@ -4,146 +4,105 @@
 
 #include <cmath>
 
-#include "canvas/MouseState.h"
 #include "canvas/UndoTexts.h"
 #include "model/DateFormat.h"
 #include "model/NumberFormat.h"
 #include "model/RVCardImage.h"
 
 namespace xrpt {
-namespace {
-
-constexpr int kFitPageMode = 0;
-constexpr int kScrollPage = 10;
-
-}  // namespace
 
 RVEditTemplateWnd::RVEditTemplateWnd(RVReportPage& page, WindowPort& port, MessageQueue& queue, MessageTarget& parent)
-    : page_(page), port_(port), queue_(queue), parent_(parent) {
+    : editedPage_(page),
+      page_(page),
+      port_(port),
+      queue_(queue),
+      parent_(parent),
+      madeWithBackcolor_(page.properties.backcolor) {
   AddUndoInfo(true);
+  AnnounceAnimations();
 }
 
 RVEditTemplateWnd::~RVEditTemplateWnd() { PauseTimer(); }
 
 bool RVEditTemplateWnd::SetTemplate(const XmlNode& page) {
   DropGesture();
-  if (!page_.SetTemplate(page)) return false;
+  if (!editedPage_.SetTemplate(page)) return false;
   ClearSelection();
-  pickedId_.clear();
-  history_.Clear();
+  picked_ = 0;
+  DeleteUndoList();
   AddUndoInfo(true);
+  AnnounceAnimations();
   RedrawBackground();
   return true;
 }
 
 void RVEditTemplateWnd::SetSurround(Color color) {
-  page_.properties.backcolor = color;
-  history_.SetSurround(color);
+  if (surround_ == color) return;
+  surround_ = color;
   RedrawBackground();
+}
+
+Color RVEditTemplateWnd::Surround() const {
+  const Color own = page_.properties.backcolor;
+  return own == madeWithBackcolor_ ? surround_.value_or(own) : own;
 }
 
 void RVEditTemplateWnd::SetDpi(int dpiX, int dpiY) {
-  scale_ = {dpiX / 25.4, dpiY / 25.4};
+  viewport_.SetDpi(dpiX, dpiY);
   RedrawBackground();
 }
 
+// How large the report's fonts are on this screen: of the page on the screen, not of the report.
 void RVEditTemplateWnd::SetFontFactor(double factor) {
-  page_.fontFactor = factor;
+  editedPage_.fontFactor = factor;
   RedrawBackground();
 }
 
-void RVEditTemplateWnd::SetSupport(unsigned bit, bool on) { support_ = on ? support_ | bit : support_ & ~bit; }
+void RVEditTemplateWnd::SetSupport(int kind, bool on) {
+  const unsigned bit = FindInsertKind(kind)->support;
+  support_ = on ? support_ | bit : support_ & ~bit;
+}
 
 // --- Zoom and orientation ---
 
-bool RVEditTemplateWnd::SetMode(int mode) {
-  const double before = zoom_;
-  const double wanted = ZoomOfMode(mode, zoom_, page_.properties, scale_, port_.ClientRect());
-  zoom_ = std::isfinite(wanted) && wanted != 0.0 ? wanted : kUndeterminedZoom;
-  return zoom_ != before;
-}
+bool RVEditTemplateWnd::SetMode(int mode) { return viewport_.SetMode(mode, page_.properties, port_.ClientRect()); }
 
 bool RVEditTemplateWnd::SetZoom(double zoom) {
-  if (zoom == zoom_ || !std::isfinite(zoom) || zoom == 0.0) return false;
-  zoom_ = zoom;
+  if (!viewport_.SetZoom(zoom)) return false;
   InitializeScrollBars(false);
   RedrawBackground();
   return true;
 }
 
 bool RVEditTemplateWnd::SetOrientation(int orientation) {
-  orientation_ = orientation;
-  RVGlobalProperties& page = page_.properties;
-  const bool swap = orientation == 0 ? page.width < page.height : page.height < page.width;
+  const RVGlobalProperties& now = page_.properties;
+  const bool swap = orientation == 0 ? now.width < now.height : now.height < now.width;
+  PageEdit edit = Edit({text::kTurnPage, 0});
+  RVGlobalProperties& page = edit.Properties();
   if (swap) std::swap(page.width, page.height);
   page.Background().width = page.width;
   page.Background().height = page.height;
-  if (!swap) return false;
-  if (zoom_ < 0.0) SetMode(kFitPageMode);
-  AddUndoInfo(false, {text::kTurnPage, 0});
-  RedrawBackground();
-  return true;
+  return edit.EndQuietly() && swap;
+}
+
+// A page of another size is fitted anew.
+void RVEditTemplateWnd::RefitAfterPageChange() {
+  if (Zoom() < 0.0)
+    SetMode(options_.keepsFit && Fit() == ZoomFit::Width ? Viewport::kFitWidthMode : Viewport::kFitPageMode);
+  InitializeScrollBars(false);
 }
 
 // --- Scrolling ---
 
 void RVEditTemplateWnd::InitializeScrollBars(bool hide) {
-  const Rect client = port_.ClientRect();
-  const PagePlacement place = Placement();
-  SetScroll(scrollX_, ScrollAxis::Horizontal, client.Width(), place.pageWidthPx, hide);
-  SetScroll(scrollY_, ScrollAxis::Vertical, client.Height(), place.pageHeightPx, hide);
+  viewport_.FitBars(Placement(), port_.ClientRect(), hide);
+  port_.SetScrollInfo(ScrollAxis::Horizontal, viewport_.Horizontal());
+  port_.SetScrollInfo(ScrollAxis::Vertical, viewport_.Vertical());
 }
 
-void RVEditTemplateWnd::SetScroll(ScrollInfo& info, ScrollAxis axis, int client, double pagePx, bool hide) {
-  const int page = roundi(pagePx);
-  info.visible = !hide && client < page - 1;
-  if (info.visible) {
-    info.minimum = 0;
-    info.maximum = page - client + kScrollPage - 1;
-    info.page = kScrollPage;
-    info.position = std::min(info.position, page - client);
-  }
-  port_.SetScrollInfo(axis, info);
-}
-
-void RVEditTemplateWnd::OnHScroll(ScrollCommand command, int thumb) {
-  Scroll(scrollX_, ScrollAxis::Horizontal, command, thumb);
-}
-
-void RVEditTemplateWnd::OnVScroll(ScrollCommand command, int thumb) {
-  Scroll(scrollY_, ScrollAxis::Vertical, command, thumb);
-}
-
-// An axis on which the page fits has nothing to scroll.
-void RVEditTemplateWnd::Scroll(ScrollInfo& info, ScrollAxis axis, ScrollCommand command, int thumb) {
-  if (!info.visible) return;
-  const int first = info.minimum;
-  const int last = info.maximum - info.page + 1;
-  int& at = info.position;
-  switch (command) {
-    case ScrollCommand::LineBack:
-      if (at > first) --at;
-      break;
-    case ScrollCommand::LineForward:
-      if (at < last) ++at;
-      break;
-    case ScrollCommand::PageBack:
-      if (at > first) at = std::max(first, at - info.page);
-      break;
-    case ScrollCommand::PageForward:
-      if (at < last) at = std::min(last, at + info.page);
-      break;
-    case ScrollCommand::Thumb:
-      at = std::max(first, std::min(thumb, last));
-      break;
-    case ScrollCommand::First:
-      at = first;
-      break;
-    case ScrollCommand::Last:
-      at = last;
-      break;
-  }
-  port_.SetScrollInfo(axis, info);
+void RVEditTemplateWnd::Scroll(ScrollAxis axis, ScrollCommand command, int thumb) {
+  if (!viewport_.Scroll(axis, command, thumb)) return;
+  port_.SetScrollInfo(axis, axis == ScrollAxis::Horizontal ? viewport_.Horizontal() : viewport_.Vertical());
   RedrawBackground();
 }
 
@@ -158,13 +117,6 @@ void RVEditTemplateWnd::OnSize() {
 }
 
 // --- Placement ---
-
-PagePlacement RVEditTemplateWnd::Placement() const { return Placement(port_.ClientRect()); }
-
-PagePlacement RVEditTemplateWnd::Placement(const Rect& client) const {
-  if (zoom_ == kUndeterminedZoom) zoom_ = 1.0;
-  return PlacePage(page_.properties, scale_, zoom_, client, scrollX_.position, scrollY_.position);
-}
 
 bool RVEditTemplateWnd::GetTemplateDimensions(double& offsetX, double& offsetY, double& pageWidthPx,
                                               double& pageHeightPx, double& roundedPxX, double& roundedPxY) const {
@@ -187,7 +139,7 @@ bool RVEditTemplateWnd::GetMinimumControlDimensions(double& pageWidthPx, double&
 
 bool RVEditTemplateWnd::GetInitialControlDimensions(double& x, double& y, double& width, double& height) const {
   const PagePlacement place = Placement();
-  const CardRect rect = InitialCardRect(place, GridOf(page_.properties), scale_, zoom_, lastPoint_);
+  const CardRect rect = InitialCardRect(place, GridOf(page_.properties), viewport_.Scale(), Zoom(), gesture_.lastPoint);
   x = rect.x;
   y = rect.y;
   width = rect.width;
@@ -205,70 +157,60 @@ bool RVEditTemplateWnd::IsVisible(const Rect& a, const Rect& b) {
 void RVEditTemplateWnd::OnTimer() {
   if (selection_.IsEmpty()) {
     port_.KillTimer(kSelectionTimer);
-    timerId_ = 0;
-    phase_ = 0;
+    marching_ = {};
   } else {
-    phase_ = (phase_ + 1) % 6;
+    marching_.phase = (marching_.phase + 1) % 6;
   }
   port_.Invalidate();
 }
 
 void RVEditTemplateWnd::StartTimer() {
   port_.SetTimer(kSelectionTimer, kTimerPeriod);
-  timerId_ = kSelectionTimer;
+  marching_.timerId = kSelectionTimer;
 }
 
 void RVEditTemplateWnd::PlayTimer() {
-  if (timerId_ == 0 && !selection_.IsEmpty()) StartTimer();
+  if (marching_.timerId == 0 && !selection_.IsEmpty()) StartTimer();
 }
 
 void RVEditTemplateWnd::PauseTimer() {
-  if (timerId_ != 0) port_.KillTimer(timerId_);
-  timerId_ = 0;
+  if (marching_.timerId != 0) port_.KillTimer(marching_.timerId);
+  marching_.timerId = 0;
+}
+
+// A card says when it begins to move and when it stops; what moves is counted when a step was made, not while it moves.
+void RVEditTemplateWnd::AnnounceAnimations() {
+  int moving = 0;
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) moving += page_.cards[i].IsAnimated() ? 1 : 0;
+  for (; animation_.cards < moving; OnControlAnimationStart())
+    queue_.Post(&parent_, {Message::CardAnimationStarted, {}, 0});
+  for (; animation_.cards > moving; OnControlAnimationStop())
+    queue_.Post(&parent_, {Message::CardAnimationStopped, {}, 0});
 }
 
 void RVEditTemplateWnd::OnControlAnimationStop() {
-  if (animatingCards_ < 1) return;
-  --animatingCards_;
-  if (animatingCards_ == 0 && pendingRefresh_) RedrawBackground();
+  if (animation_.cards < 1) return;
+  --animation_.cards;
+  if (animation_.cards == 0 && animation_.pendingRefresh) RedrawBackground();
 }
 
 // --- What painting needs ---
 
 tagDraw RVEditTemplateWnd::MakeDraw(const Rect& clip) const {
-  const PagePlacement place = Placement();
   tagDraw draw;
+  static_cast<PagePlacement&>(draw) = Placement();
   draw.clip = clip;
-  draw.offsetX = place.offsetX;
-  draw.offsetY = place.offsetY;
-  draw.pageWidthPx = place.pageWidthPx;
-  draw.pageHeightPx = place.pageHeightPx;
-  draw.roundedPxX = place.roundedPxX;
-  draw.roundedPxY = place.roundedPxY;
-  draw.pageWidth = place.pageWidth;
-  draw.pageHeight = place.pageHeight;
-  draw.zoom = zoom_;
-  draw.pixelsPerMmX = scale_.x;
-  draw.pixelsPerMmY = scale_.y;
+  draw.zoom = Zoom();
+  draw.pixelsPerMmX = viewport_.Scale().x;
+  draw.pixelsPerMmY = viewport_.Scale().y;
   draw.fontFactor = page_.fontFactor;
-  draw.animationTime = animationTime_;
+  draw.animationTime = animation_.time;
   return draw;
 }
 
-// Whatever made the page look different may have moved the selected cards on the screen. A gesture that runs keeps its
-// own rectangles.
 void RVEditTemplateWnd::RedrawBackground() {
   redrawBackground_ = true;
-  if (mouseState_ == kIdle && !selection_.IsEmpty()) RefreshRects();
   port_.Invalidate();
-}
-
-std::vector<Rect> RVEditTemplateWnd::DraggingRects() const {
-  if (mouseState_ == kIdle) return {};
-  if (selection_.Band()) return {*selection_.Band()};
-  std::vector<Rect> rects;
-  for (const RVSelection::Entry& entry : selection_.Entries()) rects.push_back(entry.rect);
-  return rects;
 }
 
 // --- Helpers others know by the window's name ---

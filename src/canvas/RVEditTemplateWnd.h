@@ -2,7 +2,8 @@
 // about looking and touching: zoom, scrolling, selection, gestures, history, clipboard. Events go in, card geometry and
 // selection come out; what it wants of the screen it asks its port, what happened it tells its parent by messages.
 //
-// Cards are known by id; no pointer to one is kept from one event to the next.
+// Cards are known by key and id; no pointer to one is kept from one event to the next. Nobody changes the page but
+// through an edit (see PageEdit.h), the window's own gestures and commands included.
 #pragma once
 
 #include <functional>
@@ -14,10 +15,16 @@
 
 #include "canvas/Arrange.h"
 #include "canvas/CardClipboard.h"
+#include "canvas/EditingOptions.h"
+#include "canvas/Gesture.h"
 #include "canvas/History.h"
-#include "canvas/Placement.h"
+#include "canvas/HitTest.h"
+#include "canvas/InsertKinds.h"
+#include "canvas/InsertTools.h"
+#include "canvas/PageEdit.h"
+#include "canvas/PageHistoryListener.h"
 #include "canvas/RVSelection.h"
-#include "canvas/SmartGuides.h"
+#include "canvas/Viewport.h"
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
 #include "platform/Host.h"
@@ -45,7 +52,10 @@ class RVEditTemplateWnd {
   RVEditTemplateWnd& operator=(const RVEditTemplateWnd&) = delete;
 
   const RVReportPage& Page() const { return page_; }
-  RVReportPage& Page() { return page_; }
+  // Opens the door: the edit gives the mutable objects, its end is the step.
+  PageEdit Edit(UndoName name, JoinKey joins = {});
+  // What comes next is a step of its own, even in the field that was edited last.
+  void EndEdit() { joins_.clear(); }
 
   // Rebuilds the page from a "page" element and starts a history of its own. False without an element.
   bool SetTemplate(const XmlNode& page);
@@ -53,22 +63,25 @@ class RVEditTemplateWnd {
   void SaveCtrlsTemplate(XmlWriter& page) const { page_.SaveCtrlsTemplate(page); }
 
   // --- Set-up ---
+  void SetOptions(const EditingOptions& options) { options_ = options; }
+  void SetHistoryListener(PageHistoryListener* listener) { listener_ = listener; }
   void SetDpi(int dpiX, int dpiY);
   void SetFontFactor(double factor);
   void SetInsertKind(int kind) { insertKind_ = kind; }
   int InsertKind() const { return insertKind_; }
   // Which kinds may be inserted: a mask bit each.
-  void SetLabelSupport(bool on) { SetSupport(0x0001, on); }
-  void SetImageSupport(bool on) { SetSupport(0x0002, on); }
-  void SetDateSupport(bool on) { SetSupport(0x0004, on); }
-  void SetFormuleSupport(bool on) { SetSupport(0x0008, on); }
-  void SetConditionedSupport(bool on) { SetSupport(0x0010, on); }
-  void SetReportGraphSupport(bool on) { SetSupport(0x0020, on); }
-  void SetAnalogBarSupport(bool on) { SetSupport(0x0040, on); }
-  void SetPrimitiveSupport(bool on) { SetSupport(0x4000, on); }
+  void SetLabelSupport(bool on) { SetSupport(tool::kLabel, on); }
+  void SetImageSupport(bool on) { SetSupport(tool::kImage, on); }
+  void SetDateSupport(bool on) { SetSupport(tool::kDate, on); }
+  void SetFormuleSupport(bool on) { SetSupport(tool::kFormule, on); }
+  void SetConditionedSupport(bool on) { SetSupport(tool::kConditioned, on); }
+  void SetReportGraphSupport(bool on) { SetSupport(tool::kReportGraph, on); }
+  void SetAnalogBarSupport(bool on) { SetSupport(tool::kAnalogBar, on); }
+  void SetPrimitiveSupport(bool on) { SetSupport(tool::kPrimitive, on); }
 
-  // The colour round the page where it follows the user's theme: no change of the page.
+  // What lies round the page follows the user's theme, unless the page was given a colour of its own.
   void SetSurround(Color color);
+  Color Surround() const;
 
   // --- Zoom, orientation, scrolling ---
   // See ZoomOfMode. True when the stored zoom changed.
@@ -76,21 +89,22 @@ class RVEditTemplateWnd {
   // A scale of one's own; redraws and sets the scroll bars up again. True when it changed.
   bool SetZoom(double zoom);
   // As stored: negative follows the window.
-  double Zoom() const { return zoom_; }
+  double Zoom() const { return viewport_.Zoom(); }
+  ZoomFit Fit() const { return viewport_.Fit(); }
   // 0 makes the page at least as wide as high, anything else at least as high as wide. True when that swapped its
   // sides.
   bool SetOrientation(int orientation);
   void InitializeScrollBars(bool hide);
-  void OnHScroll(ScrollCommand command, int thumb);
-  void OnVScroll(ScrollCommand command, int thumb);
+  void OnHScroll(ScrollCommand command, int thumb) { Scroll(ScrollAxis::Horizontal, command, thumb); }
+  void OnVScroll(ScrollCommand command, int thumb) { Scroll(ScrollAxis::Vertical, command, thumb); }
   void ScrollTo(int x, int y);
-  const ScrollInfo& HorizontalScroll() const { return scrollX_; }
-  const ScrollInfo& VerticalScroll() const { return scrollY_; }
+  const ScrollInfo& HorizontalScroll() const { return viewport_.Horizontal(); }
+  const ScrollInfo& VerticalScroll() const { return viewport_.Vertical(); }
   void OnSize();
 
   // --- Placement ---
-  PagePlacement Placement() const;
-  PagePlacement Placement(const Rect& client) const;
+  PagePlacement Placement() const { return Placement(port_.ClientRect()); }
+  PagePlacement Placement(const Rect& client) const { return viewport_.Place(page_.properties, client); }
   bool GetTemplateDimensions(double& offsetX, double& offsetY, double& pageWidthPx, double& pageHeightPx,
                              double& roundedPxX, double& roundedPxY) const;
   bool GetMinimumControlDimensions(double& pageWidthPx, double& pageHeightPx) const;
@@ -103,32 +117,37 @@ class RVEditTemplateWnd {
   // supported, inserts nothing.
   virtual void AddControl(double x, double y, double width, double height);
   // One inserter a kind, whichever is active.
-  void AddLabel(double x, double y, double width, double height) { AddCard(0, x, y, width, height); }
-  void AddImage(double x, double y, double width, double height) { AddCard(1, x, y, width, height); }
-  void AddDate(double x, double y, double width, double height) { AddCard(3, x, y, width, height); }
-  void AddFormule(double x, double y, double width, double height) { AddCard(4, x, y, width, height); }
-  void AddConditioned(double x, double y, double width, double height) { AddCard(8, x, y, width, height); }
-  void AddReportGraph(double x, double y, double width, double height) { AddCard(9, x, y, width, height); }
-  void AddAnalogBar(double x, double y, double width, double height) { AddCard(10, x, y, width, height); }
-  void AddPrimitive(double x, double y, double width, double height) { AddCard(136, x, y, width, height); }
+  void AddLabel(double x, double y, double width, double height) { AddCard(tool::kLabel, x, y, width, height); }
+  void AddImage(double x, double y, double width, double height) { AddCard(tool::kImage, x, y, width, height); }
+  void AddDate(double x, double y, double width, double height) { AddCard(tool::kDate, x, y, width, height); }
+  void AddFormule(double x, double y, double width, double height) { AddCard(tool::kFormule, x, y, width, height); }
+  void AddConditioned(double x, double y, double width, double height) {
+    AddCard(tool::kConditioned, x, y, width, height);
+  }
+  void AddReportGraph(double x, double y, double width, double height) {
+    AddCard(tool::kReportGraph, x, y, width, height);
+  }
+  void AddAnalogBar(double x, double y, double width, double height) { AddCard(tool::kAnalogBar, x, y, width, height); }
+  void AddPrimitive(double x, double y, double width, double height) { AddCard(tool::kPrimitive, x, y, width, height); }
   // The same at the pointer, without a drawn rectangle.
   void AddControlAtPointer();
   const RVCardControl* GetControlById(std::wstring_view id) const { return page_.cards.Find(id); }
   bool SelectControlById(std::wstring_view id);
   // Replaces the selection; ids of no card are left out.
   void SelectControls(const std::vector<std::wstring>& ids);
+  // The same by the places in the card list, for lists in which ids need not tell cards apart.
+  void SelectPlaces(const std::vector<std::size_t>& indexes);
   void ClearSelection();
   const RVSelection& Selection() const { return selection_; }
-  // Where the selected cards stand on the page, in selection order; kNowhere for an id that no card has any more. One
+  // Where the selected cards stand on the page, in selection order; kNowhere for one that is not there any more. One
   // walk over the cards however many are selected.
   std::vector<std::size_t> SelectedIndexes() const;
+  // Their rectangles, client pixels, in that order: as they are dragged, or as they lie; empty for one that is gone.
+  std::vector<Rect> SelectedRects() const;
+  // The rectangle round all of them.
+  Rect SelectedArea() const;
   // The selected card when there is exactly one, else empty.
   std::wstring SelectedCardId() const;
-  // For panels: the card to change, then the end of the change, which records an undo step and repaints.
-  RVCardControl* EditCard(std::wstring_view id) { return page_.cards.Edit(id); }
-  void CommitEdit(UndoName name = {});
-  // The same for the page's own properties.
-  void CommitPageEdit();
   void ImagesManagerModified();
   void StylesModified();
 
@@ -140,6 +159,8 @@ class RVEditTemplateWnd {
   // `flags` of the key event goes on to the parent with keys the canvas does not handle.
   void OnKeyDown(int key, MouseFlags flags, long long keyFlags = 0);
   void OnCaptureChanged();
+  // Ends a gesture without writing anything.
+  void DropGesture();
   // The toolbar entry of the popup menu, named and carried out by whoever owns toolbars; without one there is none.
   struct ToolbarEntry {
     int textId = 0;
@@ -149,24 +170,30 @@ class RVEditTemplateWnd {
   void SetToolbarEntry(ToolbarEntry entry) { toolbar_ = std::move(entry); }
   // A command of the popup menu or the host, by its number. False for one the canvas does not carry out.
   bool OnCommand(int command);
-  int CurrentMouseState() const { return mouseState_; }
-  Cursor CurrentCursor() const { return cursor_; }
-  Point LastMousePoint() const { return lastPoint_; }
+  const Gesture& CurrentGesture() const { return gesture_; }
+  int CurrentMouseState() const { return gesture_.State(); }
+  Cursor CurrentCursor() const { return gesture_.shownCursor; }
+  Point LastMousePoint() const { return gesture_.lastPoint; }
 
   // --- History ---
   // Takes a snapshot when anything changed, or always when forced. True when it took one.
   bool AddUndoInfo(bool force, UndoName name = {});
   void ControlUndo();
   void ControlRedo();
-  void DeleteLastUndo() { history_.DeleteLast(); }
-  void DeleteUndoList() { history_.Clear(); }
+  // Withdraws the newest snapshot, as if it had not been taken.
+  void DeleteLastUndo();
+  void DeleteUndoList();
+  // What was undone cannot be made again any more: another page was changed since.
+  void ForgetRedo() { history_.ForgetUndone(); }
   std::size_t UndoCount() const { return history_.Size(); }
   // What undo and redo would take back or make again; text id 0 when there is nothing.
   UndoName NextUndoName() const;
   UndoName NextRedoName() const;
 
   // --- Clipboard and commands on the selection ---
-  void ControlCopy();
+  // False when nothing was copied: nothing is selected, or there is more than the clipboard takes, which the parent is
+  // told. Then nothing is cut either.
+  bool ControlCopy();
   void ControlCut();
   virtual void ControlPaste();
   void ControlDelete() { DeleteSelectedControls(); }
@@ -199,29 +226,28 @@ class RVEditTemplateWnd {
   void OnTimer();
   void PlayTimer();
   void PauseTimer();
-  void OnControlAnimationStart() { ++animatingCards_; }
+  void OnControlAnimationStart() { ++animation_.cards; }
   void OnControlAnimationStop();
-  int Phase() const { return phase_; }
+  int AnimatedCards() const { return animation_.cards; }
+  int Phase() const { return marching_.phase; }
   // How long the page has been shown, in milliseconds: where moving texts and pictures are on their way.
-  void SetAnimationTime(int milliseconds) { animationTime_ = milliseconds; }
+  void SetAnimationTime(int milliseconds) { animation_.time = milliseconds; }
 
   // --- What painting needs ---
   tagDraw MakeDraw(const Rect& clip) const;
   bool NeedsBackground() const { return redrawBackground_; }
   void BackgroundDrawn() { redrawBackground_ = false; }
   void RedrawBackground();
-  // The picked card blinks; empty when none is.
-  const std::wstring& PickedCardId() const { return pickedId_; }
+  // The card the search picked blinks; 0 when none does.
+  CardKey PickedCard() const { return picked_; }
   // Outlines of what is being dragged: the band, or the selected cards; none while nothing is.
-  std::vector<Rect> DraggingRects() const;
-  // Selected cards have their rectangles written back while frames are drawn.
-  void UpdateRect(std::wstring_view id, const Rect& rect);
+  std::vector<Rect> DraggingRects() const { return gesture_.Outlines(); }
 
   // --- Smart guides: off until the application asks for them ---
   // Alt lets go of guides and grid during a drag, Shift keeps a moved card on its row or column.
   void SetSmartGuides(bool on) { smartGuides_ = on; }
   bool HasSmartGuides() const { return smartGuides_; }
-  const std::vector<GuideLine>& Guides() const { return guideLines_; }
+  const std::vector<GuideLine>& Guides() const { return gesture_.Guides(); }
 
   static void FormatDouble(std::wstring& out, double value, int integers, int decimals, bool thousandSeparator,
                            bool leftPadding, bool rightPadding);
@@ -229,106 +255,104 @@ class RVEditTemplateWnd {
 
  protected:
   // The cursor over empty page: the arrow.
-  virtual void UpdateActiveCursor() { activeCursor_ = Cursor::Arrow; }
+  virtual void UpdateActiveCursor() { gesture_.activeCursor = Cursor::Arrow; }
   // Escape, which the canvas leaves to its parent.
   virtual void KeyProcessESC(long long keyFlags);
-  Cursor activeCursor_ = Cursor::Arrow;  // what lies under the pointer asks for it
 
  private:
+  friend class PageEdit;
   static constexpr int kSelectionTimer = 1;
-  static constexpr int kTimerPeriod = 200;     // milliseconds
-  static constexpr int kSmallestDragged = 10;  // pixels
+  static constexpr int kTimerPeriod = 200;  // milliseconds
 
   // Set-up and cards
-  void SetSupport(unsigned bit, bool on);
+  void SetSupport(int kind, bool on);
   bool Supports(int kind) const;
-  void Select(const RVCardControl& card, const Rect& rect);
-  void SelectAlone(const std::wstring& id);
-  void RefreshRects();
+  void SelectAlone(CardKey card);
+  void DropGoneFromSelection();
   void Insert(std::unique_ptr<RVCardControl> card);
   void AddCard(int kind, double x, double y, double width, double height);
   std::unique_ptr<RVCardControl> NewCard(int kind) const;
 
   // Mouse, see MouseGestures.cpp
   bool StartOnPage(Point point, MouseFlags flags);
-  void StartOnCard(const std::wstring& id, bool wasSelected, Point point, const Rect& rect, MouseFlags flags);
+  void StartOnCard(const HitCard& hit, bool wasSelected, Point point, MouseFlags flags);
   void StartGesture();
+  std::vector<Gesture::Part> SelectedParts() const;
   void Hover(Point point);
-  void DragTo(Point point, const DragModifiers& modifiers);
   void SetCursor(Cursor cursor);
-  void SetNewCursor();
-  bool IsTooSmall() const;
+  GestureGround Ground() const;
+  GuideSource GatherGuides(const PagePlacement& place) const;
+  UndoName GestureName() const;
 
-  // Drags, see DragGestures.cpp
-  void MoveDraggingRect(Point point);
-  void ResizeDraggingRect(Point point, bool horizontal, bool vertical);
+  // What a release does, see GestureEnds.cpp. True when a drawn card was too small to be made.
   bool RepositioningControl();
   void EndBand(const PagePlacement& place);
   bool EndDrawing(const PagePlacement& place);
   void EndDrag(const PagePlacement& place);
+  std::vector<CardRect> DroppedRects(const std::vector<std::size_t>& indexes, const PagePlacement& place) const;
   void EndClick();
-  void DropGesture();
-  Point MoveInside(const Rect& all, Point delta, const PagePlacement& place) const;
-  Point WithGuides(Point delta, const Rect& moved, GuideParts x, GuideParts y, const PagePlacement& place);
-  GuideSource GatherGuides(const PagePlacement& place) const;
-  void AdjustToGuides(std::vector<CardRect>& rects, bool resized) const;
-  GridSteps DragGrid() const;
+
+  // Changes and history, see PageEdit.cpp and UndoCommands.cpp
+  bool FinishEdit(UndoName name, const JoinKey& joins, bool announces);
+  bool Record(bool force, UndoName name, const JoinKey& joins);
+  bool Join();
+  void RefitAfterPageChange();
+  void AnnounceAnimations();
+  UndoName StepName(const RVUndo& step, UndoName asked) const;
+  void Restore(const RVUndo& step, const RVUndo& flags);
+  void TakePageFrom(const RVUndo& step);
 
   void MoveByKey(int key, bool control);
+  void SelectUnder(Point point);
+  bool OnControlKey(int key, bool shift);
   bool ToggleToolbar(int toolbar);
   void StartTimer();
   void PostChange(bool selectionOnly);
-  void Restore(const RVUndo& step, const RVUndo& flags);
+  void Refuse(int textId);
+  void Scroll(ScrollAxis axis, ScrollCommand command, int thumb);
 
   // Arranging, see ArrangeCommands.cpp
   template <class Rule>
   void Arrange(const Rule& rule, int undoTextId);
-  void FinishArranging(int undoTextId);
-  void FinishStacking(int undoTextId);
-  UndoName StepName(const RVUndo& step, UndoName asked) const;
+  void Stack(bool front, int undoTextId);
   bool IsReferenceThere() const;
   static ArrangePage PageOf(const PagePlacement& place);
 
-  UndoName GestureName() const;
-  void Scroll(ScrollInfo& info, ScrollAxis axis, ScrollCommand command, int thumb);
-  void SetScroll(ScrollInfo& info, ScrollAxis axis, int client, double pagePx, bool hide);
+  // The dashes of the selection march while its timer runs.
+  struct Marching {
+    int timerId = 0;
+    int phase = 0;
+  };
+  struct Animation {
+    int cards = 0;  // that announced one
+    int time = 0;
+    bool pendingRefresh = false;
+  };
 
-  RVReportPage& page_;
+  RVReportPage& editedPage_;  // what edits and the history change; everybody else reads `page_`
+  const RVReportPage& page_;
   WindowPort& port_;
   MessageQueue& queue_;
   MessageTarget& parent_;
+  PageHistoryListener* listener_ = nullptr;
+  EditingOptions options_;
 
-  PixelsPerMm scale_;
-  mutable double zoom_ = 1.0;  // an undetermined one is settled when the page is first placed
-  ScrollInfo scrollX_;
-  ScrollInfo scrollY_;
-  unsigned support_ = 0x407F;
-  int insertKind_ = 0;
-
+  Viewport viewport_;
+  Gesture gesture_;
   RVSelection selection_;
   History history_;
-  int mouseState_ = 0;
-  std::wstring pressedId_;  // the card under the press
-  std::wstring pickedId_;
-  std::wstring hoverId_;
-  Point lastPoint_;
-  Point pressPoint_;
-  Cursor cursor_ = Cursor::Arrow;  // shown now
+  JoinKey joins_;  // of the newest step, while the same field may go on being edited
 
+  unsigned support_ = AllInsertKinds();
+  int insertKind_ = tool::kLabel;
+  CardKey picked_ = 0;
   bool redrawBackground_ = true;
-  bool pendingRefresh_ = false;
-  int phase_ = 0;
-  int timerId_ = 0;
-  int animatingCards_ = 0;
-  int animationTime_ = 0;
-  int orientation_ = 0;
-
   bool smartGuides_ = false;
-  // Of the gesture that runs.
-  bool snaps_ = true;                       // false while Alt is held
-  std::optional<GuideSource> guideSource_;  // gathered when first needed
-  GuideHits guideHits_;
-  std::vector<GuideLine> guideLines_;
+  Marching marching_;
+  Animation animation_;
+  Color madeWithBackcolor_;
+  std::optional<Color> surround_;
+
   ClipboardReader clipboardReader_;
   PictureMaker pictureMaker_;
   ToolbarEntry toolbar_;

@@ -1,19 +1,13 @@
 #include "canvas/RVSelection.h"
 
+#include <algorithm>
+
 namespace xrpt {
-namespace {
 
-bool IsNull(const Rect& rect) { return rect == Rect(); }
-
-Rect Union(const Rect& a, const Rect& b) {
-  return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
-}
-
-}  // namespace
-
-void RVSelection::AddSelection(const Rect& rect, Point fixedPoint, std::wstring id, bool resizable) {
-  index_.emplace(id, static_cast<int>(entries_.size()));
-  entries_.push_back({rect, fixedPoint, std::move(id), resizable});
+bool RVSelection::AddSelection(const RVCardControl& card) {
+  if (!index_.emplace(card.Key(), static_cast<int>(entries_.size())).second) return false;
+  entries_.push_back({card.Key(), card.id});
+  return true;
 }
 
 bool RVSelection::Delete(int index) {
@@ -25,72 +19,33 @@ bool RVSelection::Delete(int index) {
 
 void RVSelection::Reindex() {
   index_.clear();
-  for (std::size_t i = 0; i < entries_.size(); ++i) index_.emplace(entries_[i].id, static_cast<int>(i));
+  for (std::size_t i = 0; i < entries_.size(); ++i) index_.emplace(entries_[i].key, static_cast<int>(i));
+}
+
+int RVSelection::Find(CardKey key) const {
+  const auto found = index_.find(key);
+  return found == index_.end() ? -1 : found->second;
 }
 
 int RVSelection::Find(std::wstring_view id) const {
-  if (entries_.empty()) return -1;
-  const auto found = index_.find(std::wstring(id));
-  return found == index_.end() ? -1 : found->second;
+  const auto found =
+      std::find_if(entries_.begin(), entries_.end(), [id](const Entry& entry) { return entry.id == id; });
+  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
 }
 
 bool RVSelection::HasSameCards(const RVSelection& other) const {
   return Size() == other.Size() &&
-         std::all_of(entries_.begin(), entries_.end(), [&](const Entry& entry) { return other.IsSelected(entry.id); });
+         std::all_of(entries_.begin(), entries_.end(), [&](const Entry& entry) { return other.Find(entry.key) >= 0; });
 }
 
-bool RVSelection::IsLastSelected(std::wstring_view id) const { return !entries_.empty() && entries_.back().id == id; }
+bool RVSelection::IsLastSelected(const RVCardControl& card) const {
+  return !entries_.empty() && entries_.back().key == card.Key();
+}
 
 std::vector<std::wstring> RVSelection::Ids() const {
   std::vector<std::wstring> ids;
   for (const Entry& entry : entries_) ids.push_back(entry.id);
   return ids;
-}
-
-Rect RVSelection::CalculateGlobalRect() const {
-  if (band_) return *band_;
-  std::optional<Rect> all;
-  for (const Entry& entry : entries_) {
-    if (!IsNull(entry.rect)) all = all ? Union(*all, entry.rect) : entry.rect;
-  }
-  return all.value_or(Rect());
-}
-
-int RVSelection::GetTargetX() const {
-  const Rect all = CalculateGlobalRect();
-  if (band_) return band_->left == startPoint_.x ? all.right : all.left;
-  if (entries_.empty()) return 0;
-  return entries_.front().rect.left == entries_.front().fixedPoint.x ? all.right : all.left;
-}
-
-int RVSelection::GetTargetY() const {
-  const Rect all = CalculateGlobalRect();
-  if (band_) return band_->top == startPoint_.y ? all.bottom : all.top;
-  if (entries_.empty()) return 0;
-  return entries_.front().rect.top == entries_.front().fixedPoint.y ? all.bottom : all.top;
-}
-
-void RVSelection::ResizeDraggingRect(Rect& rect, Point fixed, Point delta) {
-  (rect.left != fixed.x ? rect.left : rect.right) += delta.x;
-  (rect.top != fixed.y ? rect.top : rect.bottom) += delta.y;
-  rect.Normalize();
-}
-
-void RVSelection::ActualizeResizeDraggingRect(Point delta) {
-  if (band_) return ResizeDraggingRect(*band_, startPoint_, delta);
-  for (Entry& entry : entries_) {
-    if (entry.resizable) ResizeDraggingRect(entry.rect, entry.fixedPoint, delta);
-  }
-}
-
-void RVSelection::Offset(int dx, int dy) {
-  for (Entry& entry : entries_) entry.rect.Offset(dx, dy);
-}
-
-void RVSelection::StartBand(Point corner) {
-  band_ = Rect{corner.x, corner.y, corner.x, corner.y};
-  startPoint_ = corner;
-  anchor = corner;
 }
 
 }  // namespace xrpt

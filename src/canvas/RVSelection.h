@@ -1,88 +1,53 @@
-// The selected cards by id, with their rectangles in pixels while they are dragged, and the rubber band.
+// The selected cards, in the order in which they were selected; the last one is the reference of alignments.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "platform/Geometry.h"
+#include "model/RVCardControl.h"
 
 namespace xrpt {
 
-// Which edges a gesture moves. A move moves all four.
-enum DraggingStyle : int {
-  kNoEdge = 0,
-  kLeftEdge = 1,
-  kRightEdge = 2,
-  kBottomEdge = 4,
-  kTopEdge = 8,
-  kMoveAll = 15,
-};
-
 class RVSelection {
  public:
+  // A card is known by its key, so that two cards of a file that share an id are two; the id is for whoever asks.
   struct Entry {
-    Rect rect;         // pixels
-    Point fixedPoint;  // the corner that stays while the card is resized
+    CardKey key = 0;
     std::wstring id;
-    bool resizable = true;  // a card that is not is moved but never resized
     bool operator==(const Entry&) const = default;
   };
 
-  void AddSelection(const Rect& rect, Point fixedPoint, std::wstring id, bool resizable);
+  // False when it is selected already.
+  bool AddSelection(const RVCardControl& card);
   bool Delete(int index);
   // Drops every entry for which the answer is false.
   template <class Keeps>
   void Retain(const Keeps& keeps) {
-    std::erase_if(entries_, [&](const Entry& entry) { return !keeps(entry); });
-    Reindex();
+    if (std::erase_if(entries_, [&](const Entry& entry) { return !keeps(entry); }) > 0) Reindex();
   }
-  // -1 when absent.
+  // Where an entry stands; -1 when absent. Of several cards with the id, the one selected first.
+  int Find(CardKey key) const;
   int Find(std::wstring_view id) const;
-  bool IsSelected(std::wstring_view id) const { return Find(id) >= 0; }
-  bool IsLastSelected(std::wstring_view id) const;
+  bool IsSelected(const RVCardControl& card) const { return Find(card.Key()) >= 0; }
+  bool IsLastSelected(const RVCardControl& card) const;
   void Clear() { *this = RVSelection(); }
 
-  // In selection order; the last one is the most recently selected.
   const std::vector<Entry>& Entries() const { return entries_; }
-  void SetRect(std::size_t index, const Rect& rect) { entries_[index].rect = rect; }
-  void SetFixedPoint(std::size_t index, Point point) { entries_[index].fixedPoint = point; }
   std::size_t Size() const { return entries_.size(); }
   bool IsEmpty() const { return entries_.empty(); }
   std::vector<std::wstring> Ids() const;
 
-  // The band where there is one, else the rectangle round all entries that have one.
-  Rect CalculateGlobalRect() const;
-  // The edge of the whole selection that moves.
-  int GetTargetX() const;
-  int GetTargetY() const;
-
-  // Moves the edges that are not at the fixed corner; a rectangle may flip through it.
-  static void ResizeDraggingRect(Rect& rect, Point fixed, Point delta);
-  void ActualizeResizeDraggingRect(Point delta);
-  void Offset(int dx, int dy);
-
-  void SetRectUndefined() { band_.reset(); }
-  bool IsRectUndefined() const { return !band_; }
-  void StartBand(Point corner);
-  const std::optional<Rect>& Band() const { return band_; }
-
-  // The same cards, in whatever order and wherever they are.
+  // The same cards, in whatever order.
   bool HasSameCards(const RVSelection& other) const;
-  bool operator==(const RVSelection&) const = default;
-
-  int draggingStyle = kNoEdge;
-  Point anchor;  // where the mouse was when the last move was applied
+  bool operator==(const RVSelection& other) const { return entries_ == other.entries_; }
 
  private:
   void Reindex();
 
   std::vector<Entry> entries_;
-  std::unordered_map<std::wstring, int> index_;  // by id; the first of several
-  std::optional<Rect> band_;                     // rubber band, or the rectangle of a card being drawn
-  Point startPoint_;                             // its fixed corner
+  std::unordered_map<CardKey, int> index_;
 };
 
 }  // namespace xrpt

@@ -25,17 +25,12 @@ bool RVUndo::SetChange(const RVSelection& current) {
   return changed;
 }
 
-bool RVUndo::SetChange(const RVGlobalProperties& current) {
-  const bool changed = *page_ != current;
+bool RVUndo::SetChange(const RVGlobalProperties& current, bool withGrid) {
+  const bool sameGrid = !withGrid || (page_->xgrid == current.xgrid && page_->ygrid == current.ygrid);
+  const bool changed = !sameGrid || *page_ != current;
   if (changed) page_ = std::make_shared<RVGlobalProperties>(current);
   pageChanged_ = pageChanged_ || changed;
-  return pageChanged_;
-}
-
-void RVUndo::SetSurround(Color color) {
-  auto page = std::make_shared<RVGlobalProperties>(*page_);
-  page->backcolor = color;
-  page_ = std::move(page);
+  return changed;
 }
 
 }  // namespace xrpt

@@ -1,4 +1,4 @@
-// One step of the history: the page as it was, and in what it differs from the step before.
+// One step of a page's history: the page as it was, and in what it differs from the step before.
 #pragma once
 
 #include <memory>
@@ -9,10 +9,11 @@
 
 namespace xrpt {
 
-// What an undo step is called: a text that may hold the number of cards.
+// What an undo step is called: a text that may hold the number of cards, or name the field that was changed.
 struct UndoName {
   int textId = 0;
   int count = 0;
+  int fieldTextId = 0;
   bool operator==(const UndoName&) const = default;
 };
 
@@ -22,20 +23,23 @@ class RVUndo {
   RVUndo();
   static RVUndo After(const RVUndo& newest);
 
-  // Each compares the step's part with the page window's, takes it over when different, and says whether it was.
+  // Each compares the step's part with the page window's, takes it over when different, and says whether it was. Cards
+  // are compared by all their rows, whatever their equality leaves out.
   bool SetChange(const CardList& current);
   bool SetChange(const RVSelection& current);
-  bool SetChange(const RVGlobalProperties& current);
+  // Page equality leaves the grid out; `withGrid` looks at it too.
+  bool SetChange(const RVGlobalProperties& current, bool withGrid = false);
+  // The selection as it is now, without making that a difference.
+  void TakeSelection(const RVSelection& current) { selection_ = std::make_shared<RVSelection>(current); }
 
   bool IsControlListChanged() const { return cardsChanged_; }
   bool IsSelectionChanged() const { return selectionChanged_; }
   bool IsGlobalsChanged() const { return pageChanged_; }
+  bool ChangesPage() const { return cardsChanged_ || pageChanged_; }
 
   const SharedCards& Cards() const { return cards_; }
   const RVSelection& Selection() const { return *selection_; }
   const RVGlobalProperties& Page() const { return *page_; }
-  // The colour round the page follows the user's theme: that is no step.
-  void SetSurround(Color color);
 
   UndoName name;
 

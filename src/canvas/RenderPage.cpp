@@ -1,13 +1,11 @@
 #include "canvas/RenderPage.h"
 
-#include "platform/Host.h"
-
 namespace xrpt {
 namespace {
 
-// The report was loaded for the host's screen; on a device of other density its fonts grow with the cards.
+// The report was loaded for its services' screen; on a device of other density its fonts grow with the cards.
 double DeviceFontFactor(const RVReportPage& page, double dpi) {
-  const int screenDpi = CurrentHost().screen->DpiY();
+  const int screenDpi = page.Services().screen->DpiY();
   return screenDpi > 0 ? page.fontFactor * dpi / screenDpi : page.fontFactor;
 }
 

@@ -1,38 +1,37 @@
 // The page window's cards and selection: inserting, finding, selecting, editing from outside.
-#include "canvas/HitTest.h"
-#include "canvas/InsertKinds.h"
-#include "canvas/MouseState.h"
+#include <unordered_map>
+
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
-namespace {
 
-constexpr int kDefaultLabelText = 32426;
-
-Point TopLeft(const Rect& rect) { return {rect.left, rect.top}; }
-
-}  // namespace
-
-void RVEditTemplateWnd::Select(const RVCardControl& card, const Rect& rect) {
-  selection_.AddSelection(rect, TopLeft(rect), card.id, card.Resizable());
-}
-
-void RVEditTemplateWnd::SelectAlone(const std::wstring& id) {
+void RVEditTemplateWnd::SelectAlone(CardKey card) {
   ClearSelection();
-  const RVCardControl* card = page_.cards.Find(id);
-  if (card) Select(*card, ToPixels(Placement(), RectOf(*card)));
+  const std::size_t index = page_.cards.IndexOf(card);
+  if (index != CardList::kNowhere) selection_.AddSelection(page_.cards[index]);
 }
 
 void RVEditTemplateWnd::SelectControls(const std::vector<std::wstring>& ids) {
+  std::vector<std::size_t> places(ids.size(), CardList::kNowhere);
+  std::unordered_map<std::wstring_view, std::size_t> wanted;
+  for (std::size_t i = 0; i < ids.size(); ++i) wanted.emplace(ids[i], i);
+  for (std::size_t i = page_.cards.Size(); i-- > 0;) {
+    const auto found = wanted.find(page_.cards[i].id);
+    if (found != wanted.end()) places[found->second] = i;
+  }
+  SelectPlaces(places);
+}
+
+void RVEditTemplateWnd::SelectPlaces(const std::vector<std::size_t>& indexes) {
+  EndEdit();
   DropGesture();
   ClearSelection();
-  const PagePlacement place = Placement();
-  for (const std::wstring& id : ids) {
-    const RVCardControl* card = page_.cards.Find(id);
-    if (card && !selection_.IsSelected(id)) Select(*card, ToPixels(place, RectOf(*card)));
+  for (const std::size_t index : indexes) {
+    if (index < page_.cards.Size()) selection_.AddSelection(page_.cards[index]);
   }
   PlayTimer();
   port_.Invalidate();
@@ -45,47 +44,46 @@ std::wstring RVEditTemplateWnd::SelectedCardId() const {
 }
 
 bool RVEditTemplateWnd::SelectControlById(std::wstring_view id) {
-  pickedId_.clear();
+  picked_ = 0;
   const RVCardControl* card = page_.cards.Find(id);
   if (!card) return false;
+  EndEdit();
   DropGesture();
   PauseTimer();
-  SelectAlone(card->id);
-  pickedId_ = card->id;
+  SelectAlone(card->Key());
+  picked_ = card->Key();
   StartTimer();
   PostChange(true);
   port_.Invalidate();
   return true;
 }
 
-// Cards move by align, undo, zoom and scroll while they are selected; a gesture starts where they are now. A card that
-// is gone is not selected any more.
-void RVEditTemplateWnd::RefreshRects() {
-  const PagePlacement place = Placement();
+// A card that is gone is not selected any more.
+void RVEditTemplateWnd::DropGoneFromSelection() {
+  if (selection_.IsEmpty()) return;
   const std::vector<std::size_t> indexes = SelectedIndexes();
-  for (std::size_t i = 0; i < indexes.size(); ++i) {
-    if (indexes[i] != CardList::kNowhere) selection_.SetRect(i, ToPixels(place, RectOf(page_.cards[indexes[i]])));
-  }
   std::size_t next = 0;
   selection_.Retain([&](const auto&) { return indexes[next++] != CardList::kNowhere; });
 }
 
-void RVEditTemplateWnd::UpdateRect(std::wstring_view id, const Rect& rect) {
-  const int index = selection_.Find(id);
-  if (index >= 0) selection_.SetRect(static_cast<std::size_t>(index), rect);
+std::vector<std::size_t> RVEditTemplateWnd::SelectedIndexes() const {
+  std::vector<CardKey> keys;
+  keys.reserve(selection_.Size());
+  for (const RVSelection::Entry& entry : selection_.Entries()) keys.push_back(entry.key);
+  return page_.cards.IndexesOf(keys);
 }
 
-std::vector<std::size_t> RVEditTemplateWnd::SelectedIndexes() const {
-  std::vector<std::size_t> indexes(selection_.Size(), CardList::kNowhere);
-  std::size_t wanted = indexes.size();
-  for (std::size_t card = 0; card < page_.cards.Size() && wanted > 0; ++card) {
-    const int entry = selection_.Find(page_.cards[card].id);
-    if (entry < 0 || indexes[static_cast<std::size_t>(entry)] != CardList::kNowhere) continue;
-    indexes[static_cast<std::size_t>(entry)] = card;
-    --wanted;
+std::vector<Rect> RVEditTemplateWnd::SelectedRects() const {
+  if (gesture_.Row().kind == GestureKind::Drag || gesture_.Row().kind == GestureKind::Click) return gesture_.Outlines();
+  const PagePlacement place = Placement();
+  std::vector<Rect> rects;
+  for (const std::size_t index : SelectedIndexes()) {
+    rects.push_back(index == CardList::kNowhere ? Rect() : ToPixels(place, RectOf(page_.cards[index])));
   }
-  return indexes;
+  return rects;
 }
+
+Rect RVEditTemplateWnd::SelectedArea() const { return RectAround(SelectedRects()); }
 
 // --- Inserting ---
 
@@ -97,10 +95,10 @@ bool RVEditTemplateWnd::Supports(int kind) const {
 std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
   const InsertKindRow* row = FindInsertKind(kind);
   if (!row || !Supports(kind)) return nullptr;
-  std::unique_ptr<RVCardControl> card = row->kind().create();
+  std::unique_ptr<RVCardControl> card = row->kind().Create();
   if (row->frameColor) card->color = *row->frameColor;
   if (&card->GetRuntimeClass() == &RVCardLabel::Class()) {
-    static_cast<RVCardLabel&>(*card).text = HostText(kDefaultLabelText);
+    static_cast<RVCardLabel&>(*card).text = HostText(kNewCaptionText);
   }
   return card;
 }
@@ -119,53 +117,44 @@ void RVEditTemplateWnd::AddCard(int kind, double x, double y, double width, doub
 void RVEditTemplateWnd::AddControlAtPointer() {
   double x = 0.0, y = 0.0, width = 0.0, height = 0.0;
   GetInitialControlDimensions(x, y, width, height);
+  PageEdit edit = Edit({text::kInsert, 1});
   AddControl(x, y, width, height);
-  RedrawBackground();
-  AddUndoInfo(false, {text::kInsert, 1});
+  edit.EndQuietly();
 }
 
+// No step by itself: the gesture or the command that inserts is one.
 void RVEditTemplateWnd::Insert(std::unique_ptr<RVCardControl> card) {
-  card->SetParent(&page_);
+  card->SetParent(&editedPage_);
   card->InitializeId();
-  if (mouseState_ != kDrawCardCtrl) ClearSelection();
-  const Rect drawn = selection_.Band().value_or(ToPixels(Placement(), RectOf(*card)));
-  selection_.AddSelection(drawn, selection_.anchor, card->id, card->Resizable());
-  page_.cards.PushFront(std::move(card));
+  if (!gesture_.Row().keepsSelection) ClearSelection();
+  selection_.AddSelection(*card);
+  editedPage_.cards.PushFront(std::move(card));
   StartTimer();
   queue_.Post(&parent_, {Message::CardInserted, SelectedCardId(), 0});
 }
 
-// --- Changes from outside ---
-
-void RVEditTemplateWnd::CommitEdit(UndoName name) {
-  if (name.textId == 0) name = {text::kChange, static_cast<int>(std::max<std::size_t>(1, selection_.Size()))};
-  RedrawBackground();
-  AddUndoInfo(false, name);
-  queue_.Post(&parent_, {Message::CardChanged, SelectedCardId(), 0});
-}
-
-void RVEditTemplateWnd::CommitPageEdit() {
-  const RVGlobalProperties& before = history_.Newest().Page();
-  const bool resized = before.width != page_.properties.width || before.height != page_.properties.height;
-  if (resized && zoom_ < 0.0) SetMode(0);
-  InitializeScrollBars(false);
-  RedrawBackground();
-  AddUndoInfo(false, {text::kChangePage, 0});
-  queue_.Post(&parent_, {Message::CardChanged, {}, 0});
-}
+// --- What changed elsewhere ---
 
 void RVEditTemplateWnd::ImagesManagerModified() {
   RVCardImage::ReLoadAllOriginalImages();
   RedrawBackground();
 }
 
+// Only the cards that look different afterwards are changed.
 void RVEditTemplateWnd::StylesModified() {
-  for (std::size_t i = 0; i < page_.cards.Size(); ++i) page_.cards.Edit(i).UpdateStyleFromFile();
-  RedrawBackground();
+  PageEdit edit = Edit({text::kStylesChanged, 0});
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) {
+    const std::unique_ptr<RVCardControl> updated = page_.cards[i].GetClone();
+    updated->UpdateStyleFromFile();
+    if (!updated->HasSameRows(page_.cards[i])) edit.Card(i).UpdateStyleFromFile();
+  }
+  edit.EndQuietly();
 }
 
 void RVEditTemplateWnd::PostChange(bool selectionOnly) {
   queue_.Post(&parent_, {Message::SelectionOrGeometryChanged, SelectedCardId(), selectionOnly ? 1 : 0});
 }
+
+void RVEditTemplateWnd::Refuse(int textId) { parent_.OnMessage({Message::Refused, {}, textId}); }
 
 }  // namespace xrpt

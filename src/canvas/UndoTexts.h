@@ -30,6 +30,17 @@ inline constexpr int kToBack = 60411;
 inline constexpr int kChange = 60412;
 inline constexpr int kTurnPage = 60413;
 inline constexpr int kChangePage = 60414;
+inline constexpr int kStylesChanged = 60415;
+inline constexpr int kChangeField = 60416;  // of cards; the field's label stands in it
+inline constexpr int kChangePageField = 60417;
+inline constexpr int kPageAdded = 60418;
+inline constexpr int kPageDeleted = 60419;
+inline constexpr int kPageDuplicated = 60420;
+inline constexpr int kPageMoved = 60421;
+inline constexpr int kReportRenamed = 60422;
+inline constexpr int kGridSwitched = 60423;
+
+inline constexpr int kTooMuchForClipboard = 60449;  // a refusal, no step
 
 inline constexpr int kOneCardOffset = 50;
 

@@ -7,17 +7,21 @@ namespace xrpt {
 
 namespace {
 
+// A card's frame has its rectangle's right and bottom edge, and so has the page that it may reach to.
 RoundRegion RegionOf(const PagePlacement& place) {
-  return {place.PageRect(), roundi(place.roundedPxX), roundi(place.roundedPxY)};
+  Rect page = place.PageRect();
+  ++page.right;
+  ++page.bottom;
+  return {page, roundi(place.roundedPxX), roundi(place.roundedPxY)};
 }
 
 CardFrame FrameOf(const RVCardControl& card, const Rect& rect, const RVEditTemplateWnd& window) {
   CardFrame frame;
   frame.rect = rect;
   frame.color = card.color;
-  frame.selected = window.Selection().IsSelected(card.id);
-  frame.lastSelected = frame.selected && window.Selection().IsLastSelected(card.id);
-  frame.picked = !card.id.empty() && card.id == window.PickedCardId();
+  frame.selected = window.Selection().IsSelected(card);
+  frame.lastSelected = frame.selected && window.Selection().IsLastSelected(card);
+  frame.picked = card.Key() == window.PickedCard();
   return frame;
 }
 
@@ -33,17 +37,14 @@ const RVCardControl* HoveredCard(const RVEditTemplateWnd& window, const PagePlac
   return nullptr;
 }
 
-// Top card first; those out of sight are left out. While nothing is dragged the selection takes its rectangles from
-// here.
-std::vector<CardFrame> FramesOf(RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client,
+// Top card first; those out of sight are left out.
+std::vector<CardFrame> FramesOf(const RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client,
                                 const RVCardControl* hovered) {
   std::vector<CardFrame> frames;
   if (!place.IsValid()) return frames;
-  const bool isDragging = !window.DraggingRects().empty();
   const CardList& cards = window.Page().cards;
   for (std::size_t i = 0; i < cards.Size(); ++i) {
     const Rect rect = ToPixels(place, RectOf(cards[i]));
-    if (!isDragging) window.UpdateRect(cards[i].id, rect);
     if (!RVEditTemplateWnd::IsVisible(client, rect)) continue;
     frames.push_back(FrameOf(cards[i], rect, window));
     frames.back().hovered = &cards[i] == hovered;
@@ -62,8 +63,7 @@ void DrawGuide(PixelBuffer& pixels, const GuideLine& guide, Color color) {
 }  // namespace
 
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client) {
-  PagePaint how;
-  how.grid = &pixels;
+  const PagePaint how{true, window.Surround(), &pixels};
   PaintPage(graphics, window.Page(), window.MakeDraw(client), how);
   window.BackgroundDrawn();
 }
@@ -84,8 +84,7 @@ std::vector<Rect> MovingCards(const RVEditTemplateWnd& window, const Rect& clien
 void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part) {
   const GraphicsState state(graphics);
   graphics.ClipRect(RectD(part));
-  PagePaint how;
-  how.grid = &pixels;
+  const PagePaint how{true, window.Surround(), &pixels};
   PaintPage(graphics, window.Page(), window.MakeDraw(part), how);
 }
 
@@ -93,14 +92,13 @@ WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int
   Scene scene;
   scene.window = &window;
   scene.painting = painting;
-  scene.isDragging = !window.DraggingRects().empty();
   scene.pointer = window.LastMousePoint();
-  scene.pickedId = window.PickedCardId();
-  scene.selectedIds = window.Selection().Ids();
+  scene.picked = window.PickedCard();
+  scene.selection = window.Selection();
   return scene;
 }
 
-void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, RVEditTemplateWnd& window,
+void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
                           const Rect& client, Color guideColor) {
   const PagePlacement place = window.Placement();
   Scene scene = SceneOf(window, painting);

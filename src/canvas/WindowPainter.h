@@ -3,17 +3,16 @@
 // still are part of that copy, so that a tick of the selection's timer costs little more than copying.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "canvas/FrameOverlay.h"
+#include "canvas/RVSelection.h"
 #include "platform/Color.h"
 #include "platform/Graphics.h"
 #include "platform/PixelBuffer.h"
 
 namespace xrpt {
 
-class RVCardControl;
 class RVEditTemplateWnd;
 
 // `pixels` are the ones that `graphics` paints into: the grid goes there.
@@ -28,18 +27,17 @@ class WindowOverlay {
  public:
   // Fills `shown` with the page's picture and all that lies over it. `painting` tells one picture of the page from the
   // next; both are of one size.
-  void Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, RVEditTemplateWnd& window, const Rect& client,
-             Color guideColor);
+  void Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
+             const Rect& client, Color guideColor);
 
  private:
   // What the frames are made from, the phase aside.
   struct Scene {
     const RVEditTemplateWnd* window = nullptr;
     int painting = -1;
-    bool isDragging = false;
     Point pointer;
-    std::wstring pickedId;
-    std::vector<std::wstring> selectedIds;
+    CardKey picked = 0;
+    RVSelection selection;
     bool operator==(const Scene&) const = default;
   };
   static Scene SceneOf(const RVEditTemplateWnd& window, int painting);

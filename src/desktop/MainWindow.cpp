@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/TextIds.h"
@@ -20,6 +21,7 @@
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
@@ -32,14 +34,20 @@
 namespace xrpt {
 
 namespace {
-constexpr wchar_t kLastReport[] = L"LastInforme";
+constexpr char kPropertiesPanel[] = "PropertiesPanel";
+
+// The log names the function a message comes from, "Class::Function(): ", which says nothing to users.
+QString WithoutOrigin(QString message) {
+  static const QRegularExpression kOrigin(QStringLiteral("^[\\w:~]+\\(\\): "));
+  return message.remove(kOrigin);
+}
 }  // namespace
 
 MainWindow::MainWindow() {
   setObjectName(QStringLiteral("editor"));
   ThemedScreen::Install(CurrentHost());
   BuildCentre();
-  frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this));
+  frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this), EditingOptions::Comfort());
   fields_ = std::make_unique<SelectedFields>(*frame_);
   actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
   actions_->beforeRun = [this] { properties_->Commit(); };
@@ -61,7 +69,9 @@ MainWindow::MainWindow() {
   pages_->View().setFocus();
 }
 
+// A field that the keyboard leaves now still tells what was typed.
 MainWindow::~MainWindow() {
+  if (QWidget* field = focusWidget()) field->clearFocus();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
   frame_.reset();
@@ -78,14 +88,14 @@ void MainWindow::Open(const std::wstring& nameOrPath) {
 void MainWindow::OpenLast() {
   const std::vector<std::wstring> names = NamesInFolder(CurrentHost().setup->CfgPath(), kReportEnding);
   if (names.empty()) return;
-  const std::wstring last = CurrentHost().settings->RegistryText(kLastReport);
+  const std::wstring last = CurrentHost().settings->RegistryText(kLastReportValue);
   const bool there = std::find(names.begin(), names.end(), last) != names.end();
   frame_->OpenByName(there ? last : names.front());
 }
 
 void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReport, frame_->Report().name);
+  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
   const QString file = ToQString(result.file.filename().wstring());
   const QString reason = QString::fromStdString(result.error.message);
   const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
@@ -105,13 +115,9 @@ void MainWindow::PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) {
   static_cast<PagePort&>(port).Attach(&window);
   window.SetSmartGuides(smartGuides_);
   window.SetPictureMaker(AddPictures);
-  window.SetToolbarEntry(
-      {text::kProperties, [this] { return IsPropertiesShown(); }, [this](int) { ToggleProperties(); }});
+  window.SetToolbarEntry({text::kProperties, [this] { return docks_.at(kPropertiesPanel)->isVisible(); },
+                          [this](int) { TogglePanel(*docks_.at(kPropertiesPanel)); }});
 }
-
-bool MainWindow::IsPropertiesShown() const { return propertiesDock_ && propertiesDock_->isVisible(); }
-
-void MainWindow::ToggleProperties() { propertiesDock_->setVisible(!IsPropertiesShown()); }
 
 void MainWindow::PageWindowGone(WindowPort& port) {
   auto& page = static_cast<PagePort&>(port);
@@ -197,10 +203,11 @@ void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
 void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
 
 // A failed write is logged by whoever wrote; what could not be written waits in a recovery file.
-void MainWindow::OnLogged(int severity, const QString& message) {
+void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kWarning = 3;
   constexpr int kError = 4;
   if (severity < kWarning) return;
+  const QString message = WithoutOrigin(logged);
   problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
   if (severity < kError) return;
   writeFailed_ = true;
@@ -228,6 +235,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && ribbon_) ApplySurround();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  sideDocks_->Fit();
 }
 
 }  // namespace xrpt

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 
 #include "editor/EditorPort.h"
 #include "editor/SelectedFields.h"
@@ -23,6 +24,7 @@ class ProblemsList;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
+class SideDocks;
 class StatusBar;
 
 class MainWindow final : public QMainWindow, private EditorPort {
@@ -47,6 +49,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // EditorPort
@@ -65,9 +68,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void BuildCentre();
   void BuildRibbon();
   void BuildDocks();
-  bool IsPropertiesShown() const;
-  void ToggleProperties();
-  QDockWidget* AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
+  QDockWidget* AddPanel(const char* command, int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
   void BuildStatusBar();
   void BuildKeys();
   void WatchLog();
@@ -95,8 +96,11 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenShortcutSheet();
   void ExportPdf();
   void ExportImages();
+  void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
+                   void (MainWindow::*again)());
   void Print();
   void ShowSwitches();
+  void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);
   bool MayClose();
 
@@ -112,8 +116,8 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel* properties_ = nullptr;
   ProblemsList* problems_ = nullptr;
   StatusBar* status_ = nullptr;
-  std::vector<QDockWidget*> docks_;
-  QDockWidget* propertiesDock_ = nullptr;
+  std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
+  std::unique_ptr<SideDocks> sideDocks_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
   bool writeFailed_ = false;

@@ -1,4 +1,5 @@
 // The commands of the catalogue that need a window: switches of the view, sheets, saving under a name.
+#include <QDockWidget>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -11,6 +12,7 @@
 #include "desktop/look/Theme.h"
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/ribbon/Actions.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -37,15 +39,19 @@ bool MainWindow::RunCommand(const char* name) {
     ShowSwitches();
     return true;
   }
-  return false;
+  const auto dock = docks_.find(std::string_view(name));
+  if (dock == docks_.end()) return false;
+  TogglePanel(*dock->second);
+  return true;
 }
 
 // The switches of the view, which the frame knows nothing of.
 void MainWindow::ShowSwitches() {
-  const std::pair<const char*, bool> rows[] = {{"SmartGuides", smartGuides_},
-                                               {"Animation", pages_->View().IsAnimated()},
-                                               {"Rulers", pages_->HasRulers()},
-                                               {"DarkTheme", IsDarkTheme()}};
+  std::vector<std::pair<std::string_view, bool>> rows = {{"SmartGuides", smartGuides_},
+                                                         {"Animation", pages_->View().IsAnimated()},
+                                                         {"Rulers", pages_->HasRulers()},
+                                                         {"DarkTheme", IsDarkTheme()}};
+  for (const auto& [command, dock] : docks_) rows.emplace_back(command, !dock->isHidden());
   for (const auto& [name, on] : rows) {
     QAction* action = actions_->Find(name);
     action->setCheckable(true);
@@ -54,6 +60,13 @@ void MainWindow::ShowSwitches() {
 }
 
 // --- Switches ---
+
+void MainWindow::TogglePanel(QDockWidget& dock) {
+  sideDocks_->Forget(dock);
+  dock.setVisible(dock.isHidden());
+  if (!dock.isHidden()) dock.raise();
+  ShowSwitches();
+}
 
 void MainWindow::ToggleSmartGuides() {
   smartGuides_ = !smartGuides_;
@@ -71,15 +84,11 @@ void MainWindow::ToggleDarkTheme() {
   ApplySurround();
 }
 
-// What lies round a page follows the theme, unless the user gave the page a colour of its own.
+// What lies round a page follows the theme.
 void MainWindow::ApplySurround() {
   if (!frame_) return;
   const Color surround = CurrentHost().screen->ButtonFace();
-  const auto known = {ThemeSurround(true), ThemeSurround(false)};
-  for (std::size_t page = 0; page < frame_->PageCount(); ++page) {
-    Color& color = frame_->Page(page).Page().properties.backcolor;
-    if (std::find(known.begin(), known.end(), color) != known.end()) color = surround;
-  }
+  for (std::size_t page = 0; page < frame_->PageCount(); ++page) frame_->Page(page).SetSurround(surround);
   pages_->View().RepaintPage();
 }
 

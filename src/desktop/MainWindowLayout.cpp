@@ -14,12 +14,14 @@
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
 #include "desktop/ribbon/FontGroup.h"
 #include "desktop/ribbon/Ribbon.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -27,6 +29,7 @@ namespace xrpt {
 namespace {
 constexpr wchar_t kSection[] = L"Desktop";
 constexpr int kLayoutVersion = 1;
+constexpr int kNarrowestPanel = 40;
 }  // namespace
 
 void MainWindow::BuildCentre() {
@@ -45,19 +48,22 @@ void MainWindow::BuildRibbon() {
   ribbon_ = new Ribbon(*actions_, this);
   font_ = new FontGroup(*fields_, this);
   font_->edited = [this] { RefreshSoon(); };
-  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_);
+  ribbon_->Page(0).AddGroup(Translated(text::kFontGroup)).AddWidget(font_, ThemedIcon(QStringLiteral("bold")));
   corner_ = new CornerBar(*frame_, *actions_, this);
-  ribbon_->AddCorner(corner_);
+  ribbon_->SetCorner(corner_);
   setMenuWidget(ribbon_);
 }
 
-QDockWidget* MainWindow::AddPanel(int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area) {
+QDockWidget* MainWindow::AddPanel(const char* command, int titleId, const char* name, QWidget* content,
+                                  Qt::DockWidgetArea area) {
   auto* dock = new QDockWidget(Translated(titleId), this);
   dock->setObjectName(QLatin1String(name));
   dock->setWidget(content);
   GiveTitle(*dock);
+  content->setMinimumWidth(kNarrowestPanel);
   addDockWidget(area, dock);
-  docks_.push_back(dock);
+  docks_.emplace(command, dock);
+  connect(dock, &QDockWidget::visibilityChanged, this, [this] { RefreshSoon(); });
   return dock;
 }
 
@@ -70,19 +76,21 @@ void MainWindow::BuildDocks() {
     properties_->Commit();
     frame_->ShowPage(page);
   };
-  outline_->cardChosen = [this](const std::wstring& id) {
+  outline_->cardsChosen = [this](const std::vector<std::size_t>& cards) {
     properties_->Commit();
-    frame_->CurrentPage().SelectControlById(id);
+    frame_->CurrentPage().SelectPlaces(cards);
     RefreshSoon();
   };
   properties_ = new PropertyPanel(*fields_, this);
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsList(this);
   problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
-  QDockWidget* left = AddPanel(text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
-  propertiesDock_ = AddPanel(text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
-  QDockWidget* below = AddPanel(text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
-  resizeDocks({left, propertiesDock_}, {200, 280}, Qt::Horizontal);
+  QDockWidget* left = AddPanel("OutlinePanel", text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
+  QDockWidget* right =
+      AddPanel("PropertiesPanel", text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
+  QDockWidget* below = AddPanel("ProblemsPanel", text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
+  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
   resizeDocks({below}, {110}, Qt::Vertical);
   below->hide();
   problems_->countChanged = [below](int count) {
@@ -98,7 +106,7 @@ void MainWindow::BuildStatusBar() {
     pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
   };
   pages_->pointerMoved = [this](std::optional<PointD> position) { status_->SetPointer(position); };
-  pages_->View().menuUsed = [this] { RefreshSoon(); };
+  pages_->View().changed = [this] { RefreshSoon(); };
   pages_->View().resized = [this] { RefitZoom(); };
 }
 
@@ -138,6 +146,7 @@ void MainWindow::WatchLog() {
 }
 
 void MainWindow::StoreLayout() {
+  sideDocks_->BringBack();
   SettingsService& settings = *CurrentHost().settings;
   const auto store = [&settings](const wchar_t* name, const QByteArray& bytes) {
     settings.SetProfileText(kSection, name, QString::fromLatin1(bytes.toBase64()).toStdWString());

@@ -1,15 +1,18 @@
 // The commands that take a report out of the editor: PDF, pictures, paper.
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 
 #include "desktop/MainWindow.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/Export.h"
+#include "desktop/dialogs/ExportNames.h"
 #include "desktop/look/Texts.h"
-#include "desktop/panels/PropertyPanel.h"
+#include "desktop/panels/MessageBar.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "host/AtomicWrite.h"
 
 namespace xrpt {
 
@@ -17,39 +20,55 @@ namespace {
 
 constexpr int kPictureDpi = 150;
 
-// A path the user chose, with the ending when it was left out; empty when cancelled.
-Path AskForFile(QWidget* parent, int titleId, const std::wstring& name, const QString& ending) {
-  const QString file =
-      QFileDialog::getSaveFileName(parent, Translated(titleId), ToQString(name) + ending, QStringLiteral("*") + ending);
-  if (file.isEmpty()) return {};
-  return (file.endsWith(ending, Qt::CaseInsensitive) ? file : file + ending).toStdWString();
+QString EndingsAsFilter(const QStringList& endings) { return QStringLiteral("*") + endings.join(QLatin1String(" *")); }
+
+// A path the user chose, with an ending when it was left out; empty when cancelled.
+Path AskForFile(QWidget* parent, int titleId, const std::wstring& name, const QStringList& endings) {
+  const QString file = QFileDialog::getSaveFileName(parent, Translated(titleId), ToQString(name) + endings.front(),
+                                                    EndingsAsFilter(endings));
+  return file.isEmpty() ? Path() : Path(WithEnding(file, endings).toStdWString());
 }
 
-// page.png of one page is page.png; of several page-1.png, page-2.png.
-Path NumberedPath(const Path& file, std::size_t page, std::size_t count) {
-  if (count == 1) return file;
-  Path numbered = file;
-  numbered.replace_filename(file.stem().wstring() + L"-" + std::to_wstring(page + 1) + file.extension().wstring());
-  return numbered;
+// The dialog asks about the name that was typed, not about what is made of it.
+bool MayReplace(QWidget* parent, const std::vector<Path>& files) {
+  const auto there =
+      std::count_if(files.begin(), files.end(), [](const Path& file) { return std::filesystem::exists(file); });
+  if (there == 0 || files.size() == 1) return true;
+  const QString question = Translated(text::kReplaceFiles, QString::number(there));
+  return QMessageBox::question(parent, Translated(text::kProgramName), question) == QMessageBox::Yes;
 }
 
 }  // namespace
 
 void MainWindow::ExportPdf() {
-  const Path file = AskForFile(this, text::kExportPdf, frame_->Caption(), QStringLiteral(".pdf"));
-  if (file.empty()) return;
-  if (CurrentHost().files->Write(file, PdfOf(frame_->Report())))
-    Announce(Translated(text::kExported, ToQString(file.wstring())));
+  const Path file = AskForFile(this, text::kExportPdf, frame_->Caption(), {QStringLiteral(".pdf")});
+  if (!file.empty()) WriteExport({file}, {PdfOf(frame_->Report())}, &MainWindow::ExportPdf);
 }
 
 void MainWindow::ExportImages() {
-  const Path file = AskForFile(this, text::kExportImages, frame_->Caption(), QStringLiteral(".png"));
+  const QStringList endings = {QStringLiteral(".png"), QStringLiteral(".svg")};
+  const Path file = AskForFile(this, text::kExportImages, frame_->Caption(), endings);
   if (file.empty()) return;
-  const std::vector<std::string> pictures = PngsOf(frame_->Report(), kPictureDpi);
-  bool written = true;
-  for (std::size_t page = 0; page < pictures.size(); ++page)
-    written = CurrentHost().files->Write(NumberedPath(file, page, pictures.size()), pictures[page]) && written;
-  if (written) Announce(Translated(text::kExported, ToQString(file.wstring())));
+  const std::vector<Path> files = PageFiles(file, frame_->PageCount());
+  if (!MayReplace(this, files)) return;
+  const bool isDrawing = ToQString(file.extension().wstring()).compare(endings[1], Qt::CaseInsensitive) == 0;
+  WriteExport(files, isDrawing ? SvgsOf(frame_->Report()) : PngsOf(frame_->Report(), kPictureDpi),
+              &MainWindow::ExportImages);
+}
+
+// Nothing of the user's is at stake when an export fails, so what is left to say is which file and why.
+void MainWindow::WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
+                             void (MainWindow::*again)()) {
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const std::error_code fault = contents[i].empty() ? std::error_code() : WriteAtomically(files[i], contents[i]);
+    if (!fault && !contents[i].empty()) continue;
+    const QString reason = fault ? QString::fromLocal8Bit(fault.message()) : Translated(text::kPageTooLarge);
+    const QString message = Translated(text::kCannotWrite, ToQString(files[i].wstring()));
+    return messages_->Show(QStringLiteral("%1 %2").arg(message, reason), true,
+                           {{Translated(text::kTryAgain), [this, again] { (this->*again)(); }}});
+  }
+  messages_->Dismiss();
+  Announce(Translated(text::kExported, ToQString(files.front().wstring())));
 }
 
 void MainWindow::Print() {

@@ -1,4 +1,4 @@
-// Text ids of the windows, in the catalogues' range 60500 to 61199.
+// Text ids of the windows, in the catalogues' ranges 60500 to 61199 and 62400 to 62599.
 #pragma once
 
 namespace xrpt::text {
@@ -82,6 +82,13 @@ inline constexpr int kGroupPage = 60575;
 
 // Titles of the property panel's sections, in the order of `FieldGroup`.
 inline constexpr int kFirstFieldGroup = kGroupGeometry;
+
+inline constexpr int kMoreGroups = 62400;
+inline constexpr int kMoreCommands = 62401;
+inline constexpr int kReplaceFiles = 62402;
+inline constexpr int kCannotWrite = 62403;
+inline constexpr int kPageTooLarge = 62404;
+inline constexpr int kTryAgain = 62405;
 
 // The system's own.
 inline constexpr int kCancel = 380;

@@ -59,6 +59,7 @@ int main(int argc, char** argv) {
   options.language = arguments.language.empty() ? QLocale().name().toStdString() : arguments.language;
   const auto host = xrpt::MakeQtHost(xrpt::WithUserFolders(options));
   xrpt::InstallHost(host.get());
+  xrpt::TranslateToolkit(application, options.language);
 
   QApplication::setApplicationDisplayName(xrpt::Translated(xrpt::text::kProgramName));
   QApplication::setWindowIcon(xrpt::ApplicationIcon());

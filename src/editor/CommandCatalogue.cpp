@@ -24,8 +24,8 @@ bool OneSelected(const Frame& frame) { return Selected(frame) >= 1; }
 bool TwoSelected(const Frame& frame) { return Selected(frame) >= 2; }
 bool ThreeSelected(const Frame& frame) { return Selected(frame) >= 3; }
 bool CanPaste(const Frame& frame) { return MenuState(frame).paste; }
-bool CanUndo(const Frame& frame) { return MenuState(frame).undo; }
-bool CanRedo(const Frame& frame) { return frame.CurrentPage().IsActionRedoEnabled(); }
+bool CanUndo(const Frame& frame) { return frame.CanUndo(); }
+bool CanRedo(const Frame& frame) { return frame.CanRedo(); }
 bool HasCards(const Frame& frame) { return MenuState(frame).selectAll; }
 bool HasNextPage(const Frame& frame) { return frame.CurrentPageIndex() + 1 < frame.PageCount(); }
 bool HasPreviousPage(const Frame& frame) { return frame.CurrentPageIndex() > 0; }
@@ -34,8 +34,8 @@ bool IsModified(const Frame& frame) { return frame.IsModified(); }
 bool CanZoomIn(const Frame& frame) { return NextZoomIn(frame.CurrentPage().Zoom()) <= Frame::kLargestZoom; }
 bool CanZoomOut(const Frame& frame) { return NextZoomOut(frame.CurrentPage().Zoom()) >= Frame::kSmallestZoom; }
 
-std::wstring UndoDetail(const Frame& frame) { return UndoText(frame.CurrentPage().NextUndoName()); }
-std::wstring RedoDetail(const Frame& frame) { return UndoText(frame.CurrentPage().NextRedoName()); }
+std::wstring UndoDetail(const Frame& frame) { return UndoText(frame.History().NextUndoName()); }
+std::wstring RedoDetail(const Frame& frame) { return UndoText(frame.History().NextRedoName()); }
 
 // --- What it does on the current page ---
 
@@ -90,6 +90,11 @@ bool AddPage(Frame& frame, Arguments) {
   frame.AddPage();
   return true;
 }
+template <int Places>
+bool MovePage(Frame& frame, Arguments) {
+  const std::size_t from = frame.CurrentPageIndex();
+  return Places < 0 ? from > 0 && frame.MovePage(from, from - 1) : frame.MovePage(from, from + 2);
+}
 bool NextPage(Frame& frame, Arguments) { return frame.ShowPage(frame.CurrentPageIndex() + 1); }
 bool PreviousPage(Frame& frame, Arguments) { return frame.ShowPage(frame.CurrentPageIndex() - 1); }
 bool NewReport(Frame& frame, Arguments) { return frame.NewReport(); }
@@ -116,10 +121,10 @@ constexpr Command kCommands[] = {
      OnPage<&RVEditTemplateWnd::ControlCopy>},
     {"Delete", kHome, text::kClipboardGroup, text::kDelete, "delete", "Del", false, OneSelected, nullptr,
      OnPage<&RVEditTemplateWnd::ControlDelete>},
-    {"Undo", kHome, text::kHistoryGroup, text::kUndo, "undo", "Ctrl+Z", true, CanUndo, nullptr,
-     OnPage<&RVEditTemplateWnd::ControlUndo>, UndoDetail},
+    {"Undo", kHome, text::kHistoryGroup, text::kUndo, "undo", "Ctrl+Z", true, CanUndo, nullptr, OnFrame<&Frame::Undo>,
+     UndoDetail},
     {"Redo", kHome, text::kHistoryGroup, text::kRedo, "redo", "Ctrl+Y Ctrl+Shift+Z", true, CanRedo, nullptr,
-     OnPage<&RVEditTemplateWnd::ControlRedo>, RedoDetail},
+     OnFrame<&Frame::Redo>, RedoDetail},
     {"SelectAll", kHome, text::kSelectGroup, text::kSelectAll, "select-all", "Ctrl+E Ctrl+A", true, HasCards, nullptr,
      OnPage<&RVEditTemplateWnd::ControlSelectAll>},
 
@@ -192,6 +197,12 @@ constexpr Command kCommands[] = {
     {"AddPage", kPage, text::kPagesGroup, text::kAddPage, "add-page", "Ctrl+Shift+N", true, Always, nullptr, AddPage},
     {"DeletePage", kPage, text::kPagesGroup, text::kDeletePage, "delete-page", "Ctrl+Shift+Del", false, HasSeveralPages,
      nullptr, OnFrame<&Frame::DeletePage>},
+    {"DuplicatePage", kPage, text::kPagesGroup, text::kDuplicatePage, "duplicate-page", "Ctrl+Shift+U", false, Always,
+     nullptr, OnFrame<&Frame::DuplicatePage>},
+    {"MovePageUp", kPage, text::kPagesGroup, text::kMovePageUp, "page-up", "Ctrl+PgUp", false, HasPreviousPage, nullptr,
+     MovePage<-1>},
+    {"MovePageDown", kPage, text::kPagesGroup, text::kMovePageDown, "page-down", "Ctrl+PgDown", false, HasNextPage,
+     nullptr, MovePage<1>},
     {"PreviousPage", kPage, text::kPagesGroup, text::kPreviousPage, "previous-page", "PgUp", false, HasPreviousPage,
      nullptr, PreviousPage},
     {"NextPage", kPage, text::kPagesGroup, text::kNextPage, "next-page", "PgDown", false, HasNextPage, nullptr,
@@ -217,6 +228,12 @@ constexpr Command kCommands[] = {
      nullptr},
     {"Rulers", kView, text::kShowGroup, text::kRulers, "rulers", "Ctrl+R", true, Always, nullptr, nullptr},
     {"DarkTheme", kView, text::kShowGroup, text::kDarkTheme, "theme", "Ctrl+Shift+D", true, Always, nullptr, nullptr},
+    {"OutlinePanel", kView, text::kPanelsGroup, text::kOutlinePanel, "pages-panel", "Alt+1", false, Always, nullptr,
+     nullptr},
+    {"PropertiesPanel", kView, text::kPanelsGroup, text::kPropertiesPanel, "properties-panel", "Alt+2", false, Always,
+     nullptr, nullptr},
+    {"ProblemsPanel", kView, text::kPanelsGroup, text::kProblemsPanel, "problems-panel", "Alt+3", false, Always,
+     nullptr, nullptr},
     {"CommandPalette", kView, text::kHelpGroup, text::kCommandPalette, "palette", "Ctrl+Shift+P", true, Always, nullptr,
      nullptr},
     {"ShortcutSheet", kView, text::kHelpGroup, text::kShortcutSheet, "shortcuts", "F1", true, Always, nullptr, nullptr},
@@ -249,6 +266,7 @@ const Command* FindCommand(std::string_view name) {
 
 bool RunCommand(RVEditControlWnd& frame, const Command& command, CommandArguments arguments) {
   if (!command.isEnabled(frame)) return false;
+  frame.EndEdits();
   return command.run ? command.run(frame, arguments) : frame.Port().RunCommand(command.name);
 }
 

@@ -92,5 +92,12 @@ inline constexpr int kExportPdf = 61484;
 inline constexpr int kExportImages = 61485;
 inline constexpr int kPrint = 61486;
 inline constexpr int kAnimation = 61487;
+inline constexpr int kDuplicatePage = 61488;
+inline constexpr int kMovePageUp = 61489;
+inline constexpr int kMovePageDown = 61490;
+inline constexpr int kPanelsGroup = 61540;
+inline constexpr int kOutlinePanel = 61541;
+inline constexpr int kPropertiesPanel = 61542;
+inline constexpr int kProblemsPanel = 61543;
 
 }  // namespace xrpt::text

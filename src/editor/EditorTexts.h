@@ -5,5 +5,6 @@ namespace xrpt::text {
 
 inline constexpr int kUntitled = 32468;
 inline constexpr int kSaveChanges = 32472;  // a question
+inline constexpr int kDeletePageQuestion = 60448;
 
 }  // namespace xrpt::text

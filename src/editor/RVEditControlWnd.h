@@ -7,22 +7,22 @@
 #include <vector>
 
 #include "canvas/InsertTools.h"
-#include "canvas/RVEditTemplateWnd.h"
 #include "editor/EditorPort.h"
+#include "editor/ReportEdit.h"
 #include "model/RVReport.h"
 #include "platform/Messages.h"
 
 namespace xrpt {
 
-class RVEditControlWnd final : public MessageTarget {
+class RVEditControlWnd final : public MessageTarget, private PageHistoryListener {
  public:
   // Starts on a new, empty report. `port` must outlive the frame.
-  explicit RVEditControlWnd(EditorPort& port);
+  explicit RVEditControlWnd(EditorPort& port, const EditingOptions& options = {});
   ~RVEditControlWnd() override;
 
   // --- The report ---
   const RVReport& Report() const { return report_; }
-  RVReport& Report() { return report_; }
+  const EditingOptions& Options() const { return options_; }
   bool IsModified() const { return report_.modified; }
   void SetModified(bool modified);
   // The report's name, or the text for one that has none.
@@ -47,16 +47,33 @@ class RVEditControlWnd final : public MessageTarget {
   bool SaveUnderGeneratedName();
   void Rename(const std::wstring& name);
 
+  // --- Changes: one door, one history (see ReportEdit.h) ---
+  ReportEdit Edit(UndoName name);
+  // What comes next is a step of its own. Every command, save and look at something else begins with it.
+  void EndEdits();
+  bool CanUndo() const { return history_.CanUndo(); }
+  bool CanRedo() const { return history_.CanRedo(); }
+  // Takes back what was done last, on whichever page, and shows that page. False when there is nothing.
+  bool Undo();
+  bool Redo();
+  const ReportHistory& History() const { return history_; }
+
   // --- Pages ---
   std::size_t PageCount() const { return pages_.size(); }
   std::size_t CurrentPageIndex() const { return current_; }
-  RVEditTemplateWnd& Page(std::size_t index) { return *pages_[index].window; }
+  RVEditTemplateWnd& Page(std::size_t index) { return *pages_[index]->window; }
   RVEditTemplateWnd& CurrentPage() { return Page(current_); }
-  const RVEditTemplateWnd& CurrentPage() const { return *pages_[current_].window; }
-  WindowPort& PagePort(std::size_t index) { return *pages_[index].port; }
+  const RVEditTemplateWnd& CurrentPage() const { return *pages_[current_]->window; }
+  WindowPort& PagePort(std::size_t index) { return *pages_[index]->port; }
   bool ShowPage(std::size_t index);
+  // Adds an empty page at the end and shows it.
   void AddPage();
+  // Asks first. A report keeps at least one page.
   bool DeletePage();
+  // A copy behind the current page, with identities of its own.
+  bool DuplicatePage();
+  // Puts a page before the one that stands at `to` now.
+  bool MovePage(std::size_t from, std::size_t to);
   // 0 makes the current page landscape, anything else portrait. False when it was already.
   bool SetOrientation(int orientation);
   // The grid's sign switches it; the step stays.
@@ -66,8 +83,6 @@ class RVEditControlWnd final : public MessageTarget {
   // --- The insert tool, the same for all pages (see InsertTools.h) ---
   int Tool() const { return tool_; }
   void SetTool(int tool);
-  // Whether the pointer comes back after each inserted card. Off until the application asks for it.
-  void SetReturnsToPointer(bool returns) { returnsToPointer_ = returns; }
 
   // --- Zoom of the current page ---
   // Entries of the zoom box: 0 fit page, 1 fit width, then 50 % to 1000 % in steps of 50 %.
@@ -96,29 +111,66 @@ class RVEditControlWnd final : public MessageTarget {
   EditorPort& Port() { return port_; }
 
  private:
-  struct PageWindow {
-    std::unique_ptr<WindowPort> port;
-    std::unique_ptr<RVEditTemplateWnd> window;
-    bool fitsWidth = false;  // which of the two fitted zooms a negative zoom is
-  };
+  friend class ReportEdit;
 
-  void BuildPages();
-  void DropPages();
-  PageWindow& AttachWindow(RVReportPage& page);
-  void DetachWindow(PageWindow& page);
-  bool Fit(int mode, bool width);
+  // PageHistoryListener
+  void OnStepTaken(RVEditTemplateWnd& page, const UndoName& name, bool changesPage) override;
+  void OnStepJoined(RVEditTemplateWnd& page) override;
+  void OnStepWithdrawn(RVEditTemplateWnd& page) override;
+  void OnOldestDropped(RVEditTemplateWnd& page) override { history_.OldestPageStepGone(page); }
+  void OnStepUndone(RVEditTemplateWnd& page) override;
+  void OnStepRedone(RVEditTemplateWnd& page) override;
+  void OnHistoryCleared(RVEditTemplateWnd& page) override { history_.PageCleared(page); }
+
+  // The report, see RVEditControlWnd.cpp
+  template <class Load>
+  LoadResult LoadWith(const Load& load);
   // False when the user wanted to save and that failed.
   bool LetGoOfChanges();
   void ReportListChanged();
+  void StartAnew();
+  void OnKey(const MessageData& message);
+
+  // Pages, see FramePages.cpp
+  std::shared_ptr<PageSlot> NewSlot(std::shared_ptr<RVReportPage> page);
+  void Attach(PageSlot& slot);
+  void Detach(PageSlot& slot);
+  void BuildPages();
+  void DropPages();
+  PageOrder CurrentOrder() const { return {pages_, current_}; }
+  void ApplyOrder(const PageOrder& order);
+
+  // Steps, see FrameHistory.cpp
+  bool FinishEdit();
+  void Take(ReportStep step);
+  void Replay(const ReportStep& step, bool back);
+  void Apply(const ReportChange& change, bool back);
+  void ShowPageOf(const ReportStep& step);
+  XmlDocument& Table(ReportTable table);
+  void MarkSaved();
+  void MarkByHistory(bool changesReport);
+
+  bool Fit(int mode);
+
+  // An edit under way: the step it will be, and how deep edits are opened inside it.
+  struct OpenEdit {
+    ReportStep step;
+    int depth = 0;
+  };
 
   EditorPort& port_;
+  EditingOptions options_;
   MessageQueue queue_;
   RVReport report_;
   SaveResult lastSave_;
-  std::vector<PageWindow> pages_;  // one a page of the report, same order
+  PageSlots pages_;  // one a page of the report, same order
   std::size_t current_ = 0;
   int tool_ = tool::kPointer;
-  bool returnsToPointer_ = false;
+  ReportHistory history_;
+  OpenEdit open_;
+  bool replaying_ = false;
+  static constexpr std::uint64_t kNever = ~std::uint64_t{0};
+  std::uint64_t savedSerial_ = 0;  // where the history stood when the report was saved
 };
 
 // The next larger and smaller of the zoom steps, from a stored zoom (negative: fitted). The value itself when refused.

@@ -1,8 +1,11 @@
 #include "editor/SelectedFields.h"
 
 #include <algorithm>
+#include <memory>
+#include <set>
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
@@ -12,31 +15,31 @@ namespace xrpt {
 namespace {
 
 // Rows of the first card's tables that the others' tables have too: kinds share the rows of the kind they derive from.
-std::vector<const FieldRow*> CommonRows(const std::vector<const RVCardControl*>& cards) {
-  std::vector<const FieldRow*> common;
-  ForEachField(cards.front()->GetRuntimeClass().table, [&common](const FieldRow& row) {
+std::vector<const CardRow*> CommonRows(const std::vector<const RVCardControl*>& cards) {
+  std::vector<const CardRow*> common;
+  ForEachField(cards.front()->GetRuntimeClass().table, [&common](const CardRow& row) {
     if (row.panel.textId != 0) common.push_back(&row);
   });
   std::set<const CardClass*> kinds;
   for (const RVCardControl* card : cards) {
     if (!kinds.insert(&card->GetRuntimeClass()).second) continue;
-    std::set<const FieldRow*> rows;
-    ForEachField(card->GetRuntimeClass().table, [&rows](const FieldRow& row) { rows.insert(&row); });
-    std::erase_if(common, [&rows](const FieldRow* row) { return rows.count(row) == 0; });
+    std::set<const CardRow*> rows;
+    ForEachField(card->GetRuntimeClass().table, [&rows](const CardRow& row) { rows.insert(&row); });
+    std::erase_if(common, [&rows](const CardRow* row) { return rows.count(row) == 0; });
   }
   return common;
 }
 
-std::optional<std::wstring> CommonText(const FieldRow& row, const std::vector<const RVCardControl*>& cards) {
-  std::wstring text = row.text(cards.front());
+std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  std::wstring text = row.text(*cards.front());
   const bool same =
-      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(card) == text; });
+      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(*card) == text; });
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
 // What people read: a word of a list in their language.
-std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
-  const std::wstring text = row.text(&card);
+std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
+  const std::wstring text = row.text(card);
   for (const Word& word : row.words) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }
@@ -45,9 +48,35 @@ std::wstring ShownText(const FieldRow& row, const RVCardControl& card) {
 
 }  // namespace
 
-void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text) {
-  row.assign(&card, text);
-  if (row.panel.editor == FieldEditor::Style) card.UpdateStyleFromFile();
+namespace {
+
+const CardRow* StyleRow(const RVCardControl& card) {
+  const CardRow* found = nullptr;
+  ForEachField(card.GetRuntimeClass().table, [&found](const CardRow& row) {
+    if (row.panel.editor == FieldEditor::Style) found = &row;
+  });
+  return found;
+}
+
+// What the card's style says of a field holds when the report is read again: an edit that it would take back lets go of
+// the style.
+void LetGoOfStyle(RVCardControl& card, const CardRow& edited) {
+  const CardRow* style = StyleRow(card);
+  if (!style || style->text(card).empty()) return;
+  const std::unique_ptr<RVCardControl> styled = card.GetClone();
+  styled->UpdateStyleFromFile();
+  if (edited.text(*styled) != edited.text(card)) style->assign(card, "");
+}
+
+}  // namespace
+
+void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text) {
+  row.assign(card, text);
+  if (row.panel.editor == FieldEditor::Style) {
+    card.UpdateStyleFromFile();
+  } else {
+    LetGoOfStyle(card, row);
+  }
 }
 
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page) {
@@ -77,19 +106,19 @@ std::vector<FieldState> SelectedFields::Fields() const {
   const auto cards = Cards();
   if (cards.empty()) {
     const RVGlobalProperties& page = frame_.CurrentPage().Page().properties;
-    ForEachField(RVGlobalProperties::Table(), [&](const FieldRow& row) {
-      if (row.panel.textId != 0) fields.push_back({&row, row.text(&page)});
+    ForEachField(RVGlobalProperties::Table(), [&](const PageRow& row) {
+      if (row.panel.textId != 0) fields.push_back({&row, row.text(page)});
     });
     return fields;
   }
-  for (const FieldRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
+  for (const CardRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
   return fields;
 }
 
 std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
   const auto cards = Cards();
   if (cards.empty()) return std::nullopt;
-  for (const FieldRow* row : CommonRows(cards)) {
+  for (const CardRow* row : CommonRows(cards)) {
     if (row->FullName() == name) return FieldState{row, CommonText(*row, cards)};
   }
   return std::nullopt;
@@ -97,25 +126,26 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
 
 void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   RVEditTemplateWnd& page = frame_.CurrentPage();
-  const auto cards = Cards();
-  open_ = cards.empty() ? Edit::OfPage : Edit::OfCards;
-  std::vector<std::wstring> ids;
-  for (const RVCardControl* card : cards) ids.push_back(card->id);
-  if (cards.empty()) row.assign(static_cast<RVGlobalProperties::FieldRoot*>(&page.Page().properties), text);
-  for (const std::wstring& id : ids) AssignToCard(*page.EditCard(id), row, text);
-  page.RedrawBackground();
-  frame_.SetModified(true);
+  const std::vector<std::size_t> indexes = SelectedIndexes(page);
+  if (indexes.empty()) return AssignToPage(page, row, text);
+  const CardRow* common = RowOfTable(page.Page().cards[indexes.front()].GetRuntimeClass().table, row);
+  if (!common) return;
+  PageEdit edit = page.Edit({text::kChangeField, static_cast<int>(indexes.size()), row.panel.textId}, row.FullName());
+  for (const std::size_t index : indexes) AssignToCard(edit.Card(index), *common, text);
 }
 
-void SelectedFields::Commit() {
-  const Edit ended = std::exchange(open_, Edit::None);
-  if (ended == Edit::OfPage) frame_.CurrentPage().CommitPageEdit();
-  if (ended == Edit::OfCards) frame_.CurrentPage().CommitEdit();
+void SelectedFields::AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text) {
+  const PageRow* own = RowOfTable(RVGlobalProperties::Table(), row);
+  if (!own) return;
+  PageEdit edit = page.Edit({text::kChangePageField, 0, row.panel.textId}, row.FullName());
+  own->assign(edit.Properties(), text);
 }
+
+void SelectedFields::Commit() { frame_.EndEdits(); }
 
 std::wstring CardCaption(const RVCardControl& card) {
   std::wstring content;
-  ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (content.empty() && row.panel.textId != 0 && row.panel.group == FieldGroup::Content)
       content = ShownText(row, card);
   });

@@ -8,11 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "model/FieldTable.h"
+#include "model/RVCardControl.h"
 
 namespace xrpt {
 
-class RVCardControl;
 class RVEditControlWnd;
 class RVEditTemplateWnd;
 
@@ -34,22 +33,23 @@ class SelectedFields {
   // One field by its full name ("font/size"), when all have it.
   std::optional<FieldState> Find(std::string_view name) const;
 
-  // Writes the text into every card meant, or into the page. Part of an edit that `Commit` ends.
+  // Writes the text into every card meant, or into the page: a step of the history, which goes on while the same field
+  // is assigned to again.
   void Assign(const FieldRow& row, std::string_view text);
-  // The assignments since the last one become one step of the history.
+  // The next assignment is a step of its own.
   void Commit();
 
  private:
   std::vector<const RVCardControl*> Cards() const;
 
-  enum class Edit { None, OfPage, OfCards };
+  static void AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text);
 
   RVEditControlWnd& frame_;
-  Edit open_ = Edit::None;
 };
 
-// Writes a text into one field of a card. A style's name alone changes nothing to see: the card takes its font, too.
-void AssignToCard(RVCardControl& card, const FieldRow& row, std::string_view text);
+// Writes a text into one field of a card. A style's name alone changes nothing to see: the card takes its font, too. A
+// field that the card's style governs lets go of the style.
+void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text);
 
 // Where the selected cards of a page stand, in selection order.
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page);

@@ -3,19 +3,20 @@
 #include <algorithm>
 
 #include "model/CommonRows.h"
+#include "model/FieldWalk.h"
 #include "platform/Host.h"
 #include "platform/NamedFiles.h"
+#include "platform/UniqueNames.h"
 
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
 constexpr std::string_view kClipboardRoot = "styleClipboard";
 constexpr std::size_t kLongestName = 200;  // bytes; with identifier and ending a file name has 255
 
 using Cfg = tagStyleCfg;
 
-constexpr FieldRow kRows[] = {
+constexpr FieldOf<Cfg> kRows[] = {
     Field<Cfg, codec::String, &Cfg::font, &Font::face>("font", "name", "Arial",
                                                        {text::kFontFace, FieldGroup::Font, FieldEditor::FontFace}),
     FontStyleRow<Cfg, &Cfg::font>(),
@@ -42,10 +43,10 @@ void TellHost() { CurrentHost().identifiers->invalidateGuid(GuidKind::Styles, tr
 void WriteStyle(const tagStyleCfg& style, XmlNode root) {
   root.SetValue("revision", CurrentHost().guids->NewGuidText());
   root.SetValue("name", style.name);
-  root.SetValue("version", kVersion);
+  root.SetValue("version", kFormatVersion);
   XmlNode font = root.Node("font");
   if (!font) font = root.NewChild("font");
-  for (const FieldRow& row : kRows) font.SetValue(row.name, row.text(&style));
+  for (const FieldOf<Cfg>& row : kRows) font.SetValue(row.name, row.text(style));
 }
 
 // The identifier is part of a file name, so one that could leave the folder gives way to a new one.
@@ -91,13 +92,13 @@ std::wstring PasteStyle(const XmlNode& style, const std::vector<std::wstring>& t
 
 }  // namespace
 
-const FieldTable& tagStyleCfg::Table() {
-  static constexpr FieldTable kTable{nullptr, kRows};
+const FieldTable<Cfg>& tagStyleCfg::Table() {
+  static constexpr FieldTable<Cfg> kTable{nullptr, kRows};
   return kTable;
 }
 
 bool tagStyleCfg::operator==(const tagStyleCfg& other) const {
-  return name == other.name && EqualFields(Table(), this, &other);
+  return name == other.name && EqualFields(Table(), *this, other);
 }
 
 bool IsValidId(std::wstring_view name) { return IsSafeFileName(name) && ToUtf8(name).size() <= kLongestName; }
@@ -117,7 +118,7 @@ tagStyleCfg OpenStyle(const std::wstring& name) {
   tagStyleCfg style;
   style.name = name;
   XmlDocument document;
-  if (LoadStyle(name, document)) ReadFields(tagStyleCfg::Table(), &style, document.Root());
+  if (LoadStyle(name, document)) ReadFields(tagStyleCfg::Table(), style, document.Root());
   return style;
 }
 
@@ -190,12 +191,9 @@ std::vector<std::wstring> PasteStyles(std::string clipboard) {
 }
 
 std::wstring UniqueStyleName(const std::wstring& name, const std::vector<std::wstring>& taken) {
-  const auto isTaken = [&taken](const std::wstring& candidate) {
-    return std::find(taken.begin(), taken.end(), candidate) != taken.end();
-  };
-  std::wstring candidate = name;
-  for (int n = 1; isTaken(candidate); ++n) candidate = name + L"_" + std::to_wstring(n);
-  return candidate;
+  UniqueNames names;
+  for (const std::wstring& other : taken) names.Add(other);
+  return names.Take(name);
 }
 
 }  // namespace xrpt

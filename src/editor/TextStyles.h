@@ -8,15 +8,14 @@
 #include "model/FieldTable.h"
 #include "platform/Color.h"
 #include "platform/Fonts.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kStyleEnding = L".XSTY";
 
 // One style as the edit dialog holds it.
 struct tagStyleCfg {
   using FieldRoot = tagStyleCfg;
-  static const FieldTable& Table();
+  static const FieldTable<tagStyleCfg>& Table();
   bool operator==(const tagStyleCfg& other) const;
 
   std::wstring name;  // empty: a new style

@@ -11,14 +11,19 @@
 #include "host/FixedSetup.h"
 #include "host/IdentifierListeners.h"
 #include "host/IniSettings.h"
+#include "host/LocaleDates.h"
 #include "host/MemoryClipboard.h"
 #include "host/NoPictures.h"
+#include "host/NoValues.h"
 #include "host/PlainFonts.h"
+#include "host/PlantVariables.h"
 #include "host/RandomGuids.h"
 #include "host/RecoveryStore.h"
 #include "host/SystemLocale.h"
 #include "host/TextCatalogue.h"
 #include "host/VariableNames.h"
+#include "host/WarningList.h"
+#include "host/expressions/EmbeddedExpressions.h"
 
 namespace xrpt {
 namespace {
@@ -42,6 +47,14 @@ void AddStyles(Host& host) {
   });
   host.styles = std::move(styles);
   host.identifiers = std::move(identifiers);
+}
+
+void AddPlant(Host& host) {
+  host.devices = std::make_unique<DeviceFile>(host);
+  host.variables = std::make_unique<VariableNames>();
+  host.driverVariables = std::make_unique<PlantVariables>(host);
+  host.values = std::make_unique<NoValues>();
+  host.expressions = std::make_unique<EmbeddedExpressions>(host);
 }
 
 void AddScreenAndPaper(Host& host, const HostOptions& options) {
@@ -81,8 +94,9 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->settings = std::make_unique<IniSettings>(*host, options.settingsFile);
   host->guids = std::make_unique<RandomGuids>();
   host->locale = std::make_unique<SystemLocale>();
-  host->devices = std::make_unique<DeviceFile>(*host);
-  host->variables = std::make_unique<VariableNames>();
+  host->dates = std::make_unique<LocaleDates>(*host);
+  AddPlant(*host);
+  host->debugInfo = std::make_unique<WarningList>();
   AddStyles(*host);
   AddScreenAndPaper(*host, options);
   LimitPictures(*host, options);

@@ -19,6 +19,7 @@ Device ReadDevice(const XmlNode& node) {
 }  // namespace
 
 std::vector<Device> DeviceFile::Devices() {
+  const std::lock_guard guard(lock_);
   const Path file = host_.setup->CfgPath() / kFileName;
   const FileStamp now = host_.files->Stamp(file);
   if (now != stamp_) devices_ = now.exists ? Load(file) : std::vector<Device>();

@@ -2,6 +2,8 @@
 // <devices><device><id/><name/><variable><id/><name/></variable>...</device>...</devices>
 #pragma once
 
+#include <mutex>
+
 #include "platform/Host.h"
 
 namespace xrpt {
@@ -18,6 +20,7 @@ class DeviceFile final : public DeviceCatalogue {
   std::vector<Device> Load(const Path& file);
 
   Host& host_;
+  std::mutex lock_;  // checks in the background ask too
   FileStamp stamp_;
   std::vector<Device> devices_;
 };

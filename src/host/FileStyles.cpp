@@ -38,6 +38,7 @@ std::wstring IdOfFile(const Path& file) {
 }  // namespace
 
 bool FileStyles::StyleId2Name(std::wstring_view id, std::wstring& name) {
+  const std::lock_guard guard(lock_);
   const Entry* entry = FindById(id);
   if (!entry) return false;
   name = entry->name;
@@ -45,6 +46,7 @@ bool FileStyles::StyleId2Name(std::wstring_view id, std::wstring& name) {
 }
 
 bool FileStyles::StyleName2Id(std::wstring_view name, std::wstring& id) {
+  const std::lock_guard guard(lock_);
   const Entry* entry = FindByName(name);
   if (!entry || !entry->isValid) return false;
   id = entry->id;
@@ -52,8 +54,14 @@ bool FileStyles::StyleName2Id(std::wstring_view name, std::wstring& id) {
 }
 
 std::optional<StyleFont> FileStyles::Font(std::wstring_view name) {
+  const std::lock_guard guard(lock_);
   const Entry* entry = FindByName(name);
   return entry ? entry->font : std::nullopt;
+}
+
+void FileStyles::Forget() {
+  const std::lock_guard guard(lock_);
+  isListed_ = false;
 }
 
 FileStyles::Entry* FileStyles::FindByName(std::wstring_view name) {

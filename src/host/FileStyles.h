@@ -4,14 +4,16 @@
 
 #include <chrono>
 #include <map>
+#include <mutex>
 
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
 
 class FileStyles final : public StyleTable {
  public:
-  static constexpr std::wstring_view kEnding = L".XSTY";
+  static constexpr std::wstring_view kEnding = kStyleEnding;
   using Clock = std::chrono::steady_clock;
 
   // The folder is looked at for changes made by other programs at most once in `interval`.
@@ -22,7 +24,7 @@ class FileStyles final : public StyleTable {
   bool StyleName2Id(std::wstring_view name, std::wstring& id) override;
   std::optional<StyleFont> Font(std::wstring_view name) override;
   // The next question lists the folder again.
-  void Forget() { isListed_ = false; }
+  void Forget();
 
  private:
   struct Entry {
@@ -42,6 +44,7 @@ class FileStyles final : public StyleTable {
   void Read(Entry& entry);
 
   Host& host_;
+  std::mutex lock_;  // checks in the background ask too
   Clock::duration interval_;
   bool isListed_ = false;
   Clock::time_point lookedAt_;

@@ -8,6 +8,7 @@ namespace xrpt {
 class NoPictures final : public PictureService {
  public:
   PicturePtr Decode(std::string_view) override { return nullptr; }
+  bool CanDecode() const override { return false; }
 };
 
 }  // namespace xrpt

@@ -15,7 +15,10 @@ constexpr TextRow kEnglish[] = {
 #include "host/texts/en/desktop.inc"
 #include "host/texts/en/cli.inc"
 #include "host/texts/en/commands.inc"
+#include "host/texts/en/formulas.inc"
+#include "host/texts/en/checks.inc"
 #include "host/texts/en/files.inc"
+#include "host/texts/en/dialogs.inc"
 };
 
 constexpr TextRow kSpanish[] = {
@@ -25,7 +28,10 @@ constexpr TextRow kSpanish[] = {
 #include "host/texts/es/desktop.inc"
 #include "host/texts/es/cli.inc"
 #include "host/texts/es/commands.inc"
+#include "host/texts/es/formulas.inc"
+#include "host/texts/es/checks.inc"
 #include "host/texts/es/files.inc"
+#include "host/texts/es/dialogs.inc"
 };
 // clang-format on
 

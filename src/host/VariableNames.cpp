@@ -30,6 +30,11 @@ DriverVariable SplitVariableName(std::wstring_view name) {
   return parts;
 }
 
+FilteredDriverVariable SplitFilteredName(std::wstring_view name) {
+  const DriverVariable parts = SplitVariableName(name);
+  return {parts.device, parts.variable, parts.kind, L"", parts.period, L""};
+}
+
 std::wstring JoinVariableName(const DriverVariable& parts) {
   std::wstring name = parts.device;
   const bool goesBack = parts.kind == kGoBack || (parts.kind.empty() && !parts.period.empty());

@@ -1,5 +1,9 @@
 #include "model/CardList.h"
 
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
+
 namespace xrpt {
 
 std::size_t CardList::IndexOf(std::wstring_view id) const {
@@ -12,6 +16,26 @@ std::size_t CardList::IndexOf(std::wstring_view id) const {
 const RVCardControl* CardList::Find(std::wstring_view id) const {
   const std::size_t index = IndexOf(id);
   return index == kNowhere ? nullptr : cards_[index].get();
+}
+
+std::size_t CardList::IndexOf(CardKey key) const {
+  const auto found =
+      std::find_if(cards_.begin(), cards_.end(), [key](const CardPtr& card) { return card->Key() == key; });
+  return found == cards_.end() ? kNowhere : static_cast<std::size_t>(found - cards_.begin());
+}
+
+std::vector<std::size_t> CardList::IndexesOf(const std::vector<CardKey>& keys) const {
+  if (keys.size() == 1) return {IndexOf(keys.front())};
+  std::unordered_map<CardKey, std::size_t> wanted;
+  for (std::size_t i = 0; i < keys.size(); ++i) wanted.emplace(keys[i], i);
+  std::vector<std::size_t> indexes(keys.size(), kNowhere);
+  for (std::size_t i = 0; i < cards_.size() && !wanted.empty(); ++i) {
+    const auto found = wanted.find(cards_[i]->Key());
+    if (found == wanted.end()) continue;
+    indexes[found->second] = i;
+    wanted.erase(found);
+  }
+  return indexes;
 }
 
 RVCardControl& CardList::Edit(std::size_t index) {
@@ -40,14 +64,24 @@ void CardList::Remove(std::vector<std::size_t> indexes) {
   std::erase(cards_, nullptr);
 }
 
-void CardList::MoveToFront(std::size_t index) {
-  const auto at = cards_.begin() + static_cast<std::ptrdiff_t>(index);
-  std::rotate(cards_.begin(), at, at + 1);
+std::vector<CardPtr> CardList::TakeOut(const std::vector<std::size_t>& indexes) {
+  std::vector<CardPtr> taken;
+  taken.reserve(indexes.size());
+  for (const std::size_t index : indexes) taken.push_back(std::move(cards_[index]));
+  std::erase(cards_, nullptr);
+  return taken;
 }
 
-void CardList::MoveToBack(std::size_t index) {
-  const auto at = cards_.begin() + static_cast<std::ptrdiff_t>(index);
-  std::rotate(at, at + 1, cards_.end());
+void CardList::MoveToFront(const std::vector<std::size_t>& indexes) {
+  std::vector<CardPtr> all = TakeOut(indexes);
+  std::reverse(all.begin(), all.end());
+  all.insert(all.end(), std::make_move_iterator(cards_.begin()), std::make_move_iterator(cards_.end()));
+  cards_ = std::move(all);
+}
+
+void CardList::MoveToBack(const std::vector<std::size_t>& indexes) {
+  std::vector<CardPtr> moved = TakeOut(indexes);
+  cards_.insert(cards_.end(), std::make_move_iterator(moved.begin()), std::make_move_iterator(moved.end()));
 }
 
 std::shared_ptr<const SharedCards::Stretch> CardList::ShareStretch(std::size_t first, const SharedCards& before) const {
@@ -81,7 +115,7 @@ void CardList::Restore(const SharedCards& cards) {
 bool CardList::Equals(const SharedCards& cards) const {
   if (cards.Size() != cards_.size()) return false;
   for (std::size_t i = 0; i < cards_.size(); ++i) {
-    if (cards_[i] != cards[i] && *cards_[i] != *cards[i]) return false;
+    if (cards_[i] != cards[i] && !cards_[i]->HasSameRows(*cards[i])) return false;
   }
   return true;
 }

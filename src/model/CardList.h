@@ -44,6 +44,10 @@ class CardList {
   std::size_t IndexOf(std::wstring_view id) const;
   const RVCardControl* Find(std::wstring_view id) const;
 
+  // The same by what tells cards apart whatever their ids; the places of several in one walk.
+  std::size_t IndexOf(CardKey key) const;
+  std::vector<std::size_t> IndexesOf(const std::vector<CardKey>& keys) const;
+
   // The card to be changed. A reference is good until the next snapshot.
   RVCardControl& Edit(std::size_t index);
   RVCardControl* Edit(std::wstring_view id);
@@ -51,18 +55,20 @@ class CardList {
   RVCardControl& PushFront(std::unique_ptr<RVCardControl> card);
   RVCardControl& PushBack(std::unique_ptr<RVCardControl> card);
   void Remove(std::vector<std::size_t> indexes);
-  void MoveToFront(std::size_t index);
-  void MoveToBack(std::size_t index);
+  // Puts cards before or behind all others, in one pass; the last of them ends outermost.
+  void MoveToFront(const std::vector<std::size_t>& indexes);
+  void MoveToBack(const std::vector<std::size_t>& indexes);
   void Clear() { cards_.clear(); }
 
   // What a snapshot keeps, and the way back.
   // What it has in common with the snapshot before, it shares.
   SharedCards Share(const SharedCards& before = {}) const;
   void Restore(const SharedCards& cards);
-  // Same cards in the same order; those held by both lists are not looked into.
+  // Same cards in the same order, by every row that they have; those held by both lists are not looked into.
   bool Equals(const SharedCards& cards) const;
 
  private:
+  std::vector<CardPtr> TakeOut(const std::vector<std::size_t>& indexes);
   std::shared_ptr<const SharedCards::Stretch> ShareStretch(std::size_t first, const SharedCards& before) const;
 
   std::vector<CardPtr> cards_;

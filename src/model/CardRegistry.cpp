@@ -32,21 +32,32 @@ const std::vector<XmlName>& Tags() {
   return tags;
 }
 
-std::unique_ptr<RVCardControl> NewCard(std::string_view tag, bool RegistryRow::*place) {
+const CardClass* FindCard(std::string_view tag, bool RegistryRow::*place) {
   const XmlName name(tag);
   const std::vector<XmlName>& tags = Tags();
   for (std::size_t i = 0; i < tags.size(); ++i) {
-    if (kRows[i].*place && name.head == tags[i].head && name.text == tags[i].text) return kRows[i].kind().create();
+    if (kRows[i].*place && name.head == tags[i].head && name.text == tags[i].text) return &kRows[i].kind();
   }
   return nullptr;
+}
+
+std::unique_ptr<RVCardControl> NewCard(const CardClass* kind, ModelServices& services) {
+  return kind ? kind->Create(services) : nullptr;
 }
 
 }  // namespace
 
 std::span<const RegistryRow> CardRegistry() { return kRows; }
 
-std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag) { return NewCard(tag, &RegistryRow::onPage); }
+const CardClass* PageCardKind(std::string_view tag) { return FindCard(tag, &RegistryRow::onPage); }
+const CardClass* InnerCardKind(std::string_view tag) { return FindCard(tag, &RegistryRow::inConditioned); }
 
-std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag) { return NewCard(tag, &RegistryRow::inConditioned); }
+std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag, ModelServices& services) {
+  return NewCard(PageCardKind(tag), services);
+}
+
+std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag, ModelServices& services) {
+  return NewCard(InnerCardKind(tag), services);
+}
 
 }  // namespace xrpt

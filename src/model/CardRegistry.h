@@ -17,9 +17,13 @@ struct RegistryRow {
 
 std::span<const RegistryRow> CardRegistry();
 
+// The kind of card an element makes on a page, or inside a conditioned card; null for any other tag.
+const CardClass* PageCardKind(std::string_view tag);
+const CardClass* InnerCardKind(std::string_view tag);
+
 // A new card for an element that stands on a page, or inside a conditioned card; null for any other tag, which the
 // caller skips.
-std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag);
-std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag);
+std::unique_ptr<RVCardControl> NewPageCard(std::string_view tag, ModelServices& services = InstalledServices());
+std::unique_ptr<RVCardControl> NewInnerCard(std::string_view tag, ModelServices& services = InstalledServices());
 
 }  // namespace xrpt

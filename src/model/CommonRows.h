@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
 #include "model/Words.h"
 #include "platform/Fonts.h"
@@ -39,19 +40,19 @@ constexpr auto ScalingRows() {
 }
 
 template <class Owner, auto FontMember>
-constexpr FieldRow FontNameRow() {
+constexpr RowOf<Owner> FontNameRow() {
   return Field<Owner, codec::String, FontMember, &Font::face>(
       "font", "name", "", {text::kFontFace, FieldGroup::Font, FieldEditor::FontFace});
 }
 
 template <class Owner, auto FontMember>
-constexpr FieldRow FontStyleRow() {
+constexpr RowOf<Owner> FontStyleRow() {
   return Field<Owner, FontStyleCodec, FontMember, &Font::style>(
       "font", "style", "", {text::kFontStyle, FieldGroup::Font, FieldEditor::Choice});
 }
 
 template <class Owner, auto FontMember>
-constexpr FieldRow FontSizeRow() {
+constexpr RowOf<Owner> FontSizeRow() {
   return Field<Owner, codec::Decimal, FontMember, &Font::size>(
       "font", "size", "", {text::kFontSize, FieldGroup::Font, FieldEditor::Decimal, 0.5, 500.0});
 }

@@ -1,14 +1,13 @@
 // One row per field. A class states each of its fields once, in a table of rows; reading, writing, comparing, the
 // property panel, editing several cards at once and the name of an undo step all walk the rows. What no row can say
-// stands as an irregular row: plain functions, with a comment that says why.
+// stands as an irregular row: plain functions, with a comment that says why. Rows are made in model/FieldRows.h and
+// walked in model/FieldWalk.h.
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 #include "platform/Text.h"
 #include "platform/Xml.h"
@@ -38,9 +37,7 @@ struct Word {
   int textId = 0;
 };
 
-struct ListTable;
-
-// Objects are passed as pointers to the root of their class tree (`FieldRoot`).
+// What a row says of its field, or of a list of such fields, whatever class it belongs to.
 struct FieldRow {
   const char* group = nullptr;  // element that holds this one and its neighbours of the same group ("font")
   const char* name = nullptr;   // element; null for a field that is not in the file
@@ -50,231 +47,100 @@ struct FieldRow {
   bool counts = true;             // whether equality looks at it
   FieldPanel panel;
   std::span<const Word> words;  // of a Choice
-  // Set where the words of a choice hang on another field of the object.
-  std::span<const Word> (*wordsOf)(const void* object) = nullptr;
-  // The parallel lists that this row reads and writes, an element an item; see model/ListTable.h.
-  const ListTable& (*list)() = nullptr;
-
-  // Null: every object has the field in the file. An object to which it does not apply neither reads nor writes it.
-  bool (*applies)(const void* object) = nullptr;
-  // Null: always written.
-  bool (*isWritten)(const void* object) = nullptr;
-  void (*assign)(void* object, std::string_view text) = nullptr;
-  void (*write)(const void* object, XmlWriter& out, const char* name) = nullptr;
-  std::wstring (*text)(const void* object) = nullptr;
-  bool (*equal)(const void* left, const void* right) = nullptr;
-
-  // An irregular row reads by itself: its own element when it has a name (a handle on nothing when it is missing), else
-  // the whole element of the object. And it writes into the latter.
-  void (*readNode)(void* object, const XmlNode& element) = nullptr;
-  void (*writeNode)(const void* object, XmlWriter& out) = nullptr;
 
   // "font/size", or "x".
   std::string FullName() const;
-  bool Applies(const void* object) const { return !applies || applies(object); }
-  std::span<const Word> WordsFor(const void* object) const { return wordsOf ? wordsOf(object) : words; }
+};
+
+template <class Root>
+struct ListTable;
+
+// A row with its way to the value. `Root` is the class at the root of the object's class tree, which names itself as
+// `FieldRoot`: so all kinds of card have rows of one type.
+template <class Root>
+struct FieldOf : FieldRow {
+  // Set where the words of a choice hang on another field of the object.
+  std::span<const Word> (*wordsOf)(const Root& object) = nullptr;
+  // The parallel lists that this row reads and writes, an element an item; see model/ListTable.h.
+  const ListTable<Root>& (*list)() = nullptr;
+
+  // Null: every object has the field in the file. An object to which it does not apply neither reads nor writes it.
+  bool (*applies)(const Root& object) = nullptr;
+  // Null: always written.
+  bool (*isWritten)(const Root& object) = nullptr;
+  void (*assign)(Root& object, std::string_view text) = nullptr;
+  void (*write)(const Root& object, XmlWriter& out, const char* name) = nullptr;
+  std::wstring (*text)(const Root& object) = nullptr;
+  // As cards are compared: NaN differs from everything.
+  bool (*equal)(const Root& left, const Root& right) = nullptr;
+  // As steps of the history are: to the last bit. Null for a row that has no value.
+  bool (*same)(const Root& left, const Root& right) = nullptr;
+
+  // An irregular row reads by itself: its own element when it has a name (a handle on nothing when it is missing), else
+  // the whole element of the object. And it writes into the latter.
+  void (*readNode)(Root& object, const XmlNode& element) = nullptr;
+  void (*writeNode)(const Root& object, XmlWriter& out) = nullptr;
+
+  bool Applies(const Root& object) const { return !applies || applies(object); }
+  std::span<const Word> WordsFor(const Root& object) const { return wordsOf ? wordsOf(object) : words; }
 };
 
 // The tables of a class and its bases. In the file the base's rows come first, save for a class that says otherwise.
+template <class Root>
 struct FieldTable {
   const FieldTable* base = nullptr;
-  std::span<const FieldRow> rows;
+  std::span<const FieldOf<Root>> rows;
   bool writesOwnFirst = false;
 };
 
-void ReadFields(const FieldTable& table, void* object, const XmlNode& node);
-void WriteFields(const FieldTable& table, const void* object, XmlWriter& out);
-// The same with the rows of the root of the class tree taken from another object.
-void WriteFields(const FieldTable& table, const void* object, const void* rootObject, XmlWriter& out);
-bool EqualFields(const FieldTable& table, const void* left, const void* right);
+// Visits every row, base first.
+template <class Root, class Visit>
+void ForEachField(const FieldTable<Root>& table, const Visit& visit) {
+  if (table.base) ForEachField(*table.base, visit);
+  for (const FieldOf<Root>& row : table.rows) visit(row);
+}
 
-// Own rows only, for what stands between other things.
-void ReadRows(std::span<const FieldRow> rows, void* object, XmlCursor& cursor, const XmlNode& node);
-void WriteRows(std::span<const FieldRow> rows, const void* object, XmlWriter& out);
+// The row of which this is the description; null when the table has no such row.
+template <class Root>
+const FieldOf<Root>* RowOfTable(const FieldTable<Root>& table, const FieldRow& row) {
+  const FieldOf<Root>* found = nullptr;
+  ForEachField(table, [&](const FieldOf<Root>& candidate) {
+    if (&candidate == &row) found = &candidate;
+  });
+  return found;
+}
+
+// Picks a row by the name that people and scripts use.
+class FieldFinder {
+ public:
+  explicit FieldFinder(std::string_view name) : name_(name) {}
+  void Add(const FieldRow& row);
+  const FieldRow* Found() const;
+
+ private:
+  // A row that counts only when it is the only one.
+  struct OneOfSeveral {
+    const FieldRow* first = nullptr;
+    int count = 0;
+    void Add(const FieldRow& row);
+    const FieldRow* Only() const { return count == 1 ? first : nullptr; }
+  };
+
+  std::string_view name_;
+  const FieldRow* whole_ = nullptr;
+  OneOfSeveral bare_;
+  OneOfSeveral grouped_;
+};
 
 // The row of a field by its full name ("font/size"), by its bare name when no other row has it ("size"), or by its
 // group when that holds nothing else ("text"); null otherwise.
-const FieldRow* FindField(const FieldTable& table, std::string_view name);
-
-// Visits every row, base first.
-template <class Visit>
-void ForEachField(const FieldTable& table, const Visit& visit) {
-  if (table.base) ForEachField(*table.base, visit);
-  for (const FieldRow& row : table.rows) visit(row);
-}
-
-namespace detail {
-
-template <class T>
-struct MemberOf;
-template <class C, class T>
-struct MemberOf<T C::*> {
-  using Class = C;
-  using Type = T;
-};
-
-template <auto First, auto...>
-struct Path {
-  using Class = typename MemberOf<decltype(First)>::Class;
-};
-
-template <auto First, auto... Rest>
-auto& Follow(typename Path<First>::Class& object) {
-  if constexpr (sizeof...(Rest) == 0) {
-    return object.*First;
-  } else {
-    return Follow<Rest...>(object.*First);
-  }
-}
-
-// From the type-erased root to the object.
-template <class Owner>
-Owner& As(void* object) {
-  return static_cast<Owner&>(*static_cast<typename Owner::FieldRoot*>(object));
-}
-
-template <class Owner>
-const Owner& As(const void* object) {
-  return static_cast<const Owner&>(*static_cast<const typename Owner::FieldRoot*>(object));
-}
-
-// And to the member that a path of member pointers names.
-template <class Owner, auto... Members>
-auto& Get(void* object) {
-  return Follow<Members...>(As<Owner>(object));
-}
-
-template <class Owner, auto... Members>
-const auto& Get(const void* object) {
-  return Get<Owner, Members...>(const_cast<void*>(object));
-}
-
-}  // namespace detail
-
-// A row for the member that `Members` lead to (`&RVCardLabel::font, &Font::size`), in a class `Owner`.
-// `Codec` turns the member's type into text and back; see model/Codecs.h.
-template <class Owner, class Codec, auto... Members>
-constexpr FieldRow Field(const char* group, const char* name, const char* missing, FieldPanel panel = {}) {
-  FieldRow row;
-  row.group = group;
-  row.groupKey = group;
-  row.name = name;
-  row.key = name;
-  row.missing = missing;
-  row.panel = panel;
-  row.words = Codec::Words();
-  row.assign = [](void* object, std::string_view text) { Codec::Assign(detail::Get<Owner, Members...>(object), text); };
-  row.write = [](const void* object, XmlWriter& out, const char* tag) {
-    Codec::Write(detail::Get<Owner, Members...>(object), out, tag);
-  };
-  row.text = [](const void* object) { return Codec::Text(detail::Get<Owner, Members...>(object)); };
-  row.equal = [](const void* left, const void* right) {
-    return detail::Get<Owner, Members...>(left) == detail::Get<Owner, Members...>(right);
-  };
-  return row;
-}
-
-// When the element is written.
-template <class Owner, auto... Members>
-constexpr FieldRow WhenNotEmpty(FieldRow row) {
-  row.isWritten = [](const void* object) { return !detail::Get<Owner, Members...>(object).empty(); };
-  return row;
-}
-
-template <class Owner, auto Condition>
-constexpr FieldRow When(FieldRow row) {
-  row.isWritten = [](const void* object) { return (detail::As<Owner>(object).*Condition)(); };
-  return row;
-}
-
-// For which objects the field is in the file at all.
-template <class Owner, auto Condition>
-constexpr FieldRow Only(FieldRow row) {
-  row.applies = [](const void* object) { return (detail::As<Owner>(object).*Condition)(); };
-  return row;
-}
-
-// What no codec can say: functions of the class read the row's own element or, for a row without a name, the object's,
-// `void Read(const XmlNode&)`, and write into the latter, `void Write(XmlWriter&) const`.
-template <class Owner, auto Read>
-constexpr FieldRow ReadBy(FieldRow row) {
-  row.readNode = [](void* object, const XmlNode& node) { (detail::As<Owner>(object).*Read)(node); };
-  return row;
-}
-
-template <class Owner, auto Write>
-constexpr FieldRow WriteBy(FieldRow row) {
-  row.writeNode = [](const void* object, XmlWriter& out) { (detail::As<Owner>(object).*Write)(out); };
-  return row;
-}
-
-// A choice whose words hang on another field: `void Assign(std::string_view)`, `const char* Show() const`, and
-// `std::span<const Word> Words() const` for the panel.
-template <class Owner, auto Assign, auto Show, auto Words>
-constexpr FieldRow Through(FieldRow row) {
-  row.assign = [](void* object, std::string_view text) { (detail::As<Owner>(object).*Assign)(text); };
-  row.write = [](const void* object, XmlWriter& out, const char* tag) {
-    out.Plain(tag, (detail::As<Owner>(object).*Show)());
-  };
-  row.text = [](const void* object) { return FromUtf8((detail::As<Owner>(object).*Show)()); };
-  row.wordsOf = [](const void* object) { return (detail::As<Owner>(object).*Words)(); };
-  return row;
-}
-
-// A text field for which the panel offers words.
-constexpr FieldRow Offering(std::span<const Word> words, FieldRow row) {
-  row.words = words;
-  return row;
-}
-
-// Written at this place and read elsewhere, or not at all.
-constexpr FieldRow WrittenOnly(FieldRow row) {
-  row.readNode = [](void*, const XmlNode&) {};
-  return row;
-}
-
-// What every object has in the file and nobody reads.
-constexpr FieldRow Constant(const char* group, void (*write)(const void*, XmlWriter&)) {
-  FieldRow row;
-  row.group = group;
-  row.groupKey = group;
-  row.counts = false;
-  row.writeNode = write;
-  return row;
-}
-
-constexpr FieldRow NotCompared(FieldRow row) {
-  row.counts = false;
-  return row;
-}
-
-// A row for elements that are no single field: a picture, or, without a name, a list of alternatives.
-template <class Owner, auto Read, auto Write>
-constexpr FieldRow Irregular(const char* name = nullptr) {
-  FieldRow row;
-  row.name = name;
-  row.key = name;
-  return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(row)));
-}
-
-// Read after the rows before it, which it completes.
-template <class Owner, auto Read>
-constexpr FieldRow ReadAfter() {
-  return NotCompared(ReadBy<Owner, Read>(FieldRow()));
-}
-
-// Joins arrays of rows into one array.
-template <std::size_t... N>
-constexpr auto JoinRows(const std::array<FieldRow, N>&... parts) {
-  std::array<FieldRow, (N + ...)> all{};
-  auto at = all.begin();
-  ((at = std::copy(parts.begin(), parts.end(), at)), ...);
-  return all;
-}
-
-template <class... Rows>
-constexpr std::array<FieldRow, sizeof...(Rows)> RowsOf(const Rows&... rows) {
-  return {rows...};
+template <class Root>
+const FieldOf<Root>* FindField(const FieldTable<Root>& table, std::string_view name) {
+  FieldFinder finder(name);
+  ForEachField(table, [&finder](const FieldOf<Root>& row) {
+    if (row.name && row.assign) finder.Add(row);
+  });
+  return static_cast<const FieldOf<Root>*>(finder.Found());
 }
 
 }  // namespace xrpt

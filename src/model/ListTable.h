@@ -1,146 +1,138 @@
 // Rows over parallel lists: entry i of each list belongs to item i (a series of a graph, a variable to force). One row
 // a list; reading, writing, removing an item, emptying, comparing and editing all walk the rows. Lists may differ in
-// length: an item that lacks an entry in the file leaves that one list shorter, and writes without it.
+// length: an item that lacks an entry in the file leaves that one list shorter, and writes without it. Rows are made in
+// model/ListRows.h.
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
-#include "model/FieldTable.h"
-#include "platform/Text.h"
+#include "model/FieldWalk.h"
 
 namespace xrpt {
 
-// Objects are passed as pointers to the root of their class tree, as in `FieldRow`.
-struct ListRow {
-  const char* group = nullptr;  // element inside the item's that holds this one and its neighbours of the same group
-  const char* name = nullptr;   // element of an entry
-  XmlName groupKey;             // the two, made ready to be looked for
-  XmlName key;
-  const char* missing = nullptr;  // what a missing element adds; null adds no entry
-  const char* needs = nullptr;    // a group is read only when the item has this element too
-  bool counts = true;             // whether equality looks at the list
-  bool removed = true;            // whether the entry goes with its item
-  FieldPanel panel;
-  std::span<const Word> words;  // of a Choice
-  std::span<const Word> (*wordsOf)(const void* object, std::size_t index) = nullptr;
+// `missing` is what a missing element adds; null adds no entry. A group is the element inside the item's own.
+template <class Root>
+struct ListOf : FieldRow {
+  const char* needs = nullptr;  // a group is read only when the item has this element too
+  bool removed = true;          // whether the entry goes with its item
+  std::span<const Word> (*wordsOf)(const Root& object, std::size_t index) = nullptr;
 
-  std::size_t (*size)(const void* object) = nullptr;
-  void (*append)(void* object, std::string_view text) = nullptr;
-  void (*assign)(void* object, std::size_t index, std::string_view text) = nullptr;
-  void (*write)(const void* object, std::size_t index, XmlWriter& out, const char* name) = nullptr;
-  std::wstring (*text)(const void* object, std::size_t index) = nullptr;
-  void (*erase)(void* object, std::size_t index) = nullptr;
-  void (*clear)(void* object) = nullptr;
-  bool (*equal)(const void* left, const void* right) = nullptr;
+  std::size_t (*size)(const Root& object) = nullptr;
+  void (*append)(Root& object, std::string_view text) = nullptr;
+  void (*assign)(Root& object, std::size_t index, std::string_view text) = nullptr;
+  void (*write)(const Root& object, std::size_t index, XmlWriter& out, const char* name) = nullptr;
+  std::wstring (*text)(const Root& object, std::size_t index) = nullptr;
+  void (*erase)(Root& object, std::size_t index) = nullptr;
+  void (*clear)(Root& object) = nullptr;
+  bool (*equal)(const Root& left, const Root& right) = nullptr;  // as in a field's row
+  bool (*same)(const Root& left, const Root& right) = nullptr;
 
-  bool Has(const void* object, std::size_t index) const { return index < size(object); }
-  std::span<const Word> WordsFor(const void* object, std::size_t index) const {
+  bool Has(const Root& object, std::size_t index) const { return index < size(object); }
+  std::span<const Word> WordsFor(const Root& object, std::size_t index) const {
     return wordsOf ? wordsOf(object, index) : words;
   }
 };
 
 // The first row's list decides how many items there are.
+template <class Root>
 struct ListTable {
-  const char* element;  // one an item
-  std::span<const ListRow> rows;
+  using Object = Root;
 
-  std::size_t Size(const void* object) const { return rows.front().size(object); }
+  const char* element;  // one an item
+  std::span<const ListOf<Root>> rows;
+
+  std::size_t Size(const Root& object) const { return rows.front().size(object); }
 };
 
-// Adds the entries that one element holds.
-void AppendItem(const ListTable& table, void* object, const XmlNode& element);
+namespace detail {
+
+template <class Root>
+void ReadEntry(const ListOf<Root>& row, Root& object, XmlCursor& cursor) {
+  const XmlNode element = cursor.Find(row.key);
+  std::string joined;
+  if (element) {
+    row.append(object, element.WholeText(joined));
+  } else if (row.missing) {
+    row.append(object, row.missing);
+  }
+}
+
+template <class Root>
+void WriteEntries(std::span<const ListOf<Root>> rows, const Root& object, std::size_t index, XmlWriter& out) {
+  const auto has = [&](const ListOf<Root>& row) { return row.Has(object, index); };
+  if (std::none_of(rows.begin(), rows.end(), has)) return;
+  const bool grouped = rows.front().group != nullptr;
+  if (grouped) out.Start(rows.front().group);
+  for (const ListOf<Root>& row : rows) {
+    if (has(row)) row.write(object, index, out, row.name);
+  }
+  if (grouped) out.End(rows.front().group);
+}
+
+}  // namespace detail
+
+// Adds the entries that one element holds. Those of a missing group read as missing ones do: there is nothing to leave
+// alone yet.
+template <class Root>
+void AppendItem(const ListTable<Root>& table, std::type_identity_t<Root>& object, const XmlNode& element) {
+  XmlCursor cursor(element);
+  ForEachGroup(table.rows, [&](std::span<const ListOf<Root>> group) {
+    const ListOf<Root>& first = group.front();
+    if (first.needs && !element.Node(first.needs)) return;
+    if (!first.group) return detail::ReadEntry(first, object, cursor);
+    XmlCursor inside(cursor.Find(first.groupKey));
+    for (const ListOf<Root>& row : group) detail::ReadEntry(row, object, inside);
+  });
+}
+
 // Adds those of every such element, in document order; what the lists hold stays.
-void ReadItems(const ListTable& table, void* object, const XmlNode& node);
-void WriteItems(const ListTable& table, const void* object, XmlWriter& out);
+template <class Root>
+void ReadItems(const ListTable<Root>& table, std::type_identity_t<Root>& object, const XmlNode& node) {
+  for (const XmlNode& element : node) {
+    if (element.Tag() == table.element) AppendItem(table, object, element);
+  }
+}
+
+template <class Root>
+void WriteItems(const ListTable<Root>& table, const std::type_identity_t<Root>& object, XmlWriter& out) {
+  const std::size_t count = table.Size(object);
+  for (std::size_t index = 0; index < count; ++index) {
+    const XmlElement element(out, table.element);
+    ForEachGroup(table.rows,
+                 [&](std::span<const ListOf<Root>> group) { detail::WriteEntries(group, object, index, out); });
+  }
+}
+
 // False for an index that names no item.
-bool RemoveItem(const ListTable& table, void* object, std::int32_t index);
-void ClearItems(const ListTable& table, void* object);
-bool EqualItems(const ListTable& table, const void* left, const void* right);
-
-// A row for the list that `Members` lead to.
-template <class Owner, class Codec, auto... Members>
-constexpr ListRow List(const char* group, const char* name, const char* missing, FieldPanel panel = {}) {
-  using Entries = std::decay_t<decltype(detail::Get<Owner, Members...>(static_cast<void*>(nullptr)))>;
-  using Entry = typename Entries::value_type;
-  ListRow row;
-  row.group = group;
-  row.groupKey = group;
-  row.name = name;
-  row.key = name;
-  row.missing = missing;
-  row.panel = panel;
-  row.words = Codec::Words();
-  row.size = [](const void* object) { return detail::Get<Owner, Members...>(object).size(); };
-  row.append = [](void* object, std::string_view text) {
-    Entry entry{};
-    Codec::Assign(entry, text);
-    detail::Get<Owner, Members...>(object).push_back(std::move(entry));
-  };
-  row.assign = [](void* object, std::size_t index, std::string_view text) {
-    Entry entry = detail::Get<Owner, Members...>(object)[index];
-    Codec::Assign(entry, text);
-    detail::Get<Owner, Members...>(object)[index] = std::move(entry);
-  };
-  row.write = [](const void* object, std::size_t index, XmlWriter& out, const char* tag) {
-    const Entry& entry = detail::Get<Owner, Members...>(object)[index];
-    Codec::Write(entry, out, tag);
-  };
-  row.text = [](const void* object, std::size_t index) {
-    const Entry& entry = detail::Get<Owner, Members...>(object)[index];
-    return Codec::Text(entry);
-  };
-  row.erase = [](void* object, std::size_t index) {
-    auto& entries = detail::Get<Owner, Members...>(object);
-    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(index));
-  };
-  row.clear = [](void* object) { detail::Get<Owner, Members...>(object).clear(); };
-  row.equal = [](const void* left, const void* right) {
-    return detail::Get<Owner, Members...>(left) == detail::Get<Owner, Members...>(right);
-  };
-  return row;
+template <class Root>
+bool RemoveItem(const ListTable<Root>& table, std::type_identity_t<Root>& object, std::int32_t index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= table.Size(object)) return false;
+  const auto at = static_cast<std::size_t>(index);
+  for (const ListOf<Root>& row : table.rows) {
+    if (row.removed && row.Has(object, at)) row.erase(object, at);
+  }
+  return true;
 }
 
-// Entries whose word hangs on another list: `const char* Show(std::size_t) const` gives the word to write, null for
-// none, and `std::span<const Word> Words(std::size_t) const` what a panel offers.
-template <class Owner, auto Show, auto Words>
-constexpr ListRow ShownBy(ListRow row) {
-  row.wordsOf = [](const void* object, std::size_t index) { return (detail::As<Owner>(object).*Words)(index); };
-  row.write = [](const void* object, std::size_t index, XmlWriter& out, const char* tag) {
-    if (const char* word = (detail::As<Owner>(object).*Show)(index)) out.Plain(tag, word);
-  };
-  row.text = [](const void* object, std::size_t index) {
-    const char* word = (detail::As<Owner>(object).*Show)(index);
-    return word ? FromUtf8(word) : std::wstring();
-  };
-  return row;
+template <class Root>
+void ClearItems(const ListTable<Root>& table, std::type_identity_t<Root>& object) {
+  for (const ListOf<Root>& row : table.rows) row.clear(object);
 }
 
-constexpr ListRow NotCompared(ListRow row) {
-  row.counts = false;
-  return row;
+// The lists that count.
+template <class Root>
+bool EqualItems(const ListTable<Root>& table, const std::type_identity_t<Root>& left,
+                const std::type_identity_t<Root>& right) {
+  const auto equal = [&](const ListOf<Root>& row) { return !row.counts || row.equal(left, right); };
+  return std::all_of(table.rows.begin(), table.rows.end(), equal);
 }
 
-// Its entries stay where they are when an item is removed, and so shift against the other lists.
-constexpr ListRow NotRemoved(ListRow row) {
-  row.removed = false;
-  return row;
-}
-
-constexpr ListRow Needs(const char* name, ListRow row) {
-  row.needs = name;
-  return row;
-}
-
-// The field row that stands for all the items of an object. `Table` gives their table.
-template <auto Table>
-constexpr FieldRow Items() {
-  FieldRow row;
-  row.list = Table;
-  row.readNode = [](void* object, const XmlNode& node) { ReadItems(Table(), object, node); };
-  row.writeNode = [](const void* object, XmlWriter& out) { WriteItems(Table(), object, out); };
-  row.equal = [](const void* left, const void* right) { return EqualItems(Table(), left, right); };
-  return row;
+// All of them.
+template <class Root>
+bool SameItems(const ListTable<Root>& table, const std::type_identity_t<Root>& left,
+               const std::type_identity_t<Root>& right) {
+  const auto same = [&](const ListOf<Root>& row) { return row.same(left, right); };
+  return std::all_of(table.rows.begin(), table.rows.end(), same);
 }
 
 }  // namespace xrpt

@@ -8,19 +8,19 @@ using Bar = RVAnalogBar;
 constexpr FieldPanel ScalePanel(int textId) { return {textId, FieldGroup::Scale, FieldEditor::Text}; }
 
 template <auto Member>
-constexpr FieldRow ScaleEnd(const char* name, int textId) {
+constexpr CardRow ScaleEnd(const char* name, int textId) {
   return WhenNotEmpty<Bar, Member>(Field<Bar, codec::String, Member>(nullptr, name, nullptr, ScalePanel(textId)));
 }
 
 }  // namespace
 
-std::span<const FieldRow> RVAnalogBar::Rows() {
+std::span<const CardRow> RVAnalogBar::Rows() {
   using codec::kNone;
   using KindCodec = codec::OneOf<kVariableKindWords, kNone, kNone>;
   // A missing or unknown word deliberately reads as MAX.
   using BandsCodec = codec::OneOf<kBarBandsWords, static_cast<int>(BarBands::Max), kNone>;
   using OrientationCodec = codec::OneOf<kBarOrientationWords, kNone, 0>;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Bar, KindCodec, &Bar::typeVar>(nullptr, "typeVar", nullptr,
                                            {text::kVariableKind, FieldGroup::Content, FieldEditor::Choice}),
       Field<Bar, BandsCodec, &Bar::type>(nullptr, "type", "", {text::kBands, FieldGroup::Scale, FieldEditor::Choice}),

@@ -20,6 +20,8 @@ inline constexpr Word kVerticalBarPositionWords[] = {{"LEFT", 0, 60100}, {"RIGHT
 
 class RVAnalogBar : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVAnalogBar>(*this); }
@@ -43,7 +45,7 @@ class RVAnalogBar : public RVCardControl {
   bool showAnnotation = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void AssignPosition(std::string_view text);
   const char* PositionText() const;
   std::span<const Word> PositionWords() const;

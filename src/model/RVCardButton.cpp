@@ -1,12 +1,11 @@
 #include "model/RVCardButton.h"
 
 #include "model/StyleReference.h"
-#include "platform/Host.h"
+#include "platform/SystemNames.h"
 
 namespace xrpt {
 namespace {
 
-constexpr int kCaptionTextId = 32426;
 constexpr double kFontSize = 20.0;
 
 bool SameRow(const Picture& left, const Picture& right, int row) {
@@ -15,15 +14,16 @@ bool SameRow(const Picture& left, const Picture& right, int row) {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardButton::Rows() {
+std::span<const CardRow> RVCardButton::Rows() {
   using Button = RVCardButton;
   using VisualizationCodec = codec::OneOf<kVisualizationWords, codec::kNone, codec::kNone>;
   constexpr auto aligned = AlignmentRows<Button, &Button::horizontalAlign, &Button::verticalAlign>();
   constexpr auto scaled = ScalingRows<Button, &Button::maintainAspectRatio, &Button::maintainRealSize>();
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Button, VisualizationCodec, &Button::visualization>(
           nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
-      Only<Button, &Button::IsButton>(Constant(nullptr, [](const void*, XmlWriter& out) { out.Bool("button", true); })),
+      Only<Button, &Button::IsButton>(
+          Constant<Button>(nullptr, [](const RVCardControl&, XmlWriter& out) { out.Bool("button", true); })),
       // A missing caption reads as none, not as a new button's.
       Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadText>(
           WriteBy<Button, &Button::WriteText>(Field<Button, codec::String, &Button::text>(
@@ -44,7 +44,8 @@ std::span<const FieldRow> RVCardButton::Rows() {
       Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(
           NotCompared(Field<Button, codec::String, &Button::imagePath, &NotCopied<std::wstring>::value>(
               "image", "imagePath", "", {text::kImagePath, FieldGroup::Content, FieldEditor::Text})))),
-      Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>()),
+      ComparedBy<Button, &Button::EqualPicture, &Button::SamePicture>(
+          Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>())),
       Only<Button, &Button::IsAligned>(aligned[0]),
       Only<Button, &Button::IsAligned>(aligned[1]),
       Only<Button, &Button::IsImage>(scaled[0]),
@@ -58,9 +59,14 @@ const CardClass& RVCardButton::Class() {
   return kind;
 }
 
-RVCardButton::RVCardButton() : text(HostText(kCaptionTextId)) { font.size = kFontSize; }
+RVCardButton::RVCardButton(ModelServices& services)
+    : RVCardControl(services), text(services.texts->Text(kNewCaptionText)) {
+  font.size = kFontSize;
+}
 
-bool RVCardButton::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
+bool RVCardButton::GetStyleFromFile(const std::wstring& name) {
+  return TakeStyle(*Services().styles, name, font, fontColor);
+}
 
 void RVCardButton::ReadText(const XmlNode& element) { text = element.Value("textStr"); }
 
@@ -71,17 +77,17 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(reference, styleName, parent)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
-void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
 
 void RVCardButton::ReadImage(const XmlNode& node) {
   if (node.Node("image")) LoadImage();
 }
 
 void RVCardButton::LoadImage() {
-  ImageRecordPtr record = CurrentHost().pictureStore.Attach(imageId, imagePath.value);
+  ImageRecordPtr record = Services().pictureStore.Attach(imageId, imagePath.value);
   if (record->Current()) image_ = std::move(record);
 }
 
@@ -89,9 +95,8 @@ void RVCardButton::TakePlaceOf(const RVCardControl& source) {
   imagePath.value = static_cast<const RVCardButton&>(source).imagePath.value;
 }
 
-bool RVCardButton::isEqual(const RVCardControl& other) const {
-  return RVCardControl::isEqual(other) &&
-         EqualSampled(GetPicture(), static_cast<const RVCardButton&>(other).GetPicture());
+bool RVCardButton::EqualPicture(const RVCardButton& other) const {
+  return EqualSampled(GetPicture(), other.GetPicture());
 }
 
 bool EqualSampled(const PicturePtr& left, const PicturePtr& right) {

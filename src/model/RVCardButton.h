@@ -23,12 +23,11 @@ struct NotCopied {
 
 class RVCardButton : public RVCardControl {
  public:
-  RVCardButton();
+  explicit RVCardButton(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardButton>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
   void TakePlaceOf(const RVCardControl& source) override;
 
   bool GetStyleFromFile(const std::wstring& name) override;
@@ -60,7 +59,7 @@ class RVCardButton : public RVCardControl {
   double orientation = 0.0;  // degrees, of a text
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   bool HasTextPart() const { return IsButton() || IsText(); }
   bool IsAligned() const { return IsImage() || IsText(); }
   bool HasImageId() const { return !imageId.empty(); }
@@ -69,6 +68,8 @@ class RVCardButton : public RVCardControl {
   void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
   void ReadImage(const XmlNode& node);
+  bool EqualPicture(const RVCardButton& other) const;
+  bool SamePicture(const RVCardButton& other) const { return image_ == other.image_; }
 
   ImageRecordPtr image_;
 };

@@ -2,6 +2,7 @@
 
 #include "model/CardRegistry.h"
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
 
 namespace xrpt {
@@ -11,14 +12,26 @@ using CardPointer = std::unique_ptr<RVCardControl>;
 
 CardPointer CloneOf(const CardPointer& card) { return card ? card->GetClone() : nullptr; }
 
-bool Same(const CardPointer& left, const CardPointer& right) { return left && right ? *left == *right : left == right; }
+bool Equal(const CardPointer& left, const CardPointer& right) {
+  return left && right ? *left == *right : left == right;
+}
+
+bool Same(const CardPointer& left, const CardPointer& right) {
+  return left && right ? left->HasSameRows(*right) : left == right;
+}
+
+template <class Compare>
+bool SameAll(const std::vector<CardPointer>& left, const std::vector<CardPointer>& right, const Compare& compare) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(), compare);
+}
 
 }  // namespace
 
-std::span<const FieldRow> RVCardConditioned::Rows() {
+std::span<const CardRow> RVCardConditioned::Rows() {
   using Conditioned = RVCardConditioned;
-  static constexpr FieldRow kRows[] = {
-      Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>(),
+  static constexpr CardRow kRows[] = {
+      ComparedBy<Conditioned, &Conditioned::EqualControls, &Conditioned::SameControls>(
+          Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>()),
       Field<Conditioned, codec::Integer, &Conditioned::current>(nullptr, nullptr, nullptr),
   };
   return kRows;
@@ -48,17 +61,26 @@ void RVCardConditioned::TakeAlternatives(const RVCardConditioned& other) {
   auxiliary = CloneOf(other.auxiliary);
 }
 
-bool RVCardConditioned::isEqual(const RVCardControl& other) const {
-  if (!RVCardControl::isEqual(other)) return false;
-  const auto& right = static_cast<const RVCardConditioned&>(other);
-  return conditions == right.conditions && Same(auxiliary, right.auxiliary) &&
-         std::equal(cards.begin(), cards.end(), right.cards.begin(), right.cards.end(), Same);
+bool RVCardConditioned::EqualControls(const RVCardConditioned& other) const {
+  return conditions == other.conditions && Equal(auxiliary, other.auxiliary) && SameAll(cards, other.cards, Equal);
+}
+
+bool RVCardConditioned::SameControls(const RVCardConditioned& other) const {
+  return conditions == other.conditions && Same(auxiliary, other.auxiliary) && SameAll(cards, other.cards, Same);
 }
 
 void RVCardConditioned::TakePlaceOf(const RVCardControl& source) {
   const auto& former = static_cast<const RVCardConditioned&>(source);
   for (std::size_t i = 0; i < cards.size(); ++i) {
     if (cards[i] && former.cards[i]) cards[i]->TakePlaceOf(*former.cards[i]);
+  }
+}
+
+// The cards inside are cards of their own too.
+void RVCardConditioned::RenewIds() {
+  RVCardControl::RenewIds();
+  for (const CardPointer& card : cards) {
+    if (card) card->RenewIds();
   }
 }
 
@@ -108,7 +130,7 @@ void RVCardConditioned::ReadControl(const XmlNode& control) {
   for (const XmlNode& child : control) {
     if (child.Tag() == "condition") {
       conditions.push_back(child.Value());
-    } else if (CardPointer card = NewInnerCard(child.Tag())) {
+    } else if (CardPointer card = NewInnerCard(child.Tag(), Services())) {
       card->SetParent(parent);
       card->GetFromXml(child);
       cards.push_back(std::move(card));

@@ -10,6 +10,7 @@ namespace xrpt {
 
 class RVCardConditioned : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
   RVCardConditioned() = default;
   // Inner cards are cloned, never shared.
   RVCardConditioned(const RVCardConditioned& other);
@@ -18,11 +19,11 @@ class RVCardConditioned : public RVCardControl {
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardConditioned>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
   void TakePlaceOf(const RVCardControl& source) override;
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
   void SetParent(RVReportPage* page) override;
+  void RenewIds() override;
   bool UpdateStyleFromFile() override;
 
   // Nothing is shown.
@@ -42,10 +43,12 @@ class RVCardConditioned : public RVCardControl {
   std::unique_ptr<RVCardControl> auxiliary;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadControls(const XmlNode& node);
   void ReadControl(const XmlNode& control);
   void WriteControls(XmlWriter& out) const;
+  bool EqualControls(const RVCardConditioned& other) const;
+  bool SameControls(const RVCardConditioned& other) const;
   void TakeAlternatives(const RVCardConditioned& other);
 };
 

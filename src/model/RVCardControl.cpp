@@ -1,10 +1,12 @@
 #include "model/RVCardControl.h"
 
+#include <atomic>
 #include <stdexcept>
 
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
-#include "platform/Host.h"
+#include "model/FieldWalk.h"
 
 namespace xrpt {
 
@@ -19,7 +21,7 @@ constexpr FieldPanel Millimetres(int textId, double minimum) {
 using Card = RVCardControl;
 
 // A file's card without "id" deliberately gets an empty one, not a fresh GUID, so that it is written back without.
-const FieldRow RVCardControl::kRows[] = {
+const CardRow RVCardControl::kRows[] = {
     WhenNotEmpty<Card, &Card::id>(Field<Card, codec::String, &Card::id>(nullptr, "id", "")),
     Field<Card, codec::Decimal, &Card::x>(nullptr, "x", nullptr, Millimetres(text::kX, -10000.0)),
     Field<Card, codec::Decimal, &Card::y>(nullptr, "y", nullptr, Millimetres(text::kY, -10000.0)),
@@ -39,7 +41,7 @@ bool CardClass::IsKindOf(const CardClass& other) const {
   return kind != nullptr;
 }
 
-RVCardControl::RVCardControl() { InitializeId(); }
+RVCardControl::RVCardControl(ModelServices& services) : services_(&services) { InitializeId(); }
 
 const CardClass& RVCardControl::Class() {
   static const CardClass kind{nullptr, 0, {nullptr, kRows}, nullptr, nullptr};
@@ -51,17 +53,22 @@ bool RVCardControl::operator==(const RVCardControl& other) const {
 }
 
 bool RVCardControl::isEqual(const RVCardControl& other) const {
-  return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, this, &other) && EqualFlags(other);
+  return other.IsKindOf(GetRuntimeClass()) && EqualFields(GetRuntimeClass().table, *this, other) && EqualFlags(other);
+}
+
+bool RVCardControl::HasSameRows(const RVCardControl& other) const {
+  const CardClass& kind = GetRuntimeClass();
+  return &kind == &other.GetRuntimeClass() && SameFields(kind.table, *this, other) && EqualFlags(other);
 }
 
 bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
   const CardClass& kind = GetRuntimeClass();
   if (!makeOwnElement || !kind.tag) {
-    WriteFields(kind.table, this, *node);
+    WriteFields(kind.table, *this, *node);
     return true;
   }
   const XmlElement element(*node, kind.tag);
-  WriteFields(kind.table, this, *node);
+  WriteFields(kind.table, *this, *node);
   return true;
 }
 
@@ -74,11 +81,11 @@ void RVCardControl::SaveInside(const RVCardControl& container, XmlWriter* node) 
   common.height = container.height;
   const CardClass& kind = GetRuntimeClass();
   const XmlElement element(*node, kind.tag ? kind.tag : "card");
-  WriteFields(kind.table, this, &common, *node);
+  WriteFields(kind.table, *this, common, *node);
 }
 
 bool RVCardControl::GetFromXml(const XmlNode& node) {
-  ReadFields(GetRuntimeClass().table, this, node);
+  ReadFields(GetRuntimeClass().table, *this, node);
   return true;
 }
 
@@ -102,7 +109,16 @@ bool RVCardControl::SetFlags(const Flags& set) {
   return true;
 }
 
-void RVCardControl::InitializeId() { id = CurrentHost().guids->NewGuidText(); }
+void RVCardControl::InitializeId() {
+  id = services_->guids->NewGuidText();
+  key_ = NextKey();
+}
+
+// Reports may be read on other threads.
+CardKey RVCardControl::NextKey() {
+  static std::atomic<CardKey> last = 0;
+  return ++last;
+}
 
 RVReportPage* RVCardControl::GetParent() const {
   if (!parent) throw std::logic_error("a card must be given its page before anything asks for it");

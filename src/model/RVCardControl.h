@@ -3,11 +3,13 @@
 #pragma once
 
 #include <bitset>
+#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "model/FieldTable.h"
 #include "platform/Color.h"
+#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -16,22 +18,35 @@ class RVCardControl;
 class RVReportPage;
 struct tagDraw;
 
+// The rows of all kinds of card.
+using CardRow = FieldOf<RVCardControl>;
+using CardTable = FieldTable<RVCardControl>;
+
 // What the system knows of a kind of card, stated once by its class.
 struct CardClass {
-  const char* tag;   // its element; null for a kind that has none of its own
-  int textId;        // its name for people
-  FieldTable table;  // its own rows; `base` leads to the kind it derives from
+  const char* tag;  // its element; null for a kind that has none of its own
+  int textId;       // its name for people
+  CardTable table;  // its own rows; `base` leads to the kind it derives from
   const CardClass* base;
-  std::unique_ptr<RVCardControl> (*create)();
+  std::unique_ptr<RVCardControl> (*make)(ModelServices& services);  // null for the plain card
+
+  // A new card of the kind.
+  std::unique_ptr<RVCardControl> Create(ModelServices& services = InstalledServices()) const { return make(services); }
 
   bool IsKindOf(const CardClass& other) const;
 };
 
 // The description of a kind that adds rows to those of its base.
 template <class Card>
-CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const FieldRow> rows) {
-  return {tag, textId, {&base.table, rows}, &base, [] { return std::unique_ptr<RVCardControl>(new Card()); }};
+CardClass DeriveCard(const char* tag, int textId, const CardClass& base, std::span<const CardRow> rows) {
+  return {tag, textId, {&base.table, rows}, &base, [](ModelServices& services) {
+            return std::unique_ptr<RVCardControl>(new Card(services));
+          }};
 }
+
+// Tells cards apart while the program runs, whatever ids a file gave them: two may share one or have none. A clone is
+// the same card.
+using CardKey = std::uint64_t;
 
 class RVCardControl {
  public:
@@ -39,7 +54,8 @@ class RVCardControl {
   static constexpr int kFlagCount = 34;
   using Flags = std::bitset<kFlagCount>;
 
-  RVCardControl();
+  // The services are the card's, and its copies', for life.
+  explicit RVCardControl(ModelServices& services = InstalledServices());
   virtual ~RVCardControl() = default;
 
   static const CardClass& Class();
@@ -52,6 +68,10 @@ class RVCardControl {
   // The fields that count, base's first; NaN differs from everything. A card of a kind that does not derive from this
   // one's is never equal.
   virtual bool isEqual(const RVCardControl& other) const;
+
+  // Same kind and the same in every row, also in those that equality passes over, to the last bit: what the history
+  // asks. Cards that read the same from a file may still differ here, by what a save rounds.
+  bool HasSameRows(const RVCardControl& other) const;
 
   // Writes the card into the element that is open; with its own element when asked, else its values alone. True.
   virtual bool SaveTemplate(XmlWriter* node, bool makeOwnElement) const;
@@ -84,6 +104,11 @@ class RVCardControl {
 
   // A fresh identity.
   void InitializeId();
+  CardKey Key() const { return key_; }
+  // The same for the card and the cards it holds, when it becomes a card of its own.
+  virtual void RenewIds() { InitializeId(); }
+
+  ModelServices& Services() const { return *services_; }
 
   virtual void SetParent(RVReportPage* page) { parent = page; }
   // The page the card stands on. Asking a card that was never given one is a programming error and throws.
@@ -106,9 +131,14 @@ class RVCardControl {
   RVReportPage* parent = nullptr;
 
  private:
-  static const FieldRow kRows[];
+  ModelServices* services_;
+
+  static const CardRow kRows[];
   bool HasBackColor() const { return backcolor != kNoColor; }
+  static CardKey NextKey();
   bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }
+
+  CardKey key_ = NextKey();
 };
 
 }  // namespace xrpt

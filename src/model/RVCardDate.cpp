@@ -3,7 +3,6 @@
 #include <ctime>
 
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
 #include "platform/Host.h"
 
 namespace xrpt {
@@ -18,9 +17,9 @@ std::tm Now() {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardDate::Rows() {
+std::span<const CardRow> RVCardDate::Rows() {
   using Date = RVCardDate;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       Field<Date, codec::String, &Date::pattern>(nullptr, "pattern", nullptr,
                                                  {text::kPattern, FieldGroup::Format, FieldEditor::Text}),
       WhenNotEmpty<Date, &Date::value>(Field<Date, codec::String, &Date::value>(
@@ -34,12 +33,13 @@ const CardClass& RVCardDate::Class() {
   return kind;
 }
 
-RVCardDate::RVCardDate() { value = CurrentHost().locale->DateTimeText(Now()); }
+RVCardDate::RVCardDate(ModelServices& services) : RVCardLabel(services), value(services.locale->DateTimeText(Now())) {}
 
 std::wstring RVCardDate::ShownText() const {
-  const LocaleService& locale = *CurrentHost().locale;
-  const auto moment = ReadMoment(value, locale);
-  return ParseDate(pattern, moment ? *moment : Now(), locale);
+  const ModelServices& services = Services();
+  RVDateTime moment{};
+  if (!services.dates->String2DateTime(value, moment)) moment = Now();
+  return ParseDate(pattern, moment, *services.locale);
 }
 
 }  // namespace xrpt

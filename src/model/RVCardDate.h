@@ -7,7 +7,7 @@ namespace xrpt {
 
 class RVCardDate : public RVCardLabel {
  public:
-  RVCardDate();
+  explicit RVCardDate(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
@@ -20,7 +20,7 @@ class RVCardDate : public RVCardLabel {
   std::wstring value;  // sample shown while editing: the moment the card was made, as the user writes dates
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
 };
 
 }  // namespace xrpt

@@ -1,7 +1,6 @@
 #include "model/RVCardDynamicImage.h"
 
 #include "platform/Base64.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -39,7 +38,7 @@ PicturePtr DrawPlaceholder() {
 
 }  // namespace
 
-std::span<const FieldRow> RVCardDynamicImage::Rows() {
+std::span<const CardRow> RVCardDynamicImage::Rows() {
   using Image = RVCardDynamicImage;
   static constexpr auto kRows =
       JoinRows(RowsOf(ReadBy<Image, &Image::ReadVariable>(
@@ -56,7 +55,7 @@ const CardClass& RVCardDynamicImage::Class() {
   return kind;
 }
 
-RVCardDynamicImage::RVCardDynamicImage() { color = 0xC0C0C0; }
+RVCardDynamicImage::RVCardDynamicImage(ModelServices& services) : RVCardControl(services) { color = 0xC0C0C0; }
 
 const PicturePtr& RVCardDynamicImage::Placeholder() {
   static const PicturePtr picture = DrawPlaceholder();
@@ -64,13 +63,13 @@ const PicturePtr& RVCardDynamicImage::Placeholder() {
 }
 
 void RVCardDynamicImage::ReadVariable(const XmlNode& element) {
-  const VariableNaming& naming = *CurrentHost().variables;
+  const VariableNaming& naming = *Services().variables;
   const DriverVariable parts = naming.SplitDriverVariable(element.Value("id"));
   variable = naming.JoinDriverVariable({parts.device, parts.variable, {}, {}});
 }
 
 void RVCardDynamicImage::WriteVariable(XmlWriter& out) const {
-  const VariableNaming& naming = *CurrentHost().variables;
+  const VariableNaming& naming = *Services().variables;
   DriverVariable parts = naming.SplitDriverVariable(variable);
   parts.kind = kImageKind;
   parts.period.clear();
@@ -84,7 +83,7 @@ int RVCardDynamicImage::refreshImage(const XmlNode& node) {
   const std::string_view encoded = node.Node("image64").WholeText(joined);
   if (encoded.empty()) return 0;
   const std::optional<std::string> bytes = DecodeBase64(encoded);
-  if (bytes) picture_ = CurrentHost().pictures->Decode(*bytes);
+  if (bytes) picture_ = Services().pictures->Decode(*bytes);
   return picture_ ? 0 : 1;
 }
 

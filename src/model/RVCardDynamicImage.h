@@ -10,7 +10,7 @@ namespace xrpt {
 
 class RVCardDynamicImage : public RVCardControl {
  public:
-  RVCardDynamicImage();
+  explicit RVCardDynamicImage(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
@@ -33,7 +33,7 @@ class RVCardDynamicImage : public RVCardControl {
   std::wstring variable;  // DEVICE.VARIABLE; the file adds the kind IMG
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadVariable(const XmlNode& element);
   void WriteVariable(XmlWriter& out) const;
 

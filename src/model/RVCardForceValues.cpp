@@ -1,5 +1,7 @@
 #include "model/RVCardForceValues.h"
 
+#include "model/ListRows.h"
+
 namespace xrpt {
 namespace {
 
@@ -28,8 +30,8 @@ constexpr FieldPanel VariablePanel(int textId, FieldEditor editor) { return {tex
 
 }  // namespace
 
-const ListTable& RVCardForceValues::Variables() {
-  static constexpr ListRow kRows[] = {
+const ListTable<RVCardControl>& RVCardForceValues::Variables() {
+  static constexpr ListOf<RVCardControl> kRows[] = {
       List<Force, BracketedCodec, &Force::variables>(nullptr, "id", "",
                                                      VariablePanel(text::kVariable, FieldEditor::Variable)),
       List<Force, codec::String, &Force::values>(nullptr, "value", "",
@@ -38,12 +40,12 @@ const ListTable& RVCardForceValues::Variables() {
       List<Force, codec::Integer, &Force::decimals>(nullptr, "decimals", "",
                                                     VariablePanel(text::kDecimals, FieldEditor::Integer)),
   };
-  static constexpr ListTable kTable{"variable", kRows};
+  static constexpr ListTable<RVCardControl> kTable{"variable", kRows};
   return kTable;
 }
 
-std::span<const FieldRow> RVCardForceValues::Rows() {
-  static constexpr FieldRow kRows[] = {
+std::span<const CardRow> RVCardForceValues::Rows() {
+  static constexpr CardRow kRows[] = {
       ReadBy<Force, &Force::ReadVariables>(Items<&Force::Variables>()),
       Field<Force, codec::Integer, &Force::current>(nullptr, nullptr, nullptr),
   };
@@ -61,22 +63,22 @@ const CardClass& RVCardForceValues::Class() {
 }
 
 bool RVCardForceValues::DeleteVariable(std::int32_t index) {
-  if (!RemoveItem(Variables(), static_cast<FieldRoot*>(this), index)) return false;
+  if (!RemoveItem(Variables(), *this, index)) return false;
   current = std::min(index, static_cast<std::int32_t>(variables.size()) - 1);
   return true;
 }
 
 void RVCardForceValues::Clear() {
-  ClearItems(Variables(), static_cast<FieldRoot*>(this));
+  ClearItems(Variables(), *this);
   current = -1;
 }
 
 // A variable without an id is skipped.
 void RVCardForceValues::ReadVariables(const XmlNode& node) {
-  ClearItems(Variables(), static_cast<FieldRoot*>(this));
+  ClearItems(Variables(), *this);
   for (const XmlNode& child : node) {
     const bool named = child.Tag() == "variable" && !child.Node("id").Value().empty();
-    if (named) AppendItem(Variables(), static_cast<FieldRoot*>(this), child);
+    if (named) AppendItem(Variables(), *this, child);
   }
   if (!variables.empty()) current = 0;
 }

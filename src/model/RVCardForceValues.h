@@ -8,6 +8,8 @@ namespace xrpt {
 
 class RVCardForceValues : public RVCardButton {
  public:
+  using RVCardButton::RVCardButton;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardForceValues>(*this); }
@@ -16,7 +18,7 @@ class RVCardForceValues : public RVCardButton {
   bool DeleteVariable(std::int32_t index);
   // Removes all variables.
   void Clear();
-  static const ListTable& Variables();
+  static const ListTable<RVCardControl>& Variables();
 
   // Entry i of each belongs to variable i.
   std::vector<std::wstring> variables;  // names in brackets: "[DEVICE.VARIABLE]"
@@ -26,7 +28,7 @@ class RVCardForceValues : public RVCardButton {
   std::int32_t current = -1;  // the one selected in the editor, -1: none
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadVariables(const XmlNode& node);
 };
 

@@ -1,16 +1,15 @@
 #include "model/RVCardFormule.h"
 
 #include "model/NumberFormat.h"
-#include "platform/Host.h"
 #include "platform/Numbers.h"
 
 namespace xrpt {
 
 // The two paddings are written as the count they pad to, not as T or F, and read as "more than 0": padding to a free or
 // zero count does not survive a save.
-std::span<const FieldRow> RVCardFormule::Rows() {
+std::span<const CardRow> RVCardFormule::Rows() {
   using Formule = RVCardFormule;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       WhenNotEmpty<Formule, &Formule::value>(Field<Formule, codec::String, &Formule::value>(
           nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Text})),
       Field<Formule, codec::Integer, &Formule::integers>(
@@ -48,7 +47,7 @@ void RVCardFormule::ParseFormat(std::wstring_view format, std::int32_t& integers
 std::wstring RVCardFormule::ShownText() const {
   const auto number = ReadWholeNumber(value);
   if (!number) return value;
-  const LocaleService& locale = *CurrentHost().locale;
+  const LocaleService& locale = *Services().locale;
   return FormatDouble(*number, {integers, decimals, thousandSeparator, leftPadding, rightPadding},
                       {locale.DecimalSeparator(), locale.ThousandsSeparator()});
 }

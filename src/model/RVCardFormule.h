@@ -7,6 +7,8 @@ namespace xrpt {
 
 class RVCardFormule : public RVCardLabel {
  public:
+  using RVCardLabel::RVCardLabel;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardFormule>(*this); }
@@ -28,7 +30,7 @@ class RVCardFormule : public RVCardLabel {
   bool enableVariableDefaultValue = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   bool HasVariableDefault() const { return enableVariableDefaultValue; }
   void ReadLeftPadding(const XmlNode& count);
   void WriteLeftPadding(XmlWriter& out) const;

@@ -1,14 +1,20 @@
 #include "model/RVCardImage.h"
 
-#include "platform/Host.h"
-
 namespace xrpt {
+namespace {
 
-std::span<const FieldRow> RVCardImage::Rows() {
+// Of a new card, and of one whose file names no colour.
+constexpr Color kNewColor = 0xC06060;
+constexpr Color kNewBackColor = 0x00FFFF;
+
+}  // namespace
+
+std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.
-      RowsOf(Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image")),
+      RowsOf(ComparedBy<Image, &Image::EqualImage, &Image::SameImage>(
+          Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image"))),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
       ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
@@ -21,19 +27,17 @@ const CardClass& RVCardImage::Class() {
   return kind;
 }
 
-RVCardImage::RVCardImage() {
-  color = 0xC06060;
+RVCardImage::RVCardImage(ModelServices& services) : RVCardControl(services) {
+  color = kNewColor;
   backcolor = kNewBackColor;
 }
 
-bool RVCardImage::isEqual(const RVCardControl& other) const {
-  if (!RVCardControl::isEqual(other)) return false;
-  const auto& image = static_cast<const RVCardImage&>(other);
-  return ImageId() == image.ImageId() && ImagePath() == image.ImagePath();
+bool RVCardImage::EqualImage(const RVCardImage& other) const {
+  return ImageId() == other.ImageId() && ImagePath() == other.ImagePath();
 }
 
 bool RVCardImage::LoadOriginalImage(const std::wstring& id, const std::wstring& path) {
-  image_ = CurrentHost().pictureStore.Attach(id, path);
+  image_ = Services().pictureStore.Attach(id, path);
   return true;
 }
 
@@ -47,7 +51,7 @@ bool RVCardImage::ReLoadOriginalImage() {
   return image_ != nullptr;
 }
 
-void RVCardImage::ReLoadAllOriginalImages() { CurrentHost().pictureStore.ReloadAll(); }
+void RVCardImage::ReLoadAllOriginalImages() { InstalledServices().pictureStore.ReloadAll(); }
 
 void RVCardImage::ReadImage(const XmlNode& image) {
   if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));
@@ -55,7 +59,9 @@ void RVCardImage::ReadImage(const XmlNode& image) {
 
 void RVCardImage::WriteImage(XmlWriter& out) const {
   if (!image_) return;
-  if (image_->Id().empty()) return LogMessage(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  if (image_->Id().empty()) {
+    return Services().logger->Log(3, L"RVCardImage::SaveTemplate(): imageData->id is empty!");
+  }
   const XmlElement element(out, "image");
   out.Value("imageId", image_->Id());
   out.Value("imagePath", image_->ImagePath());

@@ -9,16 +9,11 @@ namespace xrpt {
 
 class RVCardImage : public RVCardControl {
  public:
-  // What a new card has, and what a file that names no back colour leaves it: the ground of a card that has no picture
-  // yet, not one to see round a picture.
-  static constexpr Color kNewBackColor = 0x00FFFF;
-
-  RVCardImage();
+  explicit RVCardImage(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardImage>(*this); }
-  bool isEqual(const RVCardControl& other) const override;
 
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
 
@@ -44,9 +39,11 @@ class RVCardImage : public RVCardControl {
   Animation animation;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadImage(const XmlNode& image);
   void WriteImage(XmlWriter& out) const;
+  bool EqualImage(const RVCardImage& other) const;
+  bool SameImage(const RVCardImage& other) const { return image_ == other.image_; }
 
   ImageRecordPtr image_;
 };

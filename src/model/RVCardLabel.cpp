@@ -4,7 +4,7 @@
 
 namespace xrpt {
 
-std::span<const FieldRow> RVCardLabel::Rows() {
+std::span<const CardRow> RVCardLabel::Rows() {
   using Label = RVCardLabel;
   static constexpr auto kRows = JoinRows(
       AlignmentRows<Label, &Label::horizontalAlign, &Label::verticalAlign>(),
@@ -29,12 +29,14 @@ const CardClass& RVCardLabel::Class() {
   return kind;
 }
 
-bool RVCardLabel::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, color); }
-
-void RVCardLabel::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(reference, styleName, parent)) GetStyleFromFile(styleName);
+bool RVCardLabel::GetStyleFromFile(const std::wstring& name) {
+  return TakeStyle(*Services().styles, name, font, color);
 }
 
-void RVCardLabel::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+void RVCardLabel::ReadStyle(const XmlNode& reference) {
+  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
+}
+
+void RVCardLabel::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
 
 }  // namespace xrpt

@@ -8,6 +8,7 @@ namespace xrpt {
 
 class RVCardLabel : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
   RVCardLabel() = default;
   RVCardLabel(const RVCardLabel&) = default;
   RVCardLabel& operator=(const RVCardLabel&) = default;
@@ -35,7 +36,7 @@ class RVCardLabel : public RVCardControl {
   std::wstring text;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadStyle(const XmlNode& reference);
   void WriteStyle(XmlWriter& out) const;
 };

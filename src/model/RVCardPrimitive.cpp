@@ -2,12 +2,12 @@
 
 namespace xrpt {
 
-std::span<const FieldRow> RVCardPrimitive::Rows() {
+std::span<const CardRow> RVCardPrimitive::Rows() {
   using Primitive = RVCardPrimitive;
   using codec::kNone;
   using ContourCodec = codec::OneOf<kContourTypeWords, kNone, kNone>;
   using TypeCodec = codec::OneOf<kPrimitiveTypeWords, kNone, kNone>;
-  static constexpr FieldRow kRows[] = {
+  static constexpr CardRow kRows[] = {
       // A missing size or orientation reads as 0, not as a new card's.
       Field<Primitive, codec::Decimal, &Primitive::size>(
           nullptr, "size", "", {text::kContourSize, FieldGroup::Format, FieldEditor::Decimal, 0.0, 1000.0}),
@@ -29,7 +29,7 @@ const CardClass& RVCardPrimitive::Class() {
   return kind;
 }
 
-RVCardPrimitive::RVCardPrimitive() {
+RVCardPrimitive::RVCardPrimitive(ModelServices& services) : RVCardControl(services) {
   color = kBlack;
   backcolor = kWhite;
 }

@@ -15,7 +15,7 @@ inline constexpr Word kContourTypeWords[] = {
 
 class RVCardPrimitive : public RVCardControl {
  public:
-  RVCardPrimitive();
+  explicit RVCardPrimitive(ModelServices& services = InstalledServices());
 
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
@@ -30,7 +30,7 @@ class RVCardPrimitive : public RVCardControl {
   bool isBackTransparent = false;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
 };
 
 }  // namespace xrpt

@@ -1,5 +1,6 @@
 #include "model/RVCardReportGraph.h"
 
+#include "model/ListRows.h"
 #include "model/StyleReference.h"
 
 namespace xrpt {
@@ -26,12 +27,12 @@ struct LineStyleCodec : codec::PlainCodec<LineStyleCodec> {
 using TypeCodec = codec::OneOf<kSeriesTypeWords, 0, codec::kNone>;
 
 template <auto Member>
-constexpr FieldRow Switch(const char* name, int textId) {
+constexpr CardRow Switch(const char* name, int textId) {
   return Field<Graph, codec::Bool, Member>(nullptr, name, nullptr, {textId, FieldGroup::Format, FieldEditor::Check});
 }
 
 template <class Codec, auto Member>
-constexpr ListRow Bound(const char* name, const char* missing, int textId, FieldEditor editor) {
+constexpr ListOf<RVCardControl> Bound(const char* name, const char* missing, int textId, FieldEditor editor) {
   return NotCompared(Needs("width", List<Graph, Codec, Member>("ybounds", name, missing, SeriesPanel(textId, editor))));
 }
 
@@ -39,8 +40,8 @@ constexpr ListRow Bound(const char* name, const char* missing, int textId, Field
 
 // The line styles and widths deliberately stay when a series is removed, so that later entries of these two lists shift
 // against the others. The bounds are read only from a series that has a width.
-const ListTable& RVCardReportGraph::Series() {
-  static constexpr ListRow kRows[] = {
+const ListTable<RVCardControl>& RVCardReportGraph::Series() {
+  static constexpr ListOf<RVCardControl> kRows[] = {
       List<Graph, codec::String, &Graph::variables>(nullptr, "id", nullptr,
                                                     SeriesPanel(text::kVariable, FieldEditor::Variable)),
       List<Graph, codec::Colour, &Graph::colors>(nullptr, "color", nullptr,
@@ -57,12 +58,12 @@ const ListTable& RVCardReportGraph::Series() {
       Bound<codec::Exact, &Graph::minBind>("minbind", "-1", text::kMinimum, FieldEditor::Decimal),
       Bound<codec::Exact, &Graph::maxBind>("maxbind", "-1", text::kMaximum, FieldEditor::Decimal),
   };
-  static constexpr ListTable kTable{"variable", kRows};
+  static constexpr ListTable<RVCardControl> kTable{"variable", kRows};
   return kTable;
 }
 
-std::span<const FieldRow> RVCardReportGraph::Rows() {
-  static constexpr FieldRow kRows[] = {
+std::span<const CardRow> RVCardReportGraph::Rows() {
+  static constexpr CardRow kRows[] = {
       Offering(kPeriodWords,
                Field<Graph, codec::String, &Graph::period>(nullptr, "period", nullptr,
                                                            {text::kPeriod, FieldGroup::Content, FieldEditor::Choice})),
@@ -84,7 +85,7 @@ std::span<const FieldRow> RVCardReportGraph::Rows() {
       NotCompared(FontNameRow<Graph, &Graph::font>()),
       NotCompared(FontStyleRow<Graph, &Graph::font>()),
       // A graph's texts are never turned, but its font says so.
-      Constant("font", [](const void*, XmlWriter& out) { out.Plain("orientation", "0.00"); }),
+      Constant<Graph>("font", [](const RVCardControl&, XmlWriter& out) { out.Plain("orientation", "0.00"); }),
       NotCompared(FontSizeRow<Graph, &Graph::font>()),
       NotCompared(Field<Graph, codec::Colour, &Graph::fontColor>(
           "font", "color", nullptr, {text::kFontColor, FieldGroup::Font, FieldEditor::Color})),
@@ -99,19 +100,19 @@ const CardClass& RVCardReportGraph::Class() {
   return kind;
 }
 
-bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) { return TakeStyle(name, font, fontColor); }
+bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) {
+  return TakeStyle(*Services().styles, name, font, fontColor);
+}
 
 void RVCardReportGraph::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
 }
 
-void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(out, styleName); }
+void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
 
-bool RVCardReportGraph::DeleteVariable(std::int32_t index) {
-  return RemoveItem(Series(), static_cast<FieldRoot*>(this), index);
-}
+bool RVCardReportGraph::DeleteVariable(std::int32_t index) { return RemoveItem(Series(), *this, index); }
 
-void RVCardReportGraph::Clear() { ClearItems(Series(), static_cast<FieldRoot*>(this)); }
+void RVCardReportGraph::Clear() { ClearItems(Series(), *this); }
 
 void RVCardReportGraph::SetDefaultStyle() {
   font = Font();

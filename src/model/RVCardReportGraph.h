@@ -31,6 +31,8 @@ inline constexpr Word kMarkerWords[] = {{"POINT", 0, 60165},      {"CIRCLE5X5", 
 
 class RVCardReportGraph : public RVCardControl {
  public:
+  using RVCardControl::RVCardControl;
+
   static const CardClass& Class();
   const CardClass& GetRuntimeClass() const override { return Class(); }
   std::unique_ptr<RVCardControl> GetClone() const override { return std::make_unique<RVCardReportGraph>(*this); }
@@ -45,7 +47,7 @@ class RVCardReportGraph : public RVCardControl {
   // Removes all series.
   void Clear();
   void SetDefaultStyle();
-  static const ListTable& Series();
+  static const ListTable<RVCardControl>& Series();
   // What a series that lacks its type is drawn and written as.
   SeriesType TypeOf(std::size_t index) const { return index < types.size() ? types[index] : SeriesType::Line; }
 
@@ -74,7 +76,7 @@ class RVCardReportGraph : public RVCardControl {
   std::vector<double> maxBind;
 
  private:
-  static std::span<const FieldRow> Rows();
+  static std::span<const CardRow> Rows();
   void ReadStyle(const XmlNode& node);
   void WriteStyle(XmlWriter& out) const;
   std::span<const Word> LineStyleWords(std::size_t index) const;

@@ -1,9 +1,10 @@
 #include "model/RVGlobalProperties.h"
 
 #include "model/Codecs.h"
+#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
+#include "model/FieldWalk.h"
 #include "model/RVCardImage.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -15,11 +16,11 @@ constexpr FieldPanel Millimetres(int textId, double minimum) {
 }
 
 template <auto Member>
-constexpr FieldRow Size(const char* name, int textId, double minimum) {
+constexpr PageRow Size(const char* name, int textId, double minimum) {
   return Field<Page, codec::Decimal, Member>(nullptr, name, nullptr, Millimetres(textId, minimum));
 }
 
-constexpr FieldRow kRows[] = {
+constexpr PageRow kRows[] = {
     Field<Page, codec::String, &Page::id>(nullptr, "id", nullptr),
     Field<Page, codec::String, &Page::name>(nullptr, "name", nullptr,
                                             {text::kPageName, FieldGroup::Page, FieldEditor::Text}),
@@ -35,10 +36,12 @@ constexpr FieldRow kRows[] = {
 
 }  // namespace
 
-ScreenScale::ScreenScale()
-    : pixelsPerMmX(CurrentHost().screen->DpiX() / 25.4), pixelsPerMmY(CurrentHost().screen->DpiY() / 25.4) {}
+ScreenScale::ScreenScale(ModelServices& from)
+    : pixelsPerMmX(from.screen->DpiX() / 25.4), pixelsPerMmY(from.screen->DpiY() / 25.4), services(&from) {}
 
-BackgroundCard::BackgroundCard() : card_(std::make_unique<RVCardImage>()) { card_->backcolor = kWhite; }
+BackgroundCard::BackgroundCard(ModelServices& services) : card_(std::make_unique<RVCardImage>(services)) {
+  card_->backcolor = kWhite;
+}
 
 BackgroundCard::BackgroundCard(const BackgroundCard& other) : card_(std::make_unique<RVCardImage>(*other)) {}
 
@@ -49,20 +52,28 @@ BackgroundCard& BackgroundCard::operator=(const BackgroundCard& other) {
 
 BackgroundCard::~BackgroundCard() = default;
 
-RVGlobalProperties::RVGlobalProperties()
-    : id(CurrentHost().guids->NewGuidText()), name(id), backcolor(CurrentHost().screen->ButtonFace()) {
+RVGlobalProperties::RVGlobalProperties(ModelServices& services)
+    : id(services.guids->NewGuidText()),
+      name(id),
+      backcolor(services.screen->ButtonFace()),
+      screen(services),
+      background_(services) {
   // A new page's picture covers it; reading a page without one does the same.
   background_->width = width;
   background_->height = height;
 }
 
-const FieldTable& RVGlobalProperties::Table() {
-  static constexpr FieldTable kTable{nullptr, kRows};
+const PageTable& RVGlobalProperties::Table() {
+  static constexpr PageTable kTable{nullptr, kRows};
   return kTable;
 }
 
 bool RVGlobalProperties::operator==(const RVGlobalProperties& other) const {
-  return EqualFields(Table(), this, &other) && *background_ == *other.background_ && lists == other.lists;
+  return EqualFields(Table(), *this, other) && *background_ == *other.background_ && lists == other.lists;
+}
+
+bool RVGlobalProperties::HasSameRows(const RVGlobalProperties& other) const {
+  return SameFields(Table(), *this, other) && background_->HasSameRows(*other.background_) && lists == other.lists;
 }
 
 bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
@@ -71,7 +82,7 @@ bool RVGlobalProperties::GetFromXml(const XmlNode& page) {
   return true;
 }
 
-void RVGlobalProperties::ReadValues(const XmlNode& page) { ReadFields(Table(), this, page); }
+void RVGlobalProperties::ReadValues(const XmlNode& page) { ReadFields(Table(), *this, page); }
 
 void RVGlobalProperties::ReadBackground(const XmlNode& element) {
   if (element) {
@@ -85,10 +96,10 @@ void RVGlobalProperties::ReadBackground(const XmlNode& element) {
 
 bool RVGlobalProperties::SaveTemplate(XmlWriter* page) const {
   if (!page) {
-    LogMessage(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
+    screen.services->logger->Log(4, L"RVGlobalProperties::SaveTemplate(): nullptr incoming parameter!");
     return false;
   }
-  WriteFields(Table(), this, *page);
+  WriteFields(Table(), *this, *page);
   if (background_->HasImageId()) {
     const XmlElement element(*page, kBackgroundTag);
     background_->SaveTemplate(page, false);

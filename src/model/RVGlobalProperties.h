@@ -8,26 +8,32 @@
 
 #include "model/FieldTable.h"
 #include "platform/Color.h"
+#include "platform/Host.h"
 
 namespace xrpt {
 
 class RVCardImage;
+class RVGlobalProperties;
+
+using PageRow = FieldOf<RVGlobalProperties>;
+using PageTable = FieldTable<RVGlobalProperties>;
 
 // What a page measures on the screen it was made on: the screen's business, so neither copied nor compared.
 struct ScreenScale {
-  ScreenScale();
-  ScreenScale(const ScreenScale&) : ScreenScale() {}
+  explicit ScreenScale(ModelServices& services);
+  ScreenScale(const ScreenScale& other) : ScreenScale(*other.services) {}
   ScreenScale& operator=(const ScreenScale&) { return *this; }
 
   double pixelsPerMmX = 0.0;
   double pixelsPerMmY = 0.0;
   double scale = 1.0;
+  ModelServices* services;
 };
 
 // A page's background picture: always there, and copied with the page.
 class BackgroundCard {
  public:
-  BackgroundCard();
+  explicit BackgroundCard(ModelServices& services);
   BackgroundCard(const BackgroundCard& other);
   BackgroundCard& operator=(const BackgroundCard& other);
   ~BackgroundCard();
@@ -43,17 +49,20 @@ class RVGlobalProperties {
   using FieldRoot = RVGlobalProperties;
   using StringLists = std::array<std::vector<std::wstring>, 4>;
 
-  RVGlobalProperties();
+  explicit RVGlobalProperties(ModelServices& services = InstalledServices());
   RVGlobalProperties(const RVGlobalProperties&) = default;
   RVGlobalProperties& operator=(const RVGlobalProperties&) = default;
   virtual ~RVGlobalProperties() = default;
 
-  static const FieldTable& Table();
+  static const PageTable& Table();
   static constexpr const char* kBackgroundTag = "backgroundImage";
 
   // The grid is left out: changing it alone is no change of the page. NaN differs from everything.
   bool operator==(const RVGlobalProperties& other) const;
   bool operator!=(const RVGlobalProperties& other) const { return !(*this == other); }
+
+  // The same in every row, in the picture and in the lists, the grid included, to the last bit: what the history asks.
+  bool HasSameRows(const RVGlobalProperties& other) const;
 
   // Takes what the "page" element holds; missing values stay as they are. True.
   virtual bool GetFromXml(const XmlNode& page);

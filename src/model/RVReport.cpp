@@ -9,10 +9,7 @@
 namespace xrpt {
 namespace {
 
-constexpr std::wstring_view kVersion = L"24.11.17";
 constexpr std::string_view kRoot = "reportLayout";
-
-Path ConfigFolder() { return CurrentHost().setup->CfgPath(); }
 
 void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& to) {
   for (const XmlNode& child : from) {
@@ -59,13 +56,13 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 
 }  // namespace
 
-RVReport::RVReport()
-    : id(CurrentHost().guids->NewGuidText()), version(kVersion), dpiFont(CurrentHost().screen->DpiY()) {
+RVReport::RVReport(Host& host)
+    : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
   AddPage();
 }
 
 LoadResult RVReport::Load(const std::wstring& nameOrPath) {
-  if (const std::optional<Path> found = FindNamedFile(ConfigFolder(), nameOrPath, kReportEnding)) {
+  if (const std::optional<Path> found = FindNamedFile(*host_->files, ConfigFolder(), nameOrPath, kReportEnding)) {
     return LoadFile(*found, &nameOrPath);
   }
   const Path file(ToUtf8(nameOrPath));
@@ -79,7 +76,7 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
   XmlDocument document;
   result.loaded = ReadDocument(result, document);
   if (!result.loaded) document.Create(kRoot);
-  ReadTemplate(document.Root(), askedName);
+  ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
   for (const auto& page : pages) result.lostStyles += page->lostStyles;
   fileName_ = name;
   modified = false;
@@ -88,7 +85,7 @@ LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
 
 bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
   file_.clear();
-  FileService& files = *CurrentHost().files;
+  FileService& files = *host_->files;
   const FileStamp stamp = files.Stamp(result.file);
   FileError fault;
   std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &fault);
@@ -106,7 +103,7 @@ bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
 }
 
 void RVReport::BelongTo(const Path& file) {
-  FileService& files = *CurrentHost().files;
+  FileService& files = *host_->files;
   const FileStamp stamp = files.Stamp(file);
   const std::optional<std::string> bytes = files.Read(file, XmlDocument::kMaxBytes);
   Remember(file, stamp, bytes ? *bytes : std::string());
@@ -119,30 +116,30 @@ void RVReport::Remember(const Path& file, const FileStamp& stamp, std::string_vi
   fileName_ = name;
 }
 
-void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName) {
+void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
   pages.clear();
   ReadIdentity(root, askedName);
-  version = root.Value("version", kVersion);
+  version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
-  ReadPages(root);
+  ReadPages(root, readPage);
   if (pages.empty()) AddPage();
 }
 
 void RVReport::ReadIdentity(const XmlNode& root, const std::wstring* askedName) {
   const XmlNode storedId = root.Node("id");
-  id = storedId ? storedId.Value() : CurrentHost().guids->NewGuidText();
+  id = storedId ? storedId.Value() : host_->guids->NewGuidText();
   const XmlNode storedName = root.Node("name");
   name = storedName.Value();
   if (!storedName || !askedName || name == *askedName) return;
   name = *askedName;
-  id = CurrentHost().guids->NewGuidText();
+  id = host_->guids->NewGuidText();
 }
 
 // Text keeps the size it was laid out at on screens of another resolution. A resolution of 0 or less cannot be scaled
 // from.
 void RVReport::ReadFontScale(const XmlNode& root) {
-  const int screenDpi = CurrentHost().screen->DpiY();
+  const int screenDpi = host_->screen->DpiY();
   const XmlNode stored = root.Node("dpiFont");
   dpiFont = stored ? ParseInteger(stored.RawText()) : screenDpi;
   fontFactor = dpiFont > 0 ? static_cast<double>(screenDpi) / dpiFont : 1.0;
@@ -156,15 +153,15 @@ void RVReport::ReadVirtualLists(const XmlNode& root) {
   CopyChildren(root.Node("goBackVariables"), "goBackVariable", goBackVariables);
 }
 
-void RVReport::ReadPages(const XmlNode& root) {
+void RVReport::ReadPages(const XmlNode& root, PageReader readPage) {
   for (const XmlNode& element : root) {
-    if (element.Tag() == "page") AddPage().TakeTemplate(element);
+    if (element.Tag() == "page") (AddPage().*readPage)(element);
     if (element.Tag() == "formules") formules.Create("formules").Assign(element);
   }
 }
 
 RVReportPage& RVReport::AddPage() {
-  RVReportPage& page = *pages.emplace_back(std::make_unique<RVReportPage>());
+  RVReportPage& page = *pages.emplace_back(std::make_shared<RVReportPage>(*host_));
   page.fontFactor = fontFactor;
   return page;
 }
@@ -178,7 +175,7 @@ void RVReport::ResetDocuments() {
 bool RVReport::EnsureName() {
   for (int n = 1; name.empty(); ++n) {
     const std::wstring candidate = L"report" + std::to_wstring(n);
-    if (!FindNamedFile(ConfigFolder(), candidate, kReportEnding)) name = candidate;
+    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) name = candidate;
   }
   return IsSafeFileName(name);
 }
@@ -188,8 +185,8 @@ SaveResult RVReport::Save(const SaveRules& rules) {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
-  CurrentHost().settings->SetRegistryText(L"LastInforme", name);
-  CurrentHost().files->CreateFolder(ConfigFolder());
+  host_->settings->SetRegistryText(kLastReportValue, name);
+  host_->files->CreateFolder(ConfigFolder());
   return SaveTo(FilePath(rules), rules);
 }
 
@@ -202,7 +199,7 @@ Path RVReport::FilePath(const SaveRules& rules) const {
   return NamedFilePath(ConfigFolder(), FileNamePart(id), name, kReportEnding);
 }
 
-bool RVReport::HasChangedOnDisk() const { return !file_.empty() && HasChanged(*CurrentHost().files, file_, onDisk_); }
+bool RVReport::HasChangedOnDisk() const { return !file_.empty() && HasChanged(*host_->files, file_, onDisk_); }
 
 SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
   const bool isOwn = !file_.empty() && IsSameFile(file, file_);
@@ -213,8 +210,15 @@ SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
   SaveResult result = SaveText(file, out, rules.asksFirst ? (isOwn ? &onDisk_ : &none) : nullptr);
   if (result.outcome == SaveOutcome::Changed && !isOwn) result.outcome = SaveOutcome::Taken;
   modified = !result;
-  if (result) Remember(file, CurrentHost().files->Stamp(file), text);
+  if (result) Remember(file, host_->files->Stamp(file), text);
   return result;
+}
+
+SaveResult RVReport::WriteTo(const Path& file) const {
+  std::string text;
+  XmlWriter out(text);
+  WriteTemplate(out);
+  return SaveText(file, out);
 }
 
 std::string RVReport::TemplateText(XmlError* fault) const {
@@ -231,7 +235,7 @@ void RVReport::WriteTemplate(XmlWriter& out) const {
   out.Value("id", id);
   out.Value("name", name);
   out.Value("version", version);
-  out.Value("revision", CurrentHost().guids->NewGuidText());
+  out.Value("revision", host_->guids->NewGuidText());
   out.Plain("dpiFont", std::to_string(dpiFont));
   out.Bool("hasZoom", true);
   for (const auto& page : pages) page->SaveTemplate(out);

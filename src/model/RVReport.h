@@ -7,11 +7,10 @@
 
 #include "model/RVReportPage.h"
 #include "platform/Host.h"
+#include "platform/SystemNames.h"
 #include "platform/Xml.h"
 
 namespace xrpt {
-
-inline constexpr std::wstring_view kReportEnding = L".xrpt";
 
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {
@@ -32,7 +31,7 @@ struct SaveRules {
 class RVReport {
  public:
   // A new, empty report: one page, no name.
-  RVReport();
+  explicit RVReport(Host& host = CurrentHost());
 
   // Opens by name (the configuration folder's file of that name, whatever its identifier) or, when no file has it, by
   // path. A stored name that differs from the one asked for gives way to it, and the report gets a new identity. Asking
@@ -41,10 +40,15 @@ class RVReport {
   // Opens one file. Without an asked-for name the stored one stands.
   LoadResult LoadFile(const Path& file, const std::wstring* askedName = nullptr);
 
+  // Takes what a "reportLayout" element holds; the element stays as it is, and the stored name stands.
+  void SetTemplate(const XmlNode& root) { ReadTemplate(root, nullptr, &RVReportPage::SetTemplate); }
+
   // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
   // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
   SaveResult Save(const SaveRules& rules = {});
   SaveResult SaveTo(const Path& file, const SaveRules& rules = {});
+  // A copy for others: the report stays as modified as it was.
+  SaveResult WriteTo(const Path& file) const;
   // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
   std::string TemplateText(XmlError* fault = nullptr) const;
 
@@ -72,15 +76,17 @@ class RVReport {
   XmlDocument formules{"formules"};
   XmlDocument virtualDevices{"virtualDevices"};
   XmlDocument goBackVariables{"goBackVariables"};
-  std::vector<std::unique_ptr<RVReportPage>> pages;  // never empty
+  std::vector<std::shared_ptr<RVReportPage>> pages;  // never empty
   bool modified = false;
 
  private:
-  void ReadTemplate(const XmlNode& root, const std::wstring* askedName);
+  Path ConfigFolder() const { return host_->setup->CfgPath(); }
+  using PageReader = bool (RVReportPage::*)(const XmlNode& page);
+  void ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
   void ReadFontScale(const XmlNode& root);
   void ReadVirtualLists(const XmlNode& root);
-  void ReadPages(const XmlNode& root);
+  void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
   bool GoesBack(const SaveRules& rules) const;
   void WriteTemplate(XmlWriter& out) const;
@@ -88,6 +94,7 @@ class RVReport {
   bool ReadDocument(LoadResult& result, XmlDocument& document);
   void Remember(const Path& file, const FileStamp& stamp, std::string_view bytes);
 
+  Host* host_;
   Path file_;
   FileVersion onDisk_;     // as read or written last
   std::wstring fileName_;  // the report's name at that time

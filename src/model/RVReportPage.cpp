@@ -1,7 +1,6 @@
 #include "model/RVReportPage.h"
 
 #include "model/CardRegistry.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 
@@ -20,7 +19,7 @@ bool RVReportPage::Read(XmlNode page, bool takes) {
 }
 
 bool RVReportPage::ReadCard(const XmlNode& element) {
-  std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag());
+  std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag(), services_);
   if (!card) return false;
   card->SetParent(this);
   card->GetFromXml(element);
@@ -28,10 +27,28 @@ bool RVReportPage::ReadCard(const XmlNode& element) {
   return true;
 }
 
+// A page that still bears its identity for a name gets the new one for a name, too.
+std::unique_ptr<RVReportPage> RVReportPage::Duplicate() const {
+  auto copy = std::make_unique<RVReportPage>(services_);
+  const std::wstring freshId = copy->properties.id;
+  copy->properties = properties;
+  copy->properties.id = freshId;
+  if (properties.name == properties.id) copy->properties.name = freshId;
+  copy->fontFactor = fontFactor;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    std::unique_ptr<RVCardControl> card = cards[i].GetClone();
+    card->TakePlaceOf(cards[i]);
+    card->SetParent(copy.get());
+    card->RenewIds();
+    copy->cards.PushBack(std::move(card));
+  }
+  return copy;
+}
+
 void RVReportPage::SaveTemplate(XmlWriter& root) const {
   const XmlElement element(root, "page");
   if (!properties.SaveTemplate(&root)) {
-    LogMessage(4, L"RVEditTemplateWnd::SaveTemplate(): could not save page node template!");
+    services_.logger->Log(4, L"RVEditTemplateWnd::SaveTemplate(): could not save page node template!");
   }
   SaveCtrlsTemplate(root);
 }

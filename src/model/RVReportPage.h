@@ -9,7 +9,7 @@ namespace xrpt {
 
 class RVReportPage {
  public:
-  RVReportPage() = default;
+  explicit RVReportPage(ModelServices& services = InstalledServices()) : properties(services), services_(services) {}
   RVReportPage(const RVReportPage&) = delete;  // cards point back to their page
   RVReportPage& operator=(const RVReportPage&) = delete;
 
@@ -18,10 +18,14 @@ class RVReportPage {
   // The same for a document that nobody reads again: each card's element is taken out once the card is made, so that
   // the next cards are made in its memory and a large report costs little more than its document.
   bool TakeTemplate(const XmlNode& page) { return Read(page, true); }
+  // The same page again, with identities of its own throughout.
+  std::unique_ptr<RVReportPage> Duplicate() const;
   // Appends a "page" element to the root that is open.
   void SaveTemplate(XmlWriter& root) const;
   // Appends every card, front to back, to the "page" element that is open.
   void SaveCtrlsTemplate(XmlWriter& page) const;
+
+  ModelServices& Services() const { return services_; }
 
   RVGlobalProperties properties;
   CardList cards;
@@ -31,6 +35,8 @@ class RVReportPage {
  private:
   bool Read(XmlNode page, bool takes);
   bool ReadCard(const XmlNode& element);
+
+  ModelServices& services_;
 };
 
 }  // namespace xrpt

@@ -15,19 +15,19 @@ void Count(CountByName& counts, const std::wstring& name) {
   if (!name.empty()) ++counts[name];
 }
 
-void CountList(const ListTable& table, const void* object, ReportInfo& info) {
-  for (const ListRow& row : table.rows) {
+void CountList(const ListTable<RVCardControl>& table, const RVCardControl& card, ReportInfo& info) {
+  for (const auto& row : table.rows) {
     if (row.panel.editor != FieldEditor::Variable) continue;
-    for (std::size_t i = 0; i < row.size(object); ++i) Count(info.variables, row.text(object, i));
+    for (std::size_t i = 0; i < row.size(card); ++i) Count(info.variables, row.text(card, i));
   }
 }
 
 // The rows tell which fields name a variable or a style.
 void CountFields(const RVCardControl& card, ReportInfo& info) {
-  ForEachField(card.GetRuntimeClass().table, [&card, &info](const FieldRow& row) {
-    if (row.list) CountList(row.list(), &card, info);
-    if (row.panel.editor == FieldEditor::Variable) Count(info.variables, row.text(&card));
-    if (row.panel.editor == FieldEditor::Style) Count(info.styles, row.text(&card));
+  ForEachField(card.GetRuntimeClass().table, [&card, &info](const CardRow& row) {
+    if (row.list) CountList(row.list(), card, info);
+    if (row.panel.editor == FieldEditor::Variable) Count(info.variables, row.text(card));
+    if (row.panel.editor == FieldEditor::Style) Count(info.styles, row.text(card));
   });
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/Color.h"
 #include "platform/Fonts.h"
+#include "platform/Host.h"
 #include "platform/Xml.h"
 #include "platform/XmlWriter.h"
 
@@ -15,13 +16,13 @@ class RVReportPage;
 // Takes the name of the style whose identifier a "style" element holds. True when the style is known and should be
 // applied now; an unknown identifier empties the name and is counted on the page, when there is one, and an element
 // that is missing leaves the name alone.
-bool ReadStyleReference(const XmlNode& reference, std::wstring& styleName, RVReportPage* page);
+bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName, RVReportPage* page);
 
 // Writes "style" when the name is known; a style nobody knows is not written.
-void WriteStyleReference(XmlWriter& out, const std::wstring& styleName);
+void WriteStyleReference(StyleTable& styles, XmlWriter& out, const std::wstring& styleName);
 
 // Takes face, style, size and, when the style has one, colour. A font's orientation stays the card's own. False, and
 // nothing taken, when the style is unknown.
-bool TakeStyle(const std::wstring& styleName, Font& font, Color& color);
+bool TakeStyle(StyleTable& styles, const std::wstring& styleName, Font& font, Color& color);
 
 }  // namespace xrpt

@@ -26,12 +26,21 @@ struct FontMetrics {
   double lineSpacing = 0.0;
 };
 
+// Whether a text in a face looks as it was laid out.
+enum class FacePresence {
+  Unknown,    // this host cannot tell
+  Installed,  // the face itself
+  StandIn,    // another one of the same widths
+  Missing,    // one of other widths
+};
+
 class FontService {
  public:
   virtual ~FontService() = default;
   virtual FontMetrics Metrics(const Font& font) = 0;
   // Advance width of a run in points, unhinted: independent of any device.
   virtual double Width(const Font& font, std::wstring_view text) = 0;
+  virtual FacePresence Presence(std::wstring_view) { return FacePresence::Unknown; }
 };
 
 }  // namespace xrpt

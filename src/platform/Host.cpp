@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/ImageFiles.h"
+
 namespace xrpt {
 namespace {
 
@@ -13,7 +15,10 @@ Host*& Installed() {
 
 }  // namespace
 
-Host::Host() = default;
+ModelServices::ModelServices(PictureStore::Reader readPicture) : pictureStore(std::move(readPicture)) {}
+ModelServices::~ModelServices() = default;
+
+Host::Host() : ModelServices([this](const auto& id, const auto& path) { return ReadImageFile(*this, id, path); }) {}
 Host::~Host() = default;
 
 Host& CurrentHost() {
@@ -22,6 +27,8 @@ Host& CurrentHost() {
 }
 
 Host* InstallHost(Host* host) { return std::exchange(Installed(), host); }
+
+ModelServices& InstalledServices() { return CurrentHost(); }
 
 std::wstring HostText(int id) { return CurrentHost().texts->Text(id); }
 

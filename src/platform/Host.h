@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/Color.h"
+#include "platform/Expressions.h"
 #include "platform/Files.h"
 #include "platform/Fonts.h"
 #include "platform/Locks.h"
@@ -94,6 +95,8 @@ class LoggerService {
 class PictureService {
  public:
   virtual ~PictureService() = default;
+  // Whether it knows any format at all; a build without the toolkit knows none.
+  virtual bool CanDecode() const { return true; }
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
   // What it would be decoded to, without its pixels, where that can be told without decoding; otherwise nothing.
@@ -128,6 +131,14 @@ class LocaleService {
   virtual std::wstring DateTimeText(const std::tm& local) const = 0;
 };
 
+using RVDateTime = std::tm;  // local time
+class DateService {
+ public:
+  virtual ~DateService() = default;
+  // A moment as people write it in the user's locale; false for a text without a date that can be.
+  virtual bool String2DateTime(std::wstring_view text, RVDateTime& moment) const = 0;
+};
+
 class ScreenService {
  public:
   virtual ~ScreenService() = default;
@@ -160,33 +171,94 @@ struct DriverVariable {
   std::wstring kind;
   std::wstring period;  // all that follows GOBACK
 };
+// The same with the parts of hosts that filter what they read; a name of the embedded naming leaves both filters empty.
+struct FilteredDriverVariable {
+  std::wstring device;
+  std::wstring variable;
+  std::wstring kind;
+  std::wstring filter;
+  std::wstring period;
+  std::wstring backFilter;
+};
 class VariableNaming {
  public:
   virtual ~VariableNaming() = default;
   virtual DriverVariable SplitDriverVariable(std::wstring_view name) const = 0;
   virtual std::wstring JoinDriverVariable(const DriverVariable& parts) const = 0;
+  virtual FilteredDriverVariable SplitFilterDriverVariable(std::wstring_view name) const = 0;
+  virtual FilteredDriverVariable SplitBackFilterDriverVariable(std::wstring_view name) const = 0;
 };
 
-struct Host {
+// Looks driver variables up, one after another. It sees the plant as it was when it was made.
+class RVDriverVariable {
+ public:
+  virtual ~RVDriverVariable() = default;
+  // The variable's full name, without brackets.
+  virtual void Setup(std::wstring_view name) = 0;
+  // Whether the plant has it. The kind of a name plays no part.
+  virtual bool Lock() = 0;
+  // What is known of the variable that was locked last.
+  virtual std::optional<DeviceVariable> Info() const = 0;
+};
+class DriverVariableService {
+ public:
+  virtual ~DriverVariableService() = default;
+  virtual std::unique_ptr<RVDriverVariable> NewDriverVariable() = 0;
+};
+
+class ValueService {
+ public:
+  virtual ~ValueService() = default;
+  // The present reading of a driver variable (full name, without brackets), or nothing.
+  virtual std::optional<double> Reading(std::wstring_view variable) = 0;
+};
+
+// The host's diagnostics collector: background checks hand it a warning record a problem, from their own thread.
+class XmlNode;
+class RVDebugInfo {
+ public:
+  virtual ~RVDebugInfo() = default;
+  // The record is the caller's; what is kept of it is copied.
+  virtual void addWarning(const XmlNode& warning) = 0;
+};
+
+// What pages and cards are made, read, written and painted with. They are handed these and ask for nothing else, so
+// that a page needs no installed host.
+struct ModelServices {
   std::unique_ptr<LoggerService> logger;  // the last to go: the others may have something to say while they end
-  std::unique_ptr<SetupService> setup;
-  std::unique_ptr<FileService> files;
-  std::unique_ptr<LockService> locks;
-  std::unique_ptr<RecoveryService> recovery;
   std::unique_ptr<TextService> texts;
-  std::unique_ptr<SettingsService> settings;
-  std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<StyleTable> styles;
   std::unique_ptr<GuidService> guids;
   std::unique_ptr<PictureService> pictures;
   std::unique_ptr<FontService> fonts;
-  std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<LocaleService> locale;
+  std::unique_ptr<DateService> dates;
   std::unique_ptr<ScreenService> screen;
-  std::unique_ptr<DeviceCatalogue> devices;
   std::unique_ptr<VariableNaming> variables;
+  std::unique_ptr<DriverVariableService> driverVariables;
+  std::unique_ptr<ValueService> values;
+  std::unique_ptr<ExpressionService> expressions;
   PictureStore pictureStore;
 
+  // Without a way to read pictures the store has none.
+  explicit ModelServices(PictureStore::Reader readPicture = {});
+  ~ModelServices();
+  ModelServices(const ModelServices&) = delete;
+  ModelServices& operator=(const ModelServices&) = delete;
+};
+
+struct Host : ModelServices {
+  std::unique_ptr<SetupService> setup;
+  std::unique_ptr<FileService> files;
+  std::unique_ptr<LockService> locks;
+  std::unique_ptr<RecoveryService> recovery;
+  std::unique_ptr<SettingsService> settings;
+  std::unique_ptr<IdentifierCache> identifiers;
+  std::unique_ptr<ClipboardService> clipboard;
+  std::unique_ptr<DeviceCatalogue> devices;
+  std::unique_ptr<RVDebugInfo> debugInfo;
+
+  // Its store has the pictures of the images folder.
   Host();
   ~Host();
   Host(const Host&) = delete;
@@ -198,6 +270,9 @@ struct Host {
 Host& CurrentHost();
 // Returns the host installed before, so that a fixture can put it back.
 Host* InstallHost(Host* host);
+
+// Those of the installed host: what a page or a card is made with when its maker has no others to hand it.
+ModelServices& InstalledServices();
 
 // Short forms for what is asked often.
 std::wstring HostText(int id);

@@ -18,6 +18,8 @@ enum class Message {
   CardAboutToBeDeleted = kUserMessage + 26,
   CardAnimationStarted = kUserMessage + 27,
   CardAnimationStopped = kUserMessage + 28,
+  // Something could not be done; `value` is the text id of why. Ours, beyond the numbers that hosts use.
+  Refused = kUserMessage + 500,
 };
 
 // `cardId` names the card a message is about (the single selected one, or the one about to go), empty for none;

@@ -15,11 +15,12 @@ std::wstring FileNameOf(const Path& file) { return FromUtf8(file.filename().stri
 
 }  // namespace
 
-std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+std::optional<Path> FindNamedFile(FileService& files, const Path& folder, std::wstring_view name,
+                                  std::wstring_view ending) {
   if (!IsSafeFileName(name)) return std::nullopt;
   const std::wstring wanted = std::wstring(name) + std::wstring(ending);
   std::optional<Path> found;
-  for (const Path& file : CurrentHost().files->List(folder, L"." + wanted)) {
+  for (const Path& file : files.List(folder, L"." + wanted)) {
     const std::wstring fileName = FileNameOf(file);
     if (fileName.substr(fileName.find(L'.') + 1) == wanted) return file;
     if (!found) found = file;
@@ -27,11 +28,16 @@ std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, st
   return found;
 }
 
-std::vector<Path> FilesOfName(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending) {
+  return FindNamedFile(*CurrentHost().files, folder, name, ending);
+}
+
+std::vector<Path> FilesOfName(FileService& files, const Path& folder, std::wstring_view name,
+                              std::wstring_view ending) {
   if (!IsSafeFileName(name)) return {};
-  std::vector<Path> files = CurrentHost().files->List(folder, std::wstring(name) + std::wstring(ending));
-  std::erase_if(files, [&](const Path& file) { return NameOfFile(file, ending) != name; });
-  return files;
+  std::vector<Path> found = files.List(folder, std::wstring(name) + std::wstring(ending));
+  std::erase_if(found, [&](const Path& file) { return NameOfFile(file, ending) != name; });
+  return found;
 }
 
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending) {

@@ -10,10 +10,13 @@ namespace xrpt {
 
 // The file of a name whatever its identifier ("*." + name + ending). Among several matches the one whose text after the
 // first point is exactly the name comes first. Nothing when none matches or the name is no safe file name.
+std::optional<Path> FindNamedFile(FileService& files, const Path& folder, std::wstring_view name,
+                                  std::wstring_view ending);
+// The same with the installed host's files.
 std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending);
 
 // All files of exactly that name: more than one when reports or styles of several identifiers are called alike.
-std::vector<Path> FilesOfName(const Path& folder, std::wstring_view name, std::wstring_view ending);
+std::vector<Path> FilesOfName(FileService& files, const Path& folder, std::wstring_view name, std::wstring_view ending);
 
 // folder / (id + "." + name + ending).
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending);

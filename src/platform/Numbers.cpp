@@ -31,10 +31,21 @@ bool TakeHexPrefix(std::string_view& text) {
   return prefixed;
 }
 
-// from_chars leaves the value alone when it overflows; the C library gives infinity or zero.
-double OutOfRange(std::string_view text) {
-  const bool tiny = text.find("e-") != text.npos || text.find("E-") != text.npos || text.substr(0, 2) == "0.";
-  return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+// How many digits stand before the point of a number without its exponent, or, below 0, zeros behind it.
+std::int64_t DigitsBeforePoint(std::string_view digits) {
+  const std::size_t point = std::min(digits.find('.'), digits.size());
+  const std::size_t first = digits.find_first_not_of("0.");
+  if (first == digits.npos) return 0;
+  const auto place = [](std::size_t at) { return static_cast<std::int64_t>(at); };
+  return first < point ? place(point - first) : place(point + 1) - place(first);
+}
+
+// from_chars leaves the value alone when the number is too large or too small; the C library gives infinity or zero.
+double OutOfRange(std::string_view number, bool hexadecimal) {
+  const std::size_t mark = std::min(number.find_first_of(hexadecimal ? "pP" : "eE"), number.size());
+  const std::int64_t exponent = mark < number.size() ? ParseInteger(number.substr(mark + 1)) : 0;
+  const std::int64_t digits = DigitsBeforePoint(number.substr(0, mark)) * (hexadecimal ? 4 : 1);
+  return digits + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
 // Appends the decimal digits from `at` on to a number, and gives the place after the last.
@@ -47,7 +58,7 @@ std::size_t AddDigits(std::string_view text, std::size_t at, std::int64_t& numbe
 // library would round it. Nothing for all else.
 std::optional<double> ParsePlain(std::string_view text) {
   static constexpr double kPowers[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
-  if (text.empty() || text.size() > 10) return std::nullopt;
+  if (text.empty() || text == "." || text.size() > 10) return std::nullopt;
   std::int64_t digits = 0;
   const std::size_t point = AddDigits(text, 0, digits);
   if (point == text.size()) return static_cast<double>(digits);
@@ -55,14 +66,18 @@ std::optional<double> ParsePlain(std::string_view text) {
   return static_cast<double>(digits) / kPowers[text.size() - point - 1];
 }
 
-double ParseMagnitude(std::string_view text) {
-  if (const std::optional<double> plain = ParsePlain(text)) return *plain;
-  if (!text.empty() && (text[0] == '-' || text[0] == '+')) return 0.0;
-  const auto format = TakeHexPrefix(text) ? std::chars_format::hex : std::chars_format::general;
+// Nothing for what is no number after its sign, such as a second sign.
+std::optional<double> ParseMagnitude(std::string_view text) {
+  if (const std::optional<double> plain = ParsePlain(text)) return plain;
+  if (!text.empty() && (text[0] == '-' || text[0] == '+')) return std::nullopt;
+  const bool hexadecimal = TakeHexPrefix(text);
+  const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
   double value = 0.0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value, format);
-  if (result.ec == std::errc::result_out_of_range) return OutOfRange(text);
-  return result.ec == std::errc() ? value : 0.0;
+  if (result.ec == std::errc::result_out_of_range) {
+    return OutOfRange(text.substr(0, static_cast<std::size_t>(result.ptr - text.data())), hexadecimal);
+  }
+  return result.ec == std::errc() ? std::optional(value) : std::nullopt;
 }
 
 // Only ASCII can be part of a number; the first other character ends it.
@@ -100,8 +115,9 @@ std::int64_t ParseDigits(std::string_view text, std::int64_t limit) {
 
 double ParseDecimal(std::string_view text) {
   const Signed number = SkipSign(text);
-  const double magnitude = ParseMagnitude(number.rest);
-  return number.negative ? -magnitude : magnitude;
+  const std::optional<double> magnitude = ParseMagnitude(number.rest);
+  if (!magnitude) return 0.0;
+  return number.negative ? -*magnitude : *magnitude;
 }
 
 double ParseDecimal(std::wstring_view text) { return ParseDecimal(std::string_view(AsciiHead(text))); }

@@ -26,6 +26,7 @@ struct Picture {
   std::vector<std::uint8_t> rgb;                  // 3 * width * height bytes, red first, rows from the top
   std::vector<std::uint8_t> alpha;                // width * height bytes, or empty when the whole picture is opaque
   std::size_t encodedSize = 0;                    // bytes of the file it was decoded from
+  bool isDrawing = false;                         // of lines and shapes: however many pixels it has, there were more
   std::shared_ptr<const PictureSource> source{};  // set: there are no pixels here
 
   static constexpr int kBitsPerPixel = 24;

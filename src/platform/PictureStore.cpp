@@ -1,46 +1,11 @@
 #include "platform/PictureStore.h"
 
-#include "platform/Base64.h"
-#include "platform/Host.h"
-#include "platform/Text.h"
-
 namespace xrpt {
 namespace {
 
-constexpr std::size_t kMaxImageFile = 128u << 20;
 // A picture of a million pixels is decoded anew in no time that anybody notices.
 constexpr std::size_t kMaxKept = 4u << 20;
-
-Path ImageFile(const std::wstring& id, const std::wstring& path) {
-  const Path folder = CurrentHost().setup->ImagesPath();
-  return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + L".img"));
-}
-
-std::optional<std::string> ReadEncoded(const std::wstring& id, const std::wstring& path) {
-  if (!IsSafeFileName(id) || !IsSafeSubPath(path)) return std::nullopt;
-  const std::optional<std::string> file = CurrentHost().files->Read(ImageFile(id, path), kMaxImageFile);
-  return file ? DecodeBase64(Xml2Text(*file)) : std::nullopt;
-}
-
-// Four bytes a pixel, as painters keep it.
-std::size_t PixelBytes(const Picture& picture) {
-  return 4 * static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
-}
-
-class StoredPicture final : public PictureSource {
- public:
-  StoredPicture(std::wstring id, std::wstring path) : id_(std::move(id)), path_(std::move(path)) {}
-  PicturePtr Decode(int width, int height) const override {
-    const std::optional<std::string> bytes = ReadEncoded(id_, path_);
-    PicturePtr picture = bytes ? CurrentHost().pictures->DecodeScaled(*bytes, width, height) : nullptr;
-    if (!picture) CurrentHost().pictureStore.Lose(id_, path_);
-    return picture;
-  }
-
- private:
-  std::wstring id_;
-  std::wstring path_;
-};
+constexpr std::size_t kPaintedBytes = 4;  // a pixel, as painters keep it
 
 }  // namespace
 
@@ -51,7 +16,7 @@ ImageRecord::~ImageRecord() {
 
 PicturePtr ImageRecord::Current() const {
   const std::lock_guard guard(store_.memory_->Lock());
-  if (!read_) Keep(store_.ReadImageFile(id_, path_));
+  if (!read_) Keep(store_.Read(*this));
   read_ = true;
   return picture_;
 }
@@ -83,10 +48,13 @@ ImageRecordPtr PictureStore::Attach(const std::wstring& id, const std::wstring& 
   return record;
 }
 
+// The records are held until the walk is over: the last holder of one may let go meanwhile, and with it the entry goes.
 void PictureStore::ReloadAll() {
+  std::vector<ImageRecordPtr> held;
   const std::lock_guard guard(memory_->Lock());
-  for (const auto& [key, entry] : records_) {
-    if (const ImageRecordPtr record = entry.lock()) record->Reload();
+  for (const auto& [key, entry] : records_) held.push_back(entry.lock());
+  for (const ImageRecordPtr& record : held) {
+    if (record) record->Reload();
   }
 }
 
@@ -95,19 +63,10 @@ std::size_t PictureStore::Count() const {
   return records_.size();
 }
 
-// The painters need the other half.
-bool PictureStore::MayKeep(std::size_t bytes) const {
+bool PictureStore::MayKeep(const Picture& outline) const {
+  const std::size_t bytes =
+      kPaintedBytes * static_cast<std::size_t>(outline.width) * static_cast<std::size_t>(outline.height);
   return bytes <= kMaxKept && kept_ + bytes <= memory_->Limit() / 2;
-}
-
-PicturePtr PictureStore::ReadImageFile(const std::wstring& id, const std::wstring& path) const {
-  const std::optional<std::string> bytes = ReadEncoded(id, path);
-  if (!bytes) return nullptr;
-  const PicturePtr outline = CurrentHost().pictures->Outline(*bytes);
-  if (!outline || MayKeep(PixelBytes(*outline))) return CurrentHost().pictures->Decode(*bytes);
-  auto picture = std::make_shared<Picture>(*outline);
-  picture->source = std::make_shared<StoredPicture>(id, path);
-  return picture;
 }
 
 void PictureStore::Lose(const std::wstring& id, const std::wstring& path) {

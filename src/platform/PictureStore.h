@@ -2,6 +2,7 @@
 // pages and undo steps show it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -46,6 +47,10 @@ using ImageRecordPtr = std::shared_ptr<ImageRecord>;
 
 class PictureStore {
  public:
+  // The decoded picture of an id and a path, or null. Called once a record, with the store's lock held.
+  using Reader = std::function<PicturePtr(const std::wstring& id, const std::wstring& path)>;
+  explicit PictureStore(Reader reader) : reader_(std::move(reader)) {}
+
   // The record of an id and a path, made when nobody holds it yet. The record goes with its last holder.
   ImageRecordPtr Attach(const std::wstring& id, const std::wstring& path);
   void ReloadAll();
@@ -53,18 +58,19 @@ class PictureStore {
   // The limit of all decoded pictures, the painters' included.
   const std::shared_ptr<PictureMemory>& Memory() const { return memory_; }
 
-  // A picture of the images folder: base64 text, XML-escaped, named id + ".img". Null when there is no such file, when
-  // it is no picture, and when id or path would leave the folder.
-  PicturePtr ReadImageFile(const std::wstring& id, const std::wstring& path) const;
+  // Whether a picture of this size may stay decoded; the painters need half of the memory. A larger one is decoded anew
+  // whenever it is painted.
+  bool MayKeep(const Picture& outline) const;
   // Its pixels turned out not to be readable: from now on there is no such picture, until it is reloaded.
   void Lose(const std::wstring& id, const std::wstring& path);
 
  private:
   friend class ImageRecord;
   using Key = std::pair<std::wstring, std::wstring>;
+  PicturePtr Read(const ImageRecord& record) const { return reader_ ? reader_(record.id_, record.path_) : nullptr; }
   void Forget(const ImageRecord& record);
-  bool MayKeep(std::size_t bytes) const;
 
+  Reader reader_;
   // Its lock guards the list, and the picture of every record.
   std::shared_ptr<PictureMemory> memory_ = std::make_shared<PictureMemory>();
   std::size_t kept_ = 0;  // bytes of decoded pictures

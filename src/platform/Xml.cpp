@@ -279,9 +279,13 @@ XmlNode XmlDocument::Create(std::string_view rootTag) {
 }
 
 bool XmlDocument::Load(const std::filesystem::path& path, XmlError* error) {
+  return Load(*CurrentHost().files, path, error);
+}
+
+bool XmlDocument::Load(FileService& files, const std::filesystem::path& path, XmlError* error) {
   path_ = path;
   FileError fileError;
-  std::optional<std::string> bytes = CurrentHost().files->Read(path, kMaxBytes, &fileError);
+  std::optional<std::string> bytes = files.Read(path, kMaxBytes, &fileError);
   if (bytes) return Parse(std::move(*bytes), error);
   impl_ = std::make_unique<Impl>();
   if (error) *error = {fileError.reason, 0};

@@ -15,6 +15,7 @@
 
 namespace xrpt {
 
+class FileService;
 class XmlWriter;
 
 // Why a text is no document. `offset` counts bytes from its start; `message` is for people.
@@ -121,7 +122,7 @@ struct XmlName {
 };
 
 // Looks up the children of one element, which it goes through once. Among children of one name the first counts; names
-// asked for in the order of the file are found at once.
+// asked for in the order of the file are found at once. Each name is asked for once: a second time it may be missed.
 class XmlCursor {
  public:
   explicit XmlCursor(const XmlNode& parent);
@@ -164,7 +165,9 @@ class XmlDocument {
   const std::filesystem::path& FileName() const { return path_; }
   // Empties the document and gives it a root.
   XmlNode Create(std::string_view rootTag);
-  // Reads a file through the host's file service and remembers its name. False leaves the document without a root.
+  // Reads a file and remembers its name; through the installed host's files when told no others. False leaves the
+  // document without a root.
+  bool Load(FileService& files, const std::filesystem::path& path, XmlError* error = nullptr);
   bool Load(const std::filesystem::path& path, XmlError* error = nullptr);
   // Parses a whole document. False leaves the document without a root.
   bool Parse(std::string text, XmlError* error = nullptr);

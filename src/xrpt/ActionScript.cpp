@@ -18,10 +18,21 @@ using Check = bool (*)(std::string_view);
 bool IsInteger(std::string_view word) { return ScriptInteger(word).has_value(); }
 bool IsCount(std::string_view word) { return ScriptInteger(word).value_or(-1) >= 0; }
 bool IsPositive(std::string_view word) { return ScriptInteger(word).value_or(0) > 0; }
+// Beyond what any screen has; within it pixels can be calculated with, and a script ends.
+template <int Limit>
+bool IsUpTo(std::string_view word) {
+  return IsPositive(word) && *ScriptInteger(word) <= Limit;
+}
+constexpr int kMostPixels = 100'000;
+constexpr int kMostDpi = 10'000;
+constexpr int kMostTicks = 1'000'000;
+constexpr double kMostZoom = 1'000.0;
 bool IsNumber(std::string_view word) { return ScriptNumber(word).has_value(); }
 bool IsZoom(std::string_view word) {
-  return word == "fit" || word == "width" || ScriptNumber(word).value_or(0.0) > 0.0;
+  const double zoom = ScriptNumber(word).value_or(0.0);
+  return word == "fit" || word == "width" || (zoom > 0.0 && zoom <= kMostZoom);
 }
+bool IsAnswer(std::string_view word) { return word == "yes" || word == "no"; }
 bool IsAny(std::string_view) { return true; }
 bool IsTool(std::string_view word) { return ToolOf(word).has_value(); }
 bool IsKey(std::string_view word) { return KeyOf(word).has_value(); }
@@ -36,8 +47,8 @@ struct Shape {
 
 const std::vector<Shape>& Shapes() {
   static const std::vector<Shape> shapes = {
-      {"client", {IsPositive, IsPositive}, nullptr},
-      {"dpi", {IsPositive, IsPositive}, nullptr},
+      {"client", {IsUpTo<kMostPixels>, IsUpTo<kMostPixels>}, nullptr},
+      {"dpi", {IsUpTo<kMostDpi>, IsUpTo<kMostDpi>}, nullptr},
       {"zoom", {IsZoom}, nullptr},
       {"scroll", {IsCount, IsCount}, nullptr},
       {"page", {IsPositive}, nullptr},
@@ -50,8 +61,9 @@ const std::vector<Shape>& Shapes() {
       {"key", {IsKey}, IsModifier},
       {"select", {}, IsAny},
       {"command", {IsCommand}, IsAny},
-      {"tick", {IsCount}, nullptr},
+      {"tick", {IsUpTo<kMostTicks>}, nullptr},
       {"set", {IsAny, IsAny, IsAny}, IsAny},
+      {"answer", {IsAnswer}, nullptr},
       {"print", {}, nullptr},
   };
   return shapes;

@@ -14,6 +14,7 @@ namespace {
 struct EditOptions : CommonOptions {
   std::string output;
   std::string actions;
+  bool comfort = false;
 };
 
 constexpr std::size_t kMaxScript = 64u << 20;
@@ -41,7 +42,7 @@ int Edit(const EditOptions& options) {
     PrintError(AtLine(options.actions, error.line), error.message);
     return kCouldNotRun;
   }
-  ScriptRunner runner;
+  ScriptRunner runner(options.comfort ? EditingOptions::Comfort() : EditingOptions());
   if (!OpenIn(runner.Frame(), options)) return kCouldNotRun;
   for (const Action& action : *actions) {
     const std::string fault = runner.Run(action);
@@ -64,6 +65,7 @@ void AddEdit(CLI::App& program, int& status) {
   command->add_option("--actions", options->actions, "The action file (-: standard input)")
       ->required()
       ->type_name("FILE");
+  command->add_flag("--comfort", options->comfort, "Edit with the desktop's options instead of the library's defaults");
   options->AddFolders(*command);
   options->AddDpi(*command);
   command->footer(
@@ -72,7 +74,7 @@ void AddEdit(CLI::App& program, int& status) {
       "  tool label|image|date|formule|conditioned|reportGraph|analogBar|primitive|pointer\n"
       "  press X Y [ctrl] [shift] | move X Y | release X Y | lose-capture\n"
       "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
-      "  set ID FIELD VALUE | print\n"
+      "  set ID FIELD VALUE | answer yes|no | print\n"
       "Examples:\n  xrpt edit report.xrpt -o out.xrpt --actions move-logo.txt\n"
       "  echo 'command SelectAll' | xrpt edit report.xrpt -o out.xrpt --actions -");
   command->callback([options, &status] { status = Edit(*options); });

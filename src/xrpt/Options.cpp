@@ -112,8 +112,8 @@ bool WriteOutput(const std::string& file, const std::string& bytes) {
   return IsSaved(file, CurrentHost().files->Write(file, bytes));
 }
 
-bool SaveReport(RVReport& report, const std::string& file) {
-  return file == "-" ? PrintReport(report) : IsSaved(file, report.SaveTo(file));
+bool SaveReport(const RVReport& report, const std::string& file) {
+  return file == "-" ? PrintReport(report) : IsSaved(file, report.WriteTo(file));
 }
 
 }  // namespace xrpt

@@ -64,6 +64,6 @@ bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options);
 // Writes a file through the host; false and a line on standard error when that fails.
 bool WriteOutput(const std::string& file, const std::string& bytes);
 // The same for a report; the file "-" is standard output.
-bool SaveReport(RVReport& report, const std::string& file);
+bool SaveReport(const RVReport& report, const std::string& file);
 
 }  // namespace xrpt

@@ -39,7 +39,7 @@ class ScriptWindow final : public WindowPort {
   Cursor cursor_ = Cursor::Arrow;
 };
 
-// No user to ask: questions are answered with no, lists cancelled.
+// No user to ask: questions are answered as the script says, no at first; lists are cancelled.
 class ScriptEditor final : public EditorPort {
  public:
   explicit ScriptEditor(const ScriptScreen& screen) : screen_(screen) {}
@@ -50,9 +50,15 @@ class ScriptEditor final : public EditorPort {
   void PagesChanged() override {}
   void StateChanged() override {}
   bool RunCommand(const char*) override { return false; }
-  Answer Ask(int) override { return Answer::No; }
+  Answer Ask(int textId) override {
+    asked.push_back(textId);
+    return answer;
+  }
   void Tell(int) override {}
   std::optional<std::wstring> ChooseReport(const std::wstring&) override { return std::nullopt; }
+
+  Answer answer = Answer::No;
+  std::vector<int> asked;
 
  private:
   const ScriptScreen& screen_;

@@ -1,5 +1,6 @@
 #include "xrpt/ScriptRunner.h"
 
+#include "canvas/UndoTexts.h"
 #include "editor/CommandCatalogue.h"
 #include "editor/SelectedFields.h"
 #include "platform/Json.h"
@@ -50,6 +51,7 @@ const std::vector<ScriptRunner::Row>& ScriptRunner::Steps() {
                                          {"command", &R::RunCommand},
                                          {"tick", &R::Tick},
                                          {"set", &R::Set},
+                                         {"answer", &R::SetAnswer},
                                          {"print", &R::Print}};
   return steps;
 }
@@ -119,9 +121,9 @@ std::string ScriptRunner::ShowPage(Arguments arguments) {
 }
 
 std::string ScriptRunner::Grid(Arguments arguments) {
-  RVGlobalProperties& page = Page().Page().properties;
-  page.xgrid = NumberAt(arguments, 0);
-  page.ygrid = NumberAt(arguments, 1);
+  PageEdit edit = Page().Edit({text::kGridSwitched, 0});
+  edit.Properties().xgrid = NumberAt(arguments, 0);
+  edit.Properties().ygrid = NumberAt(arguments, 1);
   return {};
 }
 
@@ -183,10 +185,15 @@ std::string ScriptRunner::Set(Arguments arguments) {
   const std::wstring id = FromUtf8(arguments[0]);
   const RVCardControl* card = Page().GetControlById(id);
   if (!card) return "there is no card " + arguments[0];
-  const FieldRow* row = FindField(card->GetRuntimeClass().table, arguments[1]);
+  const CardRow* row = FindField(card->GetRuntimeClass().table, arguments[1]);
   if (!row) return std::string("a ") + card->GetRuntimeClass().tag + " has no field " + arguments[1];
-  AssignToCard(*Page().EditCard(id), *row, Joined(arguments, 2));
-  Page().CommitEdit();
+  PageEdit edit = Page().Edit({text::kChangeField, 1, row->panel.textId});
+  AssignToCard(*edit.Card(id), *row, Joined(arguments, 2));
+  return {};
+}
+
+std::string ScriptRunner::SetAnswer(Arguments arguments) {
+  editor_.answer = arguments[0] == "yes" ? Answer::Yes : Answer::No;
   return {};
 }
 

@@ -11,7 +11,7 @@ namespace xrpt {
 
 class ScriptRunner {
  public:
-  ScriptRunner() : editor_(screen_), frame_(editor_) {}
+  explicit ScriptRunner(const EditingOptions& options = {}) : editor_(screen_), frame_(editor_, options) {}
 
   RVEditControlWnd& Frame() { return frame_; }
   // Empty when done; otherwise why the action cannot be carried out (no such card, no such field).
@@ -42,6 +42,7 @@ class ScriptRunner {
   std::string RunCommand(Arguments arguments);
   std::string Tick(Arguments arguments);
   std::string Set(Arguments arguments);
+  std::string SetAnswer(Arguments arguments);
   std::string Print(Arguments arguments);
 
   RVEditTemplateWnd& Page() { return frame_.CurrentPage(); }

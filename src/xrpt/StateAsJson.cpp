@@ -5,15 +5,16 @@
 namespace xrpt {
 namespace {
 
-void WriteSelection(JsonWriter& json, const RVSelection& selection) {
+void WriteSelection(JsonWriter& json, const RVEditTemplateWnd& page) {
+  const std::vector<Rect> rects = page.SelectedRects();
   json.BeginArray();
-  for (const RVSelection::Entry& entry : selection.Entries()) {
+  for (std::size_t i = 0; i < rects.size(); ++i) {
     json.BeginObject();
     json.Key("id");
-    json.String(entry.id);
+    json.String(page.Selection().Entries()[i].id);
     json.Key("rect");
     json.BeginArray();
-    for (const int edge : {entry.rect.left, entry.rect.top, entry.rect.right, entry.rect.bottom}) json.Int(edge);
+    for (const int edge : {rects[i].left, rects[i].top, rects[i].right, rects[i].bottom}) json.Int(edge);
     json.EndArray();
     json.EndObject();
   }
@@ -71,7 +72,7 @@ std::string StateAsJson(RVEditControlWnd& frame) {
   json.BeginObject();
   WriteNumbers(json, frame);
   json.Key("selection");
-  WriteSelection(json, page.Selection());
+  WriteSelection(json, page);
   json.Key("cards");
   json.BeginArray();
   for (std::size_t i = 0; i < page.Page().cards.Size(); ++i) WriteCard(json, page.Page().cards[i]);

@@ -20,6 +20,7 @@ int Run(int argc, char** argv) {
   xrpt::AddEdit(program, status);
   xrpt::AddInfo(program, status);
   xrpt::AddRender(program, status);
+  xrpt::AddEvaluate(program, status);
   xrpt::AddClean(program, status);
   try {
     program.parse(argc, argv);

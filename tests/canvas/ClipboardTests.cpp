@@ -2,6 +2,7 @@
 #include <chrono>
 
 #include "canvas/CanvasDriver.h"
+#include "canvas/UndoTexts.h"
 #include "model/RVCardConditioned.h"
 
 namespace xrpt {
@@ -54,7 +55,7 @@ TEST_F(ClipboardTest, WhatWouldStickOutGoesToTheEdge) {
 TEST_F(ClipboardTest, AnotherPageTakesThem) {
   Canvas from;
   from.Add(L"a", {20, 20, 40, 20});
-  static_cast<RVCardLabel*>(from.wnd.EditCard(L"a"))->text = L"\u20ac <&> \U0001F600";
+  static_cast<RVCardLabel*>(from.wnd.Edit({text::kChange, 1}).Card(L"a"))->text = L"\u20ac <&> \U0001F600";
   from.wnd.SelectControls({L"a"});
   from.wnd.ControlCopy();
   EXPECT_NE(Held().find("<controlClipboard>"), std::string::npos);

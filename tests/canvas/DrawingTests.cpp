@@ -41,7 +41,7 @@ TEST_F(DrawingTest, DrawingInsertsOnTop) {
     if (!inserts) continue;
     EXPECT_EQ(posted.front().message, Message::CardInserted) << row.name;
     ExpectBox(RectOf(canvas.page.cards[0]), row.wanted, row.name);
-    EXPECT_TRUE(canvas.wnd.Selection().IsSelected(canvas.page.cards[0].id)) << row.name;
+    EXPECT_TRUE(canvas.wnd.Selection().IsSelected(canvas.page.cards[0])) << row.name;
     EXPECT_EQ(canvas.wnd.Selection().Size(), 1u) << row.name;
   }
 }

@@ -83,8 +83,8 @@ TEST_F(GestureTest, StatesAreEnteredAndLeft) {
       }
       EXPECT_EQ(canvas.wnd.CurrentMouseState(), 0) << row.name;
       EXPECT_TRUE(canvas.wnd.DraggingRects().empty()) << row.name;
-      EXPECT_TRUE(canvas.wnd.Selection().IsRectUndefined()) << row.name;
-      EXPECT_EQ(canvas.wnd.Selection().draggingStyle, 0) << row.name;
+      EXPECT_TRUE(!canvas.wnd.CurrentGesture().Band()) << row.name;
+      EXPECT_EQ(canvas.wnd.CurrentGesture().Style(), 0) << row.name;
       EXPECT_EQ(canvas.port.timers.count(1), 1u) << row.name;
     }
   }
@@ -255,7 +255,7 @@ TEST_F(GestureTest, ASmallCardMoves) {
   canvas.Add(L"a", {20, 20, 1.6, 1.6});
   canvas.wnd.SelectControls({L"a"});
   canvas.Press({204, 204});
-  EXPECT_EQ(canvas.wnd.Selection().draggingStyle & kMoveAll, canvas.wnd.Selection().draggingStyle);
+  EXPECT_EQ(canvas.wnd.CurrentGesture().Style() & kMoveAll, canvas.wnd.CurrentGesture().Style());
   canvas.port.ReleaseCapture();
   canvas.wnd.SelectControls({L"a"});
   canvas.wnd.OnKeyDown(key::Right, kCtrl);
@@ -287,7 +287,7 @@ TEST_F(GestureTest, ACardOfFixedSizeOnlyMoves) {
   canvas.wnd.SelectControls({L"a", L"fixed"});
   canvas.Press({399, 250});
   canvas.Move({411, 250});
-  EXPECT_EQ(canvas.wnd.Selection().Entries()[1].rect, (Rect{600, 200, 800, 300})) << "its outline stays";
+  EXPECT_EQ(canvas.wnd.SelectedRects()[1], (Rect{600, 200, 800, 300})) << "its outline stays";
   canvas.Release({411, 250});
   ExpectBox(canvas.Box(L"a"), {20, 20, 43, 20}, "resized to the grid");
   ExpectBox(canvas.Box(L"fixed"), {100, 20, 40.03, 20}, "left alone");

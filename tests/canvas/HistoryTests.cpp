@@ -62,14 +62,12 @@ TEST_F(HistoryTest, EveryCommandIsOneStep) {
       {"turn", [](Canvas& c) { c.wnd.SetOrientation(0); }, {text::kTurnPage, 0}},
       {"edit",
        [](Canvas& c) {
-         c.wnd.EditCard(L"a")->field = L"F";
-         c.wnd.CommitEdit();
+         c.wnd.Edit({text::kChange, 2}).Card(L"a")->field = L"F";
        },
        {text::kChange, 2}},
       {"edit page",
        [](Canvas& c) {
-         c.page.properties.name = L"N";
-         c.wnd.CommitPageEdit();
+         c.wnd.Edit({text::kChangePage, 0}).Properties().name = L"N";
        },
        {text::kChangePage, 0}},
   };
@@ -107,9 +105,9 @@ TEST_F(HistoryTest, WhatIsNoStep) {
   EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "the grid";
   canvas.wnd.SetSurround(0x123456);
   EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "the colour round the page";
-  canvas.wnd.EditCard(L"a");
-  EXPECT_FALSE(canvas.wnd.AddUndoInfo(false)) << "a copy that is equal";
-  canvas.wnd.CommitEdit();
+  PageEdit edit = canvas.wnd.Edit({text::kChange, 1});
+  edit.Card(L"a");
+  EXPECT_FALSE(edit.End()) << "a copy that is equal";
   EXPECT_EQ(canvas.wnd.UndoCount(), steps);
   EXPECT_TRUE(canvas.wnd.AddUndoInfo(true)) << "unless it is forced";
 }
@@ -192,12 +190,103 @@ TEST_F(HistoryTest, UndoEndsAGesture) {
     canvas.Move({500, 700});
     canvas.wnd.ControlUndo();
     EXPECT_FALSE(canvas.port.captured);
-    EXPECT_TRUE(canvas.wnd.Selection().IsRectUndefined());
+    EXPECT_TRUE(!canvas.wnd.CurrentGesture().Band());
     const std::string before = canvas.Saved();
     canvas.Release({500, 700});
     EXPECT_EQ(canvas.Saved(), before);
     ExpectBox(canvas.Box(L"a"), {20, 20, 40, 20}, "a");
   }
+}
+
+// Two cards of a file may share an id, or have none: a gesture moves the one that was pressed.
+TEST_F(HistoryTest, CardsOfOneIdAreTwoCards) {
+  for (const wchar_t* id : {L"same", L""}) {
+    Canvas canvas;
+    canvas.Add(id, {100, 20, 40, 20});
+    canvas.Add(id, {20, 20, 40, 20});
+    canvas.Drag({700, 250}, {710, 260});
+    EXPECT_EQ(canvas.wnd.Selection().Size(), 1u);
+    EXPECT_EQ(canvas.page.cards[0].x, 20);
+    EXPECT_NEAR(canvas.page.cards[1].x, 102, 1e-9) << "the one under the pointer";
+    canvas.wnd.ControlUndo();
+    EXPECT_EQ(canvas.page.cards[1].x, 100);
+  }
+}
+
+TEST_F(HistoryTest, CardsSayWhenTheyBeginToMoveAndWhenTheyStop) {
+  Canvas canvas;
+  canvas.AddTwo();
+  const auto set = [&](Behavior behavior) {
+    PageEdit edit = canvas.wnd.Edit({text::kChange, 1});
+    auto& label = static_cast<RVCardLabel&>(edit.Card(0));
+    label.animation.behavior = behavior;
+    label.text = std::wstring(200, L'x');
+  };
+  set(Behavior::Scroll);
+  EXPECT_EQ(canvas.wnd.AnimatedCards(), 1);
+  canvas.wnd.ControlUndo();
+  EXPECT_EQ(canvas.wnd.AnimatedCards(), 0);
+  std::vector<Message> told;
+  for (const MessageData& message : canvas.Posted()) {
+    if (message.message == Message::CardAnimationStarted || message.message == Message::CardAnimationStopped)
+      told.push_back(message.message);
+  }
+  EXPECT_EQ(told, (std::vector{Message::CardAnimationStarted, Message::CardAnimationStopped}));
+}
+
+// Beyond the contract: what the desktop asks for.
+TEST_F(HistoryTest, ComfortKeepsStoredDigitsAndPassesSelectionsOver) {
+  Canvas canvas;
+  canvas.wnd.SetOptions(EditingOptions::Comfort());
+  canvas.Add(L"a", {20.123, 20.456, 40.789, 20.321});
+  const std::size_t steps = canvas.wnd.UndoCount();
+  canvas.Press({300, 250});
+  canvas.Release({300, 250});
+  canvas.Drag({50, 50}, {60, 60});
+  EXPECT_EQ(canvas.Selected(), "") << "a band from beside the page";
+  canvas.Press({300, 250});
+  canvas.Move({350, 250});
+  canvas.Move({300, 250});
+  canvas.Release({300, 250});
+  EXPECT_EQ(canvas.wnd.UndoCount(), steps) << "selecting, and ending where it began, are no steps";
+  canvas.Drag({300, 250}, {310, 250});
+  EXPECT_NEAR(canvas.Box(L"a").x, 22.123, 1e-9);
+  EXPECT_EQ(canvas.Box(L"a").y, 20.456);
+  EXPECT_EQ(canvas.Box(L"a").width, 40.789);
+  const CardRect moved = canvas.Box(L"a");
+  const Rect rect = canvas.wnd.SelectedRects().front();
+  canvas.Drag({rect.right - 1, 250}, {rect.right + 9, 250});
+  EXPECT_EQ(canvas.Box(L"a").x, moved.x);
+  EXPECT_EQ(canvas.Box(L"a").height, moved.height);
+  EXPECT_GT(canvas.Box(L"a").width, moved.width + 1.9);
+  EXPECT_EQ(canvas.wnd.UndoCount(), steps + 2);
+}
+
+TEST_F(HistoryTest, RightClickSelectsWhatIsUnderItWhenAskedTo) {
+  for (const bool comfort : {false, true}) {
+    Canvas canvas;
+    if (comfort) canvas.wnd.SetOptions(EditingOptions::Comfort());
+    canvas.AddTwo();
+    canvas.wnd.SelectControls({L"a"});
+    canvas.wnd.OnRButtonUp({700, 250});
+    EXPECT_EQ(canvas.Selected(), comfort ? "b" : "a");
+  }
+}
+
+// What could not be pasted again is refused before anything is cut.
+TEST_F(HistoryTest, TooMuchForTheClipboardIsNeitherCopiedNorCut) {
+  Canvas canvas;
+  for (std::size_t i = 0; i <= ClipboardReader::kMostCards; ++i) {
+    auto card = std::make_unique<RVCardLabel>();
+    card->SetParent(&canvas.page);
+    canvas.page.cards.PushBack(std::move(card));
+  }
+  canvas.wnd.ControlSelectAll();
+  canvas.wnd.ControlCut();
+  EXPECT_EQ(canvas.page.cards.Size(), ClipboardReader::kMostCards + 1);
+  ASSERT_FALSE(canvas.parent.messages.empty());
+  EXPECT_EQ(canvas.parent.messages.back().message, Message::Refused);
+  EXPECT_EQ(canvas.parent.messages.back().value, text::kTooMuchForClipboard);
 }
 
 // A page read anew has a history of its own.

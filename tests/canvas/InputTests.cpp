@@ -190,10 +190,10 @@ TEST_F(InputTest, SelectingByIdPicksTheCard) {
   canvas.wnd.SelectControls({L"a"});
   EXPECT_TRUE(canvas.wnd.SelectControlById(L"b"));
   EXPECT_EQ(canvas.Selected(), "b");
-  EXPECT_EQ(canvas.wnd.PickedCardId(), L"b");
+  EXPECT_EQ(canvas.wnd.PickedCard(), canvas.page.cards.Find(L"b")->Key());
   EXPECT_EQ(canvas.Posted().back().cardId, L"b");
   EXPECT_FALSE(canvas.wnd.SelectControlById(L"nobody"));
-  EXPECT_EQ(canvas.wnd.PickedCardId(), L"") << "the former pick is let go of";
+  EXPECT_EQ(canvas.wnd.PickedCard(), 0u) << "the former pick is let go of";
   EXPECT_EQ(canvas.Selected(), "b");
 }
 

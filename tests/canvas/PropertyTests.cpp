@@ -131,7 +131,7 @@ void CheckInvariants(const Canvas& canvas) {
   }
   RC_ASSERT(canvas.wnd.CurrentMouseState() == kIdle);
   RC_ASSERT(!canvas.port.captured);
-  RC_ASSERT(canvas.wnd.Selection().IsRectUndefined());
+  RC_ASSERT(!canvas.wnd.CurrentGesture().Band());
   RC_ASSERT(canvas.wnd.UndoCount() >= 1u && canvas.wnd.UndoCount() <= 20u);
 }
 
@@ -195,8 +195,8 @@ TEST_F(PropertyTest, UndoLeadsToTheStartAndRedoToTheEnd) {
 // edge, since the edge of the whole is what the page holds.
 void MoveAll(Canvas& canvas) {
   if (Chance(20)) return canvas.wnd.OnKeyDown(Between(key::Left, key::Down), {Chance(30), false});
-  const RVSelection::Entry& entry = canvas.wnd.Selection().Entries().front();
-  const Point from{(entry.rect.left + entry.rect.right) / 2, (entry.rect.top + entry.rect.bottom) / 2};
+  const Rect rect = canvas.wnd.SelectedRects().front();
+  const Point from{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
   canvas.Press(from);
   canvas.Move({from.x + Between(-1500, 1500), from.y + Between(-1500, 1500)});
   canvas.Release(canvas.wnd.LastMousePoint());

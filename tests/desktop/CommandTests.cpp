@@ -3,17 +3,22 @@
 
 #include <QAction>
 #include <QLayout>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTranslator>
 #include <set>
 
 #include "desktop/WindowTest.h"
 #include "desktop/dialogs/CommandPalette.h"
 #include "desktop/look/Icons.h"
+#include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/ribbon/Ribbon.h"
 #include "desktop/ribbon/RibbonButton.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/CommandCatalogue.h"
 #include "host/TextCatalogue.h"
 #include "model/CardRegistry.h"
@@ -87,11 +92,11 @@ TEST_F(CommandWindow, DarkThemeLeavesThePageWhiteAndTheReportUnchanged) {
   Run("DarkTheme");
   EXPECT_TRUE(IsDarkTheme());
   EXPECT_FALSE(Frame().IsModified());
-  EXPECT_EQ(Page().Page().properties.backcolor, ThemeSurround(true));
+  EXPECT_EQ(Page().Surround(), ThemeSurround(true));
   const QImage shown = View().viewport()->grab().toImage();
   EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::white));
   Run("DarkTheme");
-  EXPECT_EQ(Page().Page().properties.backcolor, ThemeSurround(false));
+  EXPECT_EQ(Page().Surround(), ThemeSurround(false));
 }
 
 TEST_F(CommandWindow, NarrowRibbonFoldsGroupsFromTheRight) {
@@ -112,6 +117,19 @@ TEST_F(CommandWindow, NarrowRibbonFoldsGroupsFromTheRight) {
   EXPECT_EQ(rooms.front(), 0);
   EXPECT_LT(rooms[0], rooms[1]);
   EXPECT_LT(rooms[1], rooms[2]);
+}
+
+TEST(Toolkit, ItsOwnTextsAreInTheUsersLanguage) {
+  const auto yes = [] {
+    const QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::Cancel);
+    return QPair(box.button(QMessageBox::Yes)->text().remove(QLatin1Char('&')).toStdString(),
+                 box.button(QMessageBox::Cancel)->text().remove(QLatin1Char('&')).toStdString());
+  };
+  EXPECT_EQ(yes(), qMakePair(std::string("Yes"), std::string("Cancel")));
+  ASSERT_TRUE(TranslateToolkit(*qApp, "es_ES.UTF-8"));
+  EXPECT_EQ(yes(), qMakePair(std::string("Sí"), std::string("Cancelar")));
+  for (QTranslator* translator : qApp->findChildren<QTranslator*>()) delete translator;
+  EXPECT_FALSE(TranslateToolkit(*qApp, "xx"));
 }
 
 TEST(Labels, TwoLinesOfNearlyEqualLength) {

@@ -110,7 +110,7 @@ TEST_F(PageViewTest, EachPageKeepsItsPlace) {
 
 // One canvas pixel of a frame is a block of device pixels, with nothing blurred in between.
 TEST_F(PageViewTest, FramesAreCrispOnDenseScreens) {
-  Page().Page().properties.xgrid = -5.0;
+  Page().Edit({}).Properties().xgrid = -5.0;
   const QSize size = View().viewport()->size();
   PageImage once;
   PageImage twice;

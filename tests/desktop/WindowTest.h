@@ -16,6 +16,20 @@
 
 namespace xrpt {
 
+// The widgets of a class of ours within another; the toolkit's own search knows only its classes.
+template <class Widget>
+std::vector<Widget*> PartsOf(const QWidget& widget) {
+  std::vector<Widget*> parts;
+  for (QWidget* part : widget.findChildren<QWidget*>()) {
+    if (auto* wanted = dynamic_cast<Widget*>(part)) parts.push_back(wanted);
+  }
+  return parts;
+}
+template <class Widget>
+Widget& PartOf(const QWidget& widget) {
+  return *PartsOf<Widget>(widget).at(0);
+}
+
 inline constexpr wchar_t kSample[] = L"Consumo_mensual";
 
 class WindowTest : public HostTest {
@@ -55,8 +69,8 @@ class WindowTest : public HostTest {
   std::wstring CardWith(std::string_view field, std::wstring_view text) {
     const CardList& cards = Page().Page().cards;
     for (std::size_t i = 0; i < cards.Size(); ++i) {
-      const FieldRow* row = FindField(cards[i].GetRuntimeClass().table, field);
-      if (row && row->text(&cards[i]) == text) return cards[i].id;
+      const CardRow* row = FindField(cards[i].GetRuntimeClass().table, field);
+      if (row && row->text(cards[i]) == text) return cards[i].id;
     }
     return {};
   }

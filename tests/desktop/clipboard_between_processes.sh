@@ -32,7 +32,7 @@ start() {
   process=$!
   started="$started $process"
   window=$(timeout 20 xdotool search --sync --onlyvisible --pid "$process" | head -n 1)
-  sleep 1
+  sleep 2
 }
 keys() {
   xdotool windowfocus --sync "$1"
@@ -48,6 +48,10 @@ second=$window
 before=$(cards second)
 keys "$first" ctrl+e ctrl+c
 keys "$second" ctrl+v ctrl+s
-after=$(cards second)
+for _ in $(seq 30); do
+  after=$(cards second)
+  [ "$after" -gt "$before" ] && break
+  sleep 0.3
+done
 echo "texts and pictures in the second editor's report: $before before, $after after pasting"
 [ "$after" -gt "$before" ]

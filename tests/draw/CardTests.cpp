@@ -4,7 +4,6 @@
 #include "draw/Drawing.h"
 #include "model/CardRegistry.h"
 #include "model/DateFormat.h"
-#include "model/MomentText.h"
 #include "model/NumberFormat.h"
 #include "model/RVAnalogBar.h"
 #include "model/RVCardButton.h"
@@ -15,6 +14,7 @@
 #include "model/RVCardImage.h"
 #include "model/RVCardPrimitive.h"
 #include "model/RVCardReportGraph.h"
+#include "model/RVReport.h"
 #include "model/draw/AnalogScale.h"
 
 namespace xrpt {
@@ -43,8 +43,9 @@ TEST_F(CardDrawTest, ReadsMomentsAsPeopleWriteThem) {
       {L"999999999999 1 1", L"-"},
   };
   for (const auto& row : rows) {
-    const auto moment = ReadMoment(row.text, *CurrentHost().locale);
-    const std::wstring shown = moment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", *moment, *CurrentHost().locale) : L"-";
+    RVDateTime moment{};
+    const bool isMoment = host->dates->String2DateTime(row.text, moment);
+    const std::wstring shown = isMoment ? ParseDate(L"dd/MM/yyyy HH:mm:ss", moment, *host->locale) : L"-";
     EXPECT_EQ(shown, row.shown) << ToUtf8(row.text);
   }
 }
@@ -143,6 +144,18 @@ TEST_F(CardDrawTest, ConditionedCardsDrawTheirAlternativeInTheirOwnRectangle) {
   EXPECT_EQ(card.cards[1]->x, 150.0);
   draw.flag1 = 0;
   EXPECT_EQ(Recorded(card, draw).Count(CallKind::FillPolygon), 0u);
+}
+
+TEST_F(CardDrawTest, PicturesStandOnTheGroundTheyAreGiven) {
+  auto card = CardOf<RVCardImage>(20, 10);
+  for (const Color ground : {Rgb(0xFF, 0xFF, 0x00), kWhite, kBlack}) {
+    card.backcolor = ground;
+    EXPECT_EQ(Recorded(card).First(CallKind::FillRect).color, ground);
+  }
+  card.backcolor = kNoColor;
+  tagDraw paper = DrawAt();
+  paper.flag1 = 0;
+  EXPECT_EQ(Recorded(card, paper).calls.size(), 0u);
 }
 
 TEST_F(CardDrawTest, ShapesKeepTheirContourInside) {
@@ -311,7 +324,7 @@ TEST_F(CardDrawTest, AnalogBarsLeaveOutMarksThatWouldTouchOthers) {
 // Every kind, filled so that all its branches have something to draw.
 std::vector<std::unique_ptr<RVCardControl>> OneOfEach() {
   std::vector<std::unique_ptr<RVCardControl>> cards;
-  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().create());
+  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().Create());
   for (const auto& card : cards) {
     if (auto* label = dynamic_cast<RVCardLabel*>(card.get())) label->text = L"Some text of two lines\nor three";
     if (auto* formule = dynamic_cast<RVCardFormule*>(card.get())) formule->value = L"1e308";
@@ -327,6 +340,41 @@ std::vector<std::unique_ptr<RVCardControl>> OneOfEach() {
     }
   }
   return cards;
+}
+
+// A report with one of each kind, read, painted and written.
+std::string WorkOn(Host& services, const Path& file, RecordingGraphics& graphics) {
+  RVReport report(services);
+  EXPECT_TRUE(report.LoadFile(file).loaded);
+  const RVReportPage& page = *report.pages.front();
+  PaintPage(graphics, page, DrawAt());
+  for (std::size_t i = 0; i < page.cards.Size(); ++i) page.cards[i].Draw(graphics, DrawAt());
+  return report.TemplateText();
+}
+
+TEST_F(CardDrawTest, APageNeedsNoInstalledHost) {
+  RVReport made;
+  RVCardConditioned container;
+  for (auto& card : OneOfEach()) {
+    if (NewPageCard(card->GetRuntimeClass().tag)) {
+      made.pages.front()->cards.PushBack(std::move(card));
+    } else {
+      container.cards.push_back(std::move(card));
+    }
+  }
+  made.pages.front()->cards.PushBack(container.GetClone());
+  const Path file = TestHost::WriteFile(host.Folder() / "all.xrpt", made.TemplateText());
+  RecordingGraphics installed;
+  RecordingGraphics handed;
+  const int before = host.guids->count;
+  const std::string expected = WorkOn(*host, file, installed);
+  Host* const kept = InstallHost(nullptr);
+  host.guids->count = before;
+  EXPECT_EQ(WorkOn(*kept, file, handed), expected);
+  InstallHost(kept);
+  EXPECT_GT(installed.calls.size(), 100u);
+  EXPECT_EQ(handed.calls.size(), installed.calls.size());
+  EXPECT_EQ(handed.Texts(), installed.Texts());
 }
 
 const double kHostile[] = {0.0,
@@ -352,8 +400,9 @@ TEST_F(CardDrawTest, HostilePlacesAndSizesAreDrawnInBoundedSteps) {
       card->width = card->height = value;
       EXPECT_LT(Recorded(*card).calls.size(), kMostCalls) << card->GetRuntimeClass().tag << ' ' << value;
       card->width = card->height = 40.0;
-      for (double tagDraw::*member : {&tagDraw::zoom, &tagDraw::fontFactor, &tagDraw::pixelsPerMmY,
-                                      &tagDraw::pageWidthPx, &tagDraw::pageHeight, &tagDraw::offsetX}) {
+      for (double tagDraw::*member :
+           std::initializer_list<double tagDraw::*>{&tagDraw::zoom, &tagDraw::fontFactor, &tagDraw::pixelsPerMmY,
+                                                    &tagDraw::pageWidthPx, &tagDraw::pageHeight, &tagDraw::offsetX}) {
         tagDraw draw = DrawAt();
         draw.*member = value;
         EXPECT_LT(Recorded(*card, draw).calls.size(), kMostCalls) << card->GetRuntimeClass().tag << ' ' << value;

@@ -7,7 +7,7 @@
 #include "draw/Drawing.h"
 #include "model/RVCardReportGraph.h"
 #include "model/draw/GraphAxes.h"
-#include "model/draw/SampleData.h"
+#include "platform/SampleData.h"
 
 namespace xrpt {
 namespace {

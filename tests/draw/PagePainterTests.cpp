@@ -3,6 +3,9 @@
 
 #include "canvas/RenderPage.h"
 #include "draw/Drawing.h"
+#include "model/RVCardConditioned.h"
+#include "model/RVCardDynamicImage.h"
+#include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
 
 namespace xrpt {
@@ -69,9 +72,40 @@ TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
   EXPECT_EQ(Painted(draw).Count(CallKind::FillRect), 1u);
   page.properties.backcolor = kBlack;
   draw.roundedPxX = draw.roundedPxY = 12.0;
-  drawn = Painted(draw, {false, nullptr});
+  drawn = Painted(draw, {false, {}, nullptr});
   EXPECT_EQ(drawn.Count(CallKind::FillRect), 0u);
   EXPECT_EQ(drawn.First(CallKind::FillRoundRect).first, 12.0);
+}
+
+TEST_F(PagePainterTest, CardsAreSeenOnThePageOnly) {
+  Put(L"outside", 200, 10);
+  tagDraw draw = DrawAt();
+  draw.offsetX = 20.4;
+  RecordingGraphics drawn = Painted(draw);
+  EXPECT_EQ(drawn.First(CallKind::ClipRect).rect, RectD(20, 0, 20 + 794 + 1, 1123 + 1));
+  draw.roundedPxX = draw.roundedPxY = 12.0;
+  EXPECT_EQ(Painted(draw).First(CallKind::ClipRoundRect).first, 12.0);
+  drawn = {};
+  RenderPage(drawn, page, 96.0);
+  EXPECT_EQ(drawn.calls[1].kind, CallKind::Save);
+  EXPECT_NE(drawn.calls[2].kind, CallKind::ClipRect);
+}
+
+TEST_F(PagePainterTest, AMissingPictureIsMarkedInTheEditorAndTheBackgroundsNowhere) {
+  page.properties.Background().LoadOriginalImage(L"gone", L"./");
+  ASSERT_TRUE(page.properties.ThereAreBackground());
+  EXPECT_EQ(Painted(DrawAt()).Count(CallKind::Line), 0u);
+  RVCardConditioned container;
+  container.cards.push_back(std::make_unique<RVCardDynamicImage>());
+  container.current = 0;
+  page.cards.PushBack(container.GetClone());
+  page.cards.PushBack(std::make_unique<RVCardImage>());
+  const RecordingGraphics editor = Painted(DrawAt());
+  EXPECT_EQ(editor.Count(CallKind::Line), 2u);
+  EXPECT_EQ(editor.Count(CallKind::Picture), 1u);  // the camera of a dynamic picture
+  RecordingGraphics paper;
+  RenderPage(paper, page, 96.0);
+  EXPECT_EQ(paper.Count(CallKind::Line) + paper.Count(CallKind::Picture) + paper.Count(CallKind::Text), 0u);
 }
 
 TEST_F(PagePainterTest, GridDotsStandAtTheCrossingsAndVanishWhenDrawnAgain) {

@@ -1,5 +1,7 @@
 // How texts break and where their lines stand. The test host's fonts are plain tables, so widths are known: at 10
 // points a digit is 5.56 wide, a blank 2.78, a line 11.17 high.
+#include <numbers>
+
 #include "draw/Drawing.h"
 #include "model/RVCardLabel.h"
 #include "model/draw/TextLayout.h"
@@ -80,16 +82,75 @@ TEST_F(TextLayoutTest, ShortensWithAnEllipsis) {
   for (const auto& row : rows) EXPECT_EQ(FitText(fonts, Font(), L"123456", row.width), row.text) << row.width;
 }
 
-TEST_F(TextLayoutTest, ATurnedTextHasTheRoomAlongItsDirection) {
+// What a turned rectangle covers, from the middle of the card, on a device whose y grows downwards.
+RectD Covered(const RectD& rect, double degrees) {
+  const double angle = degrees * std::numbers::pi / 180.0;
+  RectD out(1e9, 1e9, -1e9, -1e9);
+  for (const PointD& corner : {PointD{rect.left, rect.top}, PointD{rect.right, rect.top},
+                               PointD{rect.left, rect.bottom}, PointD{rect.right, rect.bottom}}) {
+    const double x = corner.x * std::cos(angle) + corner.y * std::sin(angle);
+    const double y = corner.y * std::cos(angle) - corner.x * std::sin(angle);
+    out = {std::min(out.left, x), std::min(out.top, y), std::max(out.right, x), std::max(out.bottom, y)};
+  }
+  return out;
+}
+
+constexpr SizeD kCard{120.0, 80.0};
+
+struct TurnedTextTest : TextLayoutTest, ::testing::WithParamInterface<double> {
+  static TextLayout Turned(std::wstring_view text, int horizontal = kAlignCenter, int vertical = kAlignCenter) {
+    return LayOutTurnedText(*CurrentHost().fonts, Font(), text, {kCard, horizontal, vertical, true}, GetParam());
+  }
+};
+
+// Negative, 0 or positive: where a text of the alignment leaves no room.
+int SideOf(int align) { return align == kAlignCenter ? 0 : align == kAlignLeft || align == kAlignTop ? -1 : 1; }
+
+TEST_P(TurnedTextTest, StandsInTheCardAsItIsAligned) {
+  for (const wchar_t* text : {L"11", L"11 22 33 44 55 66 77 88", L"1\n22222\n333"}) {
+    for (int horizontal : {kAlignLeft, kAlignCenter, kAlignRight}) {
+      for (int vertical : {kAlignTop, kAlignCenter, kAlignBottom}) {
+        const TextLayout layout = Turned(text, horizontal, vertical);
+        const RectD seen = Covered(layout.bounds, GetParam());
+        const double x = SideOf(horizontal) * (kCard.width - seen.Width()) * 0.5;
+        const double y = SideOf(vertical) * (kCard.height - seen.Height()) * 0.5;
+        EXPECT_NEAR(seen.Center().x, x, 1e-6) << text << horizontal << ' ' << vertical;
+        EXPECT_NEAR(seen.Center().y, y, 1e-6) << text << horizontal << ' ' << vertical;
+        EXPECT_LE(seen.Width(), kCard.width + 1e-3) << text;
+        EXPECT_LE(seen.Height(), kCard.height + 1e-3) << text;
+        EXPECT_NEAR(layout.lines[0].baseline, layout.bounds.top + 9.05, 1e-9);
+      }
+    }
+  }
+}
+
+TEST_P(TurnedTextTest, ShowsTheBeginningOfWhatIsTooLarge) {
+  std::wstring words;
+  for (int i = 0; i < 400; ++i) words += L"1234 ";
+  for (int align : {kAlignLeft, kAlignRight}) {
+    const TextLayout layout = Turned(words, align, align == kAlignLeft ? kAlignTop : kAlignBottom);
+    const TextLine& first = layout.lines.front();
+    const RectD start =
+        Covered({first.left, first.baseline - 9.05, first.left + 1.0, first.baseline + 2.12}, GetParam());
+    EXPECT_GE(start.left, -kCard.width / 2 - 1e-6);
+    EXPECT_GE(start.top, -kCard.height / 2 - 1e-6);
+    EXPECT_LE(start.right, kCard.width / 2 + 1e-6);
+    EXPECT_LE(start.bottom, kCard.height / 2 + 1e-6);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Angles, TurnedTextTest,
+                         ::testing::Values(0.01, 30.0, 45.0, 60.0, 90.0, 135.0, 180.0, 210.0, 270.0, -20.0, 405.0));
+
+TEST_F(TextLayoutTest, ATurnedTextMovesAlongItsDirectionThroughTheCard) {
   const struct {
     double degrees;
-    SizeD box;
-  } rows[] = {{0, {100, 40}},   {90, {40, 100}},           {180, {100, 40}},        {270, {40, 100}},
-              {-90, {40, 100}}, {std::nan(""), {100, 40}}, {45, {46.5685, 56.5685}}};
+    SizeD room;
+  } rows[] = {{90, {40, 100}}, {180, {100, 40}}, {-90, {40, 100}}, {45, {56.5685, 56.5685}}, {30, {80, 46.188}}};
   for (const auto& row : rows) {
-    const SizeD box = TurnedBox({100, 40}, row.degrees, 10.0);
-    EXPECT_NEAR(box.width, row.box.width, 1e-3) << row.degrees;
-    EXPECT_NEAR(box.height, row.box.height, 1e-3) << row.degrees;
+    const SizeD room = TurnedRoom({100, 40}, row.degrees);
+    EXPECT_NEAR(room.width, row.room.width, 1e-3) << row.degrees;
+    EXPECT_NEAR(room.height, row.room.height, 1e-3) << row.degrees;
   }
 }
 

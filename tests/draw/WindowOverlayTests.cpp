@@ -95,5 +95,18 @@ TEST_F(WindowOverlayTest, ShowsWhatAFreshOneShows) {
   Check("dropped");
 }
 
+TEST_F(WindowOverlayTest, FramesReachThePagesFarEdges) {
+  page.properties.width = page.properties.height = 20.0;
+  RVCardControl& card = page.cards.Edit(0);
+  card.x = card.y = 0.0;
+  card.width = card.height = 20.0;
+  const Rect edge = window->Placement().PageRect();
+  const auto shown = Check("a card as large as the page");
+  const auto at = [&](int x, int y) { return shown[static_cast<std::size_t>(y * kWidth + x)]; };
+  EXPECT_NE(at(edge.right, edge.top + 3), 0xFFFFFFFFu);
+  EXPECT_NE(at(edge.left + 3, edge.bottom), 0xFFFFFFFFu);
+  EXPECT_EQ(at(edge.right + 1, edge.top + 3), 0xFFFFFFFFu);
+}
+
 }  // namespace
 }  // namespace xrpt

@@ -4,32 +4,11 @@
 #include "editor/CDlgEditor.h"
 #include "editor/CommandCatalogue.h"
 #include "host/TextCatalogue.h"
-#include "support/StillWindow.h"
+#include "support/AnsweringPort.h"
 #include "support/TestHost.h"
 
 namespace xrpt {
 namespace {
-
-class AnsweringPort final : public EditorPort {
- public:
-  std::unique_ptr<WindowPort> NewPageWindow() override { return std::make_unique<StillWindow>(); }
-  void PageWindowReady(WindowPort&, RVEditTemplateWnd&) override { ++windows; }
-  void PageWindowGone(WindowPort&) override { --windows; }
-  void PagesChanged() override {}
-  void StateChanged() override {}
-  bool RunCommand(const char*) override { return false; }
-  Answer Ask(int textId) override {
-    asked.push_back(textId);
-    return answer;
-  }
-  void Tell(int) override {}
-  std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
-
-  int windows = 0;
-  Answer answer = Answer::No;
-  std::vector<int> asked;
-  std::optional<std::wstring> chosen;
-};
 
 class FrameTest : public HostTest {
  protected:
@@ -111,6 +90,9 @@ TEST_F(FrameTest, PagesComeAndGoButOneStays) {
   EXPECT_EQ(frame.CurrentPageIndex(), 1u);
   EXPECT_TRUE(frame.ShowPage(0));
   EXPECT_FALSE(frame.ShowPage(2));
+  EXPECT_FALSE(frame.DeletePage()) << "answered with no";
+  EXPECT_EQ(port.asked, std::vector<int>{60448});
+  port.answer = Answer::Yes;
   EXPECT_TRUE(frame.DeletePage());
   EXPECT_EQ(frame.PageCount(), 1u);
   EXPECT_EQ(port.windows, 1);

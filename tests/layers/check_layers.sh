@@ -18,6 +18,7 @@ forbid() {
 forbid platform model canvas formulas editor host desktop xrpt
 forbid model canvas formulas editor host desktop xrpt
 forbid canvas formulas editor host desktop xrpt
+forbid formulas editor host desktop xrpt
 forbid editor host desktop xrpt
 forbid host model canvas formulas editor desktop xrpt
 forbid xrpt desktop

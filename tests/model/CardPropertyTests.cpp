@@ -55,21 +55,20 @@ std::string TextFor(std::span<const Word> words) {
   return fromList ? words[*rc::gen::inRange<std::size_t>(0, words.size())].text : AnyText();
 }
 
-void FillList(const ListTable& table, void* object) {
-  ClearItems(table, object);
+void FillList(const ListTable<RVCardControl>& table, RVCardControl& card) {
+  ClearItems(table, card);
   const int items = *rc::gen::inRange(0, 4);
   for (int i = 0; i < items; ++i) {
-    for (const ListRow& row : table.rows) row.append(object, TextFor(row.words));
+    for (const auto& row : table.rows) row.append(card, TextFor(row.words));
   }
 }
 
 void FillRows(RVCardControl& card) {
-  void* object = &card;
-  ForEachField(card.GetRuntimeClass().table, [object](const FieldRow& row) {
-    if (row.list) FillList(row.list(), object);
+  ForEachField(card.GetRuntimeClass().table, [&card](const CardRow& row) {
+    if (row.list) FillList(row.list(), card);
     static constexpr Word kYesNo[] = {{"T", 1}, {"F", 0}};
     const bool yesNo = row.panel.editor == FieldEditor::Check;
-    if (row.assign) row.assign(object, TextFor(yesNo ? kYesNo : row.WordsFor(object)));
+    if (row.assign) row.assign(card, TextFor(yesNo ? kYesNo : row.WordsFor(card)));
   });
 }
 
@@ -88,7 +87,7 @@ void Fill(RVCardControl& card);
 void FillAlternatives(RVCardConditioned& card) {
   for (const RegistryRow& row : CardRegistry()) {
     if (!row.inConditioned) continue;
-    card.cards.push_back(row.kind().create());
+    card.cards.push_back(row.kind().Create());
     Fill(*card.cards.back());
     card.conditions.push_back(FromUtf8(AnyText()));
   }
@@ -97,7 +96,7 @@ void FillAlternatives(RVCardConditioned& card) {
 // What the editor never leaves behind and a save is known to change: a padding to no digits, a style whose font was not
 // applied, a variable without a name, no background on a kind whose new cards have one, an empty date.
 void MakeOrdinary(RVCardControl& card) {
-  if (card.GetRuntimeClass().create()->backcolor != kNoColor) card.backcolor &= 0xFFFFFF;
+  if (card.GetRuntimeClass().Create()->backcolor != kNoColor) card.backcolor &= 0xFFFFFF;
   if (auto* formule = dynamic_cast<RVCardFormule*>(&card)) {
     if (formule->leftPadding) formule->integers = std::max(formule->integers, 1);
     if (formule->rightPadding) formule->decimals = std::max(formule->decimals, 1);
@@ -138,19 +137,19 @@ void Note(const RVCardControl& card, const std::string& xml, Seen& seen) {
   const auto note = [&](const char* name) {
     if (name && Holds(xml, name)) seen[&kind].insert(name);
   };
-  ForEachField(kind.table, [&](const FieldRow& row) {
+  ForEachField(kind.table, [&](const CardRow& row) {
     note(row.name);
     if (!row.list) return;
-    for (const ListRow& entry : row.list().rows) note(entry.name);
+    for (const auto& entry : row.list().rows) note(entry.name);
   });
 }
 
 std::string NeverSeen(const RVCardControl& card, const std::set<std::string>& seen) {
   std::string missing;
-  ForEachField(card.GetRuntimeClass().table, [&](const FieldRow& row) {
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
     if (row.name && !seen.count(row.name)) missing += std::string(row.name) + " ";
     if (!row.list) return;
-    for (const ListRow& entry : row.list().rows) {
+    for (const auto& entry : row.list().rows) {
       if (!seen.count(entry.name)) missing += std::string(entry.name) + " ";
     }
   });
@@ -195,32 +194,118 @@ TEST_F(CardProperties, CloneEqualsItsSourceUntilItsIdChanges) {
   }));
 }
 
-// A text that changes a field, or nothing when none does (a field that does not apply).
-std::string ChangingText(const FieldRow& row, const RVCardControl& card) {
-  const std::wstring before = row.text(&card);
-  for (const char* text : {"T", "F", "1.5", "3", "00FF00", "other", "LEFT", "TOP", "BOLD", "BEHAVIOR_SCROLL",
-                           "DIRECTION_UP", "PF", "MIN", "V", "BOTTOM", "BOX", "DASH", "IMAGE"}) {
+// A text that changes a field, or nothing when none does.
+std::string ChangingText(const CardRow& row, const RVCardControl& card) {
+  const std::wstring before = row.text(card);
+  for (const std::string& text : OrdinaryTexts(row, row.WordsFor(card))) {
     const std::unique_ptr<RVCardControl> copy = card.GetClone();
-    row.assign(static_cast<RVCardControl*>(copy.get()), text);
-    if (row.text(copy.get()) != before) return text;
+    row.assign(*copy, text);
+    if (row.text(*copy) != before) return text;
   }
   return {};
 }
 
-TEST_F(CardProperties, EqualityLooksAtExactlyTheRowsThatCount) {
+TEST_F(CardProperties, EqualityLooksAtTheRowsThatCountAndTheHistoryAtAll) {
   for (const auto& card : OneOfEachKind()) {
-    ForEachField(card->GetRuntimeClass().table, [&card](const FieldRow& row) {
+    ForEachField(card->GetRuntimeClass().table, [&card](const CardRow& row) {
       if (!row.assign) return;
       const std::unique_ptr<RVCardControl> other = card->GetClone();
       const std::string text = ChangingText(row, *card);
       ASSERT_FALSE(text.empty()) << row.FullName();
-      row.assign(static_cast<RVCardControl*>(other.get()), text);
+      row.assign(*other, text);
       // The label's font colour is the card's own colour a second time.
       const bool counts = row.counts || row.FullName() == "font/color";
       const bool graph = card->IsKindOf(RVCardReportGraph::Class());
       EXPECT_EQ(*other != *card, graph ? row.counts : counts)
           << card->GetRuntimeClass().tag << " " << row.FullName() << " " << text;
+      EXPECT_FALSE(card->HasSameRows(*other)) << card->GetRuntimeClass().tag << " " << row.FullName() << " " << text;
     });
+  }
+}
+
+// A copy that takes its source's place, as the history makes it.
+std::unique_ptr<RVCardControl> InPlaceOf(const RVCardControl& card) {
+  std::unique_ptr<RVCardControl> copy = card.GetClone();
+  copy->TakePlaceOf(card);
+  return copy;
+}
+
+TEST_F(CardProperties, ACopyInPlaceHasTheSameRowsUntilAnyEntryOfAListChanges) {
+  EXPECT_TRUE(rc::check("rows are the same", [] {
+    for (const auto& card : OneOfEachKind()) {
+      Fill(*card);
+      const auto copy = InPlaceOf(*card);
+      RC_ASSERT(copy->HasSameRows(*card));
+      ForEachField(card->GetRuntimeClass().table, [&](const CardRow& row) {
+        if (!row.list) return;
+        for (const auto& entry : row.list().rows) {
+          const auto longer = InPlaceOf(*card);
+          entry.append(*longer, "1");
+          RC_ASSERT(!longer->HasSameRows(*card));
+        }
+      });
+    }
+  }));
+}
+
+struct RowChange {
+  const char* what;
+  bool equal;  // to card equality
+  void (*change)(RVCardConditioned&);
+};
+
+template <class Card>
+Card& InnerCard(RVCardConditioned& container) {
+  for (const auto& card : container.cards) {
+    if (auto* found = dynamic_cast<Card*>(card.get())) return *found;
+  }
+  throw std::logic_error("the test's container has one of each kind");
+}
+
+// What no assignable row says: pictures, inner cards, flags, and numbers that compare strangely.
+TEST_F(CardProperties, WhatTheHistoryNotices) {
+  RVCardConditioned original;
+  for (const auto& card : {"label", "staticImage", "forceValues"}) {
+    original.cards.push_back(NewInnerCard(card));
+    original.conditions.emplace_back(L"1");
+  }
+  const RowChange changes[] = {
+      {"condition", false, [](auto& card) { card.conditions[0] = L"2"; }},
+      {"a condition without a card", false, [](auto& card) { card.conditions.emplace_back(); }},
+      {"shown one", false, [](auto& card) { card.current = 1; }},
+      {"flags", false, [](auto& card) { card.SetFlags(7); }},
+      {"inner label", false, [](auto& card) { InnerCard<RVCardLabel>(card).text = L"new"; }},
+      {"inner picture", false, [](auto& card) { InnerCard<RVCardImage>(card).LoadOriginalImage(L"p", L"./"); }},
+      {"inner button's folder", true, [](auto& card) { InnerCard<RVCardButton>(card).imagePath.value = L"plant"; }},
+      {"sign of a zero", true, [](auto& card) { card.x = -0.0; }},
+      {"less than a file keeps", false, [](auto& card) { card.y = 1e-9; }},
+  };
+  for (const RowChange& change : changes) {
+    const auto changed = InPlaceOf(original);
+    ASSERT_TRUE(original.HasSameRows(*changed));
+    change.change(static_cast<RVCardConditioned&>(*changed));
+    EXPECT_FALSE(original.HasSameRows(*changed)) << change.what;
+    EXPECT_EQ(original == *changed, change.equal) << change.what;
+  }
+  original.width = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_TRUE(original.HasSameRows(*InPlaceOf(original)));
+  EXPECT_FALSE(RVCardLabel().HasSameRows(RVCardDate()));
+}
+
+TEST_F(CardProperties, ThePagesRowsAreItsGridAndItsPictureToo) {
+  const RVGlobalProperties page;
+  void (*const changes[])(RVGlobalProperties&) = {
+      [](auto& changed) { changed.xgrid = 5.0; },
+      [](auto& changed) { changed.ygrid = 5.0; },
+      [](auto& changed) { changed.Background().maintainRealSize = true; },
+      [](auto& changed) { changed.Background().LoadOriginalImage(L"p", L"./"); },
+      [](auto& changed) { changed.lists[3].emplace_back(); },
+  };
+  for (std::size_t i = 0; i < std::size(changes); ++i) {
+    RVGlobalProperties changed = page;
+    ASSERT_TRUE(changed.HasSameRows(page));
+    changes[i](changed);
+    EXPECT_FALSE(changed.HasSameRows(page)) << i;
   }
 }
 
@@ -239,7 +324,7 @@ TEST_F(CardProperties, NoTwoKindsAreEqual) {
 TEST_F(CardProperties, PagePropertiesSurviveASaveAndALoad) {
   EXPECT_TRUE(rc::check("page", [] {
     RVGlobalProperties page;
-    ForEachField(RVGlobalProperties::Table(), [&page](const FieldRow& row) { row.assign(&page, AnyText()); });
+    ForEachField(RVGlobalProperties::Table(), [&page](const PageRow& row) { row.assign(page, AnyText()); });
     const auto xmlOf = [](const RVGlobalProperties& properties) {
       std::string xml;
       XmlWriter out(xml);

@@ -16,7 +16,7 @@ namespace xrpt {
 // Every kind there is: those of the registry and the button, which has no element of its own.
 inline std::vector<std::unique_ptr<RVCardControl>> OneOfEachKind() {
   std::vector<std::unique_ptr<RVCardControl>> cards;
-  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().create());
+  for (const RegistryRow& row : CardRegistry()) cards.push_back(row.kind().Create());
   cards.push_back(std::make_unique<RVCardButton>());
   return cards;
 }
@@ -37,9 +37,30 @@ inline std::unique_ptr<RVCardControl> ReadBack(const RVCardControl& card) {
   XmlError error;
   EXPECT_TRUE(document.Parse(XmlOf(card), &error)) << error.message;
   const CardClass& kind = card.GetRuntimeClass();
-  std::unique_ptr<RVCardControl> read = kind.create();
+  std::unique_ptr<RVCardControl> read = kind.Create();
   read->GetFromXml(kind.tag ? document.Node(kind.tag) : document.Root());
   return read;
+}
+
+// Texts that a user may give a row, told by its editor: so that a new row finds its own.
+inline std::vector<std::string> OrdinaryTexts(const FieldRow& row, std::span<const Word> words) {
+  std::vector<std::string> texts;
+  for (const Word& word : words) texts.emplace_back(word.text);
+  if (!texts.empty()) return texts;
+  switch (row.panel.editor) {
+    case FieldEditor::Check:
+      return {"T", "F"};
+    case FieldEditor::Decimal:
+    case FieldEditor::Angle:
+    case FieldEditor::Integer:
+      return {"3", "2"};
+    case FieldEditor::Color:
+      return {"00FF80", "123456"};
+    case FieldEditor::Style:
+      return {"Title"};
+    default:
+      return {"2", "3"};  // a text, or a number that no panel shows
+  }
 }
 
 // Reads what stands inside one element: "<holder>...</holder>".

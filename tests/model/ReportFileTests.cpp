@@ -117,10 +117,10 @@ TEST_F(ReportFiles, GoBackToTheFileTheyWereReadFrom) {
   EXPECT_TRUE(report.Save(back));
   EXPECT_EQ(FileNames(), std::vector<std::string>{"A.Renamed.xrpt"});
   EXPECT_TRUE(report.Save(back)) << "its own file by now";
-  EXPECT_EQ(FilesOfName(host.Cfg(), L"Renamed", kReportEnding).size(), 1u);
+  EXPECT_EQ(FilesOfName(*host->files, host.Cfg(), L"Renamed", kReportEnding).size(), 1u);
   Write("B.Renamed.xrpt", "");
   Write("C.Not.Renamed.xrpt", "");
-  EXPECT_EQ(FilesOfName(host.Cfg(), L"Renamed", kReportEnding).size(), 2u);
+  EXPECT_EQ(FilesOfName(*host->files, host.Cfg(), L"Renamed", kReportEnding).size(), 2u);
 }
 
 TEST_F(ReportFiles, AskBeforeTheyReplaceWhatOthersWrote) {

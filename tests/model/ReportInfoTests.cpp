@@ -49,11 +49,11 @@ TEST_F(Info, EveryFieldHasItsTexts) {
   };
   for (const auto& card : OneOfEachKind()) {
     ids.insert(card->GetRuntimeClass().textId);
-    ForEachField(card->GetRuntimeClass().table, [&](const FieldRow& row) {
+    ForEachField(card->GetRuntimeClass().table, [&](const CardRow& row) {
       ids.insert(row.panel.textId);
-      addWords(row.WordsFor(card.get()));
+      addWords(row.WordsFor(*card));
       if (!row.list) return;
-      for (const ListRow& entry : row.list().rows) {
+      for (const auto& entry : row.list().rows) {
         ids.insert(entry.panel.textId);
         addWords(entry.words);
       }

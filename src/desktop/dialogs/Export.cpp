@@ -5,6 +5,7 @@
 #include <QPrinter>
 
 #include "canvas/RenderPage.h"
+#include "host/SvgGraphics.h"
 #include "host/qt/PageSurfaces.h"
 #include "model/RVReport.h"
 
@@ -42,6 +43,18 @@ std::vector<std::string> PngsOf(const RVReport& report, int dpi) {
     pictures.push_back(surface.IsValid() ? surface.Finish() : std::string());
   }
   return pictures;
+}
+
+std::vector<std::string> SvgsOf(const RVReport& report) {
+  std::vector<std::string> drawings;
+  for (const auto& page : report.pages) {
+    const SizeD size = MillimetresOf(*page);
+    const bool isValid = size.width > 0.0 && size.height > 0.0;
+    SvgGraphics graphics(OutputSize(*page, kVectorDpi), size);
+    if (isValid) RenderPage(graphics, *page, kVectorDpi);
+    drawings.push_back(isValid ? graphics.Finish() : std::string());
+  }
+  return drawings;
 }
 
 bool PrintReport(const RVReport& report, QPrinter& printer) {

@@ -14,6 +14,7 @@ class RVReport;
 std::string PdfOf(const RVReport& report);
 // The bytes of one picture a page, in order; an empty text for a page that cannot be painted.
 std::vector<std::string> PngsOf(const RVReport& report, int dpi);
+std::vector<std::string> SvgsOf(const RVReport& report);
 // False when the printer cannot be started.
 bool PrintReport(const RVReport& report, QPrinter& printer);
 

@@ -61,7 +61,9 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
   const ThemeColors& colors = CurrentTheme();
   const bool isSet = option.state & (QStyle::State_On | QStyle::State_NoChange);
   const QColor fill = !IsEnabled(option) ? colors.window : isSet ? colors.accent : colors.field;
-  DrawBox(painter, option.rect, fill, isSet && IsEnabled(option) ? colors.accent : BorderOf(option));
+  // A box that is filled with the accent needs another colour to show the keyboard on it.
+  const bool isFilled = isSet && IsEnabled(option);
+  DrawBox(painter, option.rect, fill, !isFilled ? BorderOf(option) : HasFocus(option) ? colors.text : colors.accent);
   if (!isSet) return;
   const QRectF box(option.rect);
   const QPointF check[] = {{box.left() + box.width() * 0.25, box.top() + box.height() * 0.52},
@@ -132,6 +134,8 @@ void FieldStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_SpinBox) return DrawSpinBox(*this, *painter, *option, widget);
   if (control == CC_ComboBox) return DrawComboBox(*this, *painter, *option, widget);
   QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_Slider && HasFocus(*option))
+    DrawBox(*painter, option->rect, Qt::transparent, CurrentTheme().accent);
 }
 
 int FieldStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

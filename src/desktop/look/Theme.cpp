@@ -11,9 +11,9 @@ namespace xrpt {
 namespace {
 
 const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830, 0x62727C,
-                         0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE0218A, 0xE6F1F5, 0xFCEFD9};
+                         0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE0218A, 0xE6F1F5, 0xFCEFD9, 0xFFFFFF};
 const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA, 0x95A3AC,
-                        0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0xE0218A, 0x243742, 0x46391F};
+                        0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0xE0218A, 0x243742, 0x46391F, 0x3F4A51};
 
 bool g_dark = false;
 
@@ -32,8 +32,8 @@ QPalette PaletteOf(const ThemeColors& colors) {
   SetAllGroups(palette, QPalette::Link, colors.accent);
   SetAllGroups(palette, QPalette::PlaceholderText, colors.muted);
   SetAllGroups(palette, QPalette::AlternateBase, colors.window);
-  SetAllGroups(palette, QPalette::ToolTipBase, g_dark ? colors.pressed : colors.text);
-  SetAllGroups(palette, QPalette::ToolTipText, g_dark ? colors.text : colors.panel);
+  SetAllGroups(palette, QPalette::ToolTipBase, colors.tip);
+  SetAllGroups(palette, QPalette::ToolTipText, colors.text);
   SetAllGroups(palette, QPalette::Button, g_dark ? QColor(0x30373C) : QColor(0xFBFCFC));
   SetAllGroups(palette, QPalette::Mid, colors.border);
   SetAllGroups(palette, QPalette::Light, g_dark ? colors.hover : QColor(Qt::white));
@@ -50,11 +50,11 @@ QString StyleSheetOf(const ThemeColors& colors) {
   if (!file.open(QIODevice::ReadOnly)) return {};
   QString sheet = QString::fromUtf8(file.readAll());
   const std::pair<const char*, QColor> names[] = {
-      {"@window", colors.window},   {"@panel", colors.panel},       {"@surround", colors.surround},
-      {"@border", colors.border},   {"@text", colors.text},         {"@muted", colors.muted},
-      {"@hover", colors.hover},     {"@thumb", colors.fieldBorder}, {"@notice", colors.notice},
-      {"@warning", colors.warning}, {"@pressed", colors.pressed},   {"@onAccent", colors.onAccent},
-      {"@accent", colors.accent}};
+      {"@window", colors.window},     {"@panel", colors.panel},       {"@surround", colors.surround},
+      {"@border", colors.border},     {"@text", colors.text},         {"@muted", colors.muted},
+      {"@hover", colors.hover},       {"@thumb", colors.fieldBorder}, {"@notice", colors.notice},
+      {"@warning", colors.warning},   {"@tip", colors.tip},           {"@pressed", colors.pressed},
+      {"@onAccent", colors.onAccent}, {"@accent", colors.accent}};
   for (const auto& [name, color] : names) sheet.replace(QLatin1String(name), color.name());
   return sheet;
 }

@@ -27,6 +27,7 @@ struct ThemeColors {
   QColor guide;    // smart guides
   QColor notice;   // behind a message
   QColor warning;  // behind an alarming one
+  QColor tip;      // behind a tooltip
 };
 
 const ThemeColors& CurrentTheme();

@@ -40,8 +40,8 @@ void PageFrame::Refresh() {
   if (!(page.width > 0.0) || !(page.height > 0.0)) return;
   across_->SetScale({placement.offsetX, placement.pageWidthPx / page.width}, page.width);
   down_->SetScale({placement.offsetY, placement.pageHeightPx / page.height}, page.height);
-  const Rect area = window.Selection().CalculateGlobalRect();
-  const bool isEmpty = window.Selection().Size() == 0;
+  const Rect area = window.SelectedArea();
+  const bool isEmpty = window.Selection().IsEmpty();
   across_->SetSelection(isEmpty ? std::nullopt : std::optional(std::pair(area.left, area.right - 1)));
   down_->SetSelection(isEmpty ? std::nullopt : std::optional(std::pair(area.top, area.bottom - 1)));
 }

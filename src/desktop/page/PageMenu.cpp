@@ -17,21 +17,14 @@ constexpr std::pair<int, const char*> kCommands[] = {{57635, "Cut"},    {57634, 
 // From here on the entries are the window's own parts, shown or hidden.
 bool IsToolbar(int command) { return command >= 800 && command <= 850; }
 
-const QAction* ActionOf(int command, const Actions& actions) {
-  for (const auto& [number, name] : kCommands) {
-    if (number == command) return actions.Find(name);
-  }
-  return nullptr;
-}
-
 void AddItem(QMenu& menu, const MenuItem& item, const Actions& actions) {
   QAction* entry = menu.addAction(Translated(item.textId));
   entry->setData(item.command);
   entry->setCheckable(item.checked);
   entry->setChecked(item.checked);
-  const QAction* command = ActionOf(item.command, actions);
+  const QAction* command = ActionOfCommand(item.command, actions);
   // A command the catalogue does not have is one nobody can carry out yet.
-  entry->setEnabled(item.enabled && (command || IsToolbar(item.command)));
+  entry->setEnabled(command ? command->isEnabled() : item.enabled && IsToolbar(item.command));
   if (!command) return;
   entry->setIcon(command->icon());
   entry->setShortcut(command->shortcut());
@@ -51,6 +44,13 @@ void AddItems(QMenu& menu, const std::vector<MenuItem>& items, const Actions& ac
 }
 
 }  // namespace
+
+QAction* ActionOfCommand(int command, const Actions& actions) {
+  for (const auto& [number, name] : kCommands) {
+    if (number == command) return actions.Find(name);
+  }
+  return nullptr;
+}
 
 int RunPageMenu(const std::vector<MenuItem>& items, QPoint at, const Actions& actions, QWidget* parent) {
   QMenu menu(parent);

@@ -6,11 +6,15 @@
 
 #include "platform/Window.h"
 
+class QAction;
 class QWidget;
 
 namespace xrpt {
 
 class Actions;
+
+// The catalogue's action for a command of the menu; null for one the page carries out itself.
+QAction* ActionOfCommand(int command, const Actions& actions);
 
 // The chosen command's number, 0 for none.
 int RunPageMenu(const std::vector<MenuItem>& items, QPoint at, const Actions& actions, QWidget* parent);

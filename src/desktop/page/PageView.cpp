@@ -9,6 +9,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
+#include "desktop/look/Theme.h"
 #include "desktop/page/PageMenu.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/ribbon/Actions.h"
@@ -19,6 +20,12 @@ namespace xrpt {
 namespace {
 
 constexpr int kAnimationStep = 40;  // milliseconds
+
+// The keyboard is on the page.
+void PaintFocus(QPainter& painter, const QRect& area) {
+  painter.setPen(QPen(CurrentTheme().accent, 2));
+  painter.drawRect(area.adjusted(1, 1, -1, -1));
+}
 
 }  // namespace
 
@@ -36,7 +43,7 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   clock_.start();
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(160, 120);
+  setMinimumSize(60, 60);
 }
 
 void PageView::Connect(RVEditControlWnd& frame, const Actions& actions) {
@@ -108,8 +115,13 @@ void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
   captured_ = false;
   const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
   if (command == 0 || !Window()) return;
-  Window()->OnCommand(command);
-  if (menuUsed) menuUsed();
+  // What the catalogue knows runs as from the ribbon; undo there means the whole report.
+  if (QAction* action = ActionOfCommand(command, *actions_)) {
+    action->trigger();
+  } else {
+    Window()->OnCommand(command);
+  }
+  if (changed) changed();
 }
 
 // --- Painting ---
@@ -118,6 +130,7 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
   painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
+  if (hasFocus()) PaintFocus(painter, viewport()->rect());
   const bool moves = animated_ && image_.HasMoving();
   if (moves && !animation_.isActive()) animation_.start();
   if (!moves) animation_.stop();

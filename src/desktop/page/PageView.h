@@ -50,8 +50,8 @@ class PageView final : public QAbstractScrollArea {
   // What the rulers and the status bar follow. The pointer left when there is no position.
   std::function<void(std::optional<QPoint>)> pointerMoved;
   std::function<void()> placementChanged;
-  // A command of the page's own menu ran.
-  std::function<void()> menuUsed;
+  // A command of the page's own menu ran, or Tab selected another card.
+  std::function<void()> changed;
   std::function<void()> resized;
 
  protected:

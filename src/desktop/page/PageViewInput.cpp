@@ -10,6 +10,7 @@
 #include "desktop/page/PageView.h"
 #include "desktop/ribbon/Actions.h"
 #include "editor/RVEditControlWnd.h"
+#include "editor/SelectedFields.h"
 
 namespace xrpt {
 
@@ -165,12 +166,15 @@ bool PageView::focusNextPrevChild(bool next) {
 
 bool PageView::SelectNeighbour(bool next) {
   if (!Window() || !hasFocus()) return false;
-  const CardList& cards = Window()->Page().cards;
-  const std::vector<std::wstring> selected = Window()->Selection().Ids();
-  const std::size_t none = next ? cards.Size() : CardList::kNowhere;
-  const std::size_t at = selected.empty() ? none : cards.IndexOf(selected.back());
+  const std::size_t count = Window()->Page().cards.Size();
+  const std::vector<std::size_t> selected = SelectedIndexes(*Window());
+  const std::size_t none = next ? count : CardList::kNowhere;
+  const std::size_t at = selected.empty() ? none : selected.back();
   const std::size_t neighbour = next ? at - 1 : at + 1;
-  return neighbour < cards.Size() && Window()->SelectControlById(cards[neighbour].id);
+  if (neighbour >= count) return false;
+  Window()->SelectPlaces({neighbour});
+  if (changed) changed();
+  return true;
 }
 
 }  // namespace xrpt

@@ -14,7 +14,9 @@ void GiveTitle(QDockWidget& dock) {
   bar->setAttribute(Qt::WA_StyledBackground);
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(10, 3, 4, 3);
-  row->addWidget(new QLabel(dock.windowTitle(), bar), 1);
+  auto* title = new QLabel(dock.windowTitle(), bar);
+  title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a narrow dock shows what fits
+  row->addWidget(title, 1);
   auto* close = new QToolButton(bar);
   close->setProperty("flat", true);
   close->setIcon(ThemedIcon(QStringLiteral("close")));

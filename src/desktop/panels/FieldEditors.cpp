@@ -15,13 +15,12 @@
 #include "desktop/panels/MixedSpinBox.h"
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
+#include "platform/SystemNames.h"
 #include "platform/Text.h"
 
 namespace xrpt {
 
 namespace {
-
-constexpr std::wstring_view kStyleEnding = L".XSTY";
 
 // What all of them share: the toolkit's widget and who hears of edits.
 template <class Control>
@@ -165,10 +164,12 @@ class FaceEditor final : public EditorOf<QFontComboBox> {
     control_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     control_->setMinimumContentsLength(8);
     QObject::connect(control_, &QComboBox::textActivated, control_, [this](const QString& face) { Tell(face); });
-    QObject::connect(control_->lineEdit(), &QLineEdit::editingFinished, control_, [this] {
-      if (control_->lineEdit()->isModified() && !control_->currentText().isEmpty()) Tell(control_->currentText());
-      control_->lineEdit()->setModified(false);
-    });
+    QObject::connect(control_->lineEdit(), &QLineEdit::editingFinished, control_, [this] { Finish(); });
+  }
+  void Finish() override {
+    const bool isTyped = control_->lineEdit()->isModified();
+    control_->lineEdit()->setModified(false);
+    if (isTyped && !control_->currentText().isEmpty()) Tell(control_->currentText());
   }
   void Show(const std::optional<std::wstring>& text) override {
     const QSignalBlocker quiet(control_);

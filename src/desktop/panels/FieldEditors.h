@@ -21,6 +21,8 @@ class FieldEditorWidget {
   virtual QWidget* Widget() = 0;
   // Filling never counts as an edit.
   virtual void Show(const std::optional<std::wstring>& text) = 0;
+  // Tells what was typed and not told yet.
+  virtual void Finish() {}
 };
 
 // `edited` hears every change the user makes, with the field's new text. The widget belongs to `parent`.

@@ -4,6 +4,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "desktop/panels/TypedNumber.h"
+
 namespace xrpt {
 
 MixedSpinBox::MixedSpinBox(QWidget* parent) : QDoubleSpinBox(parent) {
@@ -31,6 +33,31 @@ void MixedSpinBox::ShowMixed() {
 QString MixedSpinBox::textFromValue(double value) const {
   return isMixed_ ? QString() : QDoubleSpinBox::textFromValue(value);
 }
+
+// --- What is typed ---
+
+QString MixedSpinBox::WithoutSuffix(const QString& text) const {
+  return !suffix().isEmpty() && text.endsWith(suffix()) ? text.chopped(suffix().size()) : text;
+}
+
+double MixedSpinBox::valueFromText(const QString& text) const {
+  return NumberTyped(WithoutSuffix(text)).value_or(value());
+}
+
+// A number beyond the range may be on its way to one within; what is left of it at the end is brought to the nearest.
+QValidator::State MixedSpinBox::validate(QString& text, int&) const {
+  const QString typed = WithoutSuffix(text);
+  if (const auto number = NumberTyped(typed))
+    return *number >= minimum() && *number <= maximum() ? QValidator::Acceptable : QValidator::Intermediate;
+  return MayBecomeNumber(typed) ? QValidator::Intermediate : QValidator::Invalid;
+}
+
+void MixedSpinBox::fixup(QString& text) const {
+  if (const auto number = NumberTyped(WithoutSuffix(text)))
+    text = QDoubleSpinBox::textFromValue(std::clamp(*number, minimum(), maximum())) + suffix();
+}
+
+// --- Steps ---
 
 void MixedSpinBox::stepBy(int steps) {
   isMixed_ = false;

@@ -71,6 +71,33 @@ void CardsModel::Reset() {
 
 // --- Both ---
 
+namespace {
+
+// In ascending order.
+std::vector<std::size_t> ChosenRows(const QListView& list) {
+  std::vector<std::size_t> rows;
+  for (const QItemSelectionRange& range : list.selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(static_cast<std::size_t>(row));
+  }
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+// Neighbours in one range: the toolkit takes its time over many.
+QItemSelection RangesOf(const QAbstractItemModel& model, const std::vector<std::size_t>& rows) {
+  QItemSelection ranges;
+  for (std::size_t first = 0; first < rows.size();) {
+    std::size_t last = first;
+    while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) ++last;
+    ranges.append(QItemSelectionRange(model.index(static_cast<int>(rows[first]), 0),
+                                      model.index(static_cast<int>(rows[last]), 0)));
+    first = last + 1;
+  }
+  return ranges;
+}
+
+}  // namespace
+
 Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), pageModel_(new PagesModel(frame, this)), cardModel_(new CardsModel(frame, this)) {
   auto* column = new QVBoxLayout(this);
@@ -87,10 +114,8 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   connect(pages_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
     if (!isFilling_ && pageChosen && index.isValid()) pageChosen(static_cast<std::size_t>(index.row()));
   });
-  connect(cards_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
-    const CardList& cards = frame_.CurrentPage().Page().cards;
-    const auto at = static_cast<std::size_t>(index.row());
-    if (!isFilling_ && cardChosen && index.isValid() && at < cards.Size()) cardChosen(cards[at].id);
+  connect(cards_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+    if (!isFilling_ && cardsChosen) TellCards();
   });
 }
 
@@ -121,14 +146,25 @@ void Outline::RefreshCards() {
   isFilling_ = false;
 }
 
-void Outline::ShowSelection() {
-  QItemSelection shown;
-  QModelIndex last;
-  for (const std::size_t at : SelectedIndexes(frame_.CurrentPage())) {
-    last = cardModel_->index(static_cast<int>(at));
-    shown.append(QItemSelectionRange(last));
+// A line chosen with Ctrl or Shift joins those before it, so that the card chosen last is the one others align to.
+void Outline::TellCards() {
+  std::vector<std::size_t> added = ChosenRows(*cards_);
+  std::vector<std::size_t> chosen;
+  for (const std::size_t before : SelectedIndexes(frame_.CurrentPage())) {
+    if (std::erase(added, before) > 0) chosen.push_back(before);
   }
-  cards_->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
+  chosen.insert(chosen.end(), added.begin(), added.end());
+  cardsChosen(chosen);
+}
+
+// Where list and page agree the list's place is left alone: keys walk on from where they were.
+void Outline::ShowSelection() {
+  const std::vector<std::size_t> selected = SelectedIndexes(frame_.CurrentPage());
+  std::vector<std::size_t> rows = selected;
+  std::sort(rows.begin(), rows.end());
+  if (rows == ChosenRows(*cards_)) return;
+  cards_->selectionModel()->select(RangesOf(*cardModel_, rows), QItemSelectionModel::ClearAndSelect);
+  const QModelIndex last = selected.empty() ? QModelIndex() : cardModel_->index(static_cast<int>(selected.back()));
   cards_->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
   if (last.isValid()) cards_->scrollTo(last);
 }

@@ -1,10 +1,11 @@
-// The report's pages, and the cards of the one that is shown, front card first. Choosing a line shows that page or
-// selects that card.
+// The report's pages, and the cards of the one that is shown, front card first. Choosing lines shows that page or
+// selects those cards.
 #pragma once
 
 #include <QAbstractListModel>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 class QListView;
 
@@ -46,10 +47,12 @@ class Outline final : public QWidget {
   void FocusCards();
 
   std::function<void(std::size_t)> pageChosen;
-  std::function<void(const std::wstring&)> cardChosen;
+  // Their places in the list of cards, in selection order: those that were selected before, then the new ones.
+  std::function<void(const std::vector<std::size_t>&)> cardsChosen;
 
  private:
   QListView* MakeList(QAbstractListModel* model, int nameTextId);
+  void TellCards();
   void ShowSelection();
 
   RVEditControlWnd& frame_;

@@ -5,6 +5,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/FieldEditors.h"
+#include "desktop/panels/FieldUndo.h"
 
 namespace xrpt {
 
@@ -24,7 +25,10 @@ bool StandsBelowLabel(const FieldRow& row) { return row.panel.editor == FieldEdi
 }  // namespace
 
 PropertyPanel::PropertyPanel(SelectedFields& fields, QWidget* parent)
-    : QScrollArea(parent), fields_(fields), idle_(new QTimer(this)) {
+    : QScrollArea(parent),
+      fields_(fields),
+      idle_(new QTimer(this)),
+      undo_(new FieldUndo([this] { return isTyping_; }, this)) {
   setObjectName(QStringLiteral("panelArea"));
   setAccessibleName(Translated(text::kProperties));
   setFrameShape(QFrame::NoFrame);
@@ -116,6 +120,7 @@ void PropertyPanel::AddField(QGridLayout& grid, const FieldRow& row, int index) 
   editor->Widget()->setMinimumWidth(48);
   editor->Widget()->setSizePolicy(QSizePolicy::Ignored, editor->Widget()->sizePolicy().verticalPolicy());
   editor->Widget()->setAccessibleName(name);
+  undo_->Watch(*editor->Widget());
   editor->Widget()->setObjectName(QString::fromStdString(row.FullName()));
   const int line = StandsInPairs(row) ? index / 2 : grid.rowCount();
   const int column = StandsInPairs(row) ? index % 2 * 2 : 0;
@@ -141,12 +146,15 @@ void PropertyPanel::ShowTitle() {
 
 void PropertyPanel::Edit(const FieldRow& row, const std::string& text) {
   fields_.Assign(row, text);
+  isTyping_ = true;
   idle_->start();
   if (edited) edited();
 }
 
 void PropertyPanel::Commit() {
+  for (const Entry& entry : entries_) entry.editor->Finish();
   idle_->stop();
+  isTyping_ = false;
   fields_.Commit();
 }
 

@@ -16,6 +16,7 @@ class QTimer;
 namespace xrpt {
 
 class FieldEditorWidget;
+class FieldUndo;
 
 class PropertyPanel final : public QScrollArea {
  public:
@@ -53,6 +54,8 @@ class PropertyPanel final : public QScrollArea {
   QLabel* title_ = nullptr;
   std::vector<Entry> entries_;
   QTimer* idle_;
+  FieldUndo* undo_;
+  bool isTyping_ = false;  // something was changed since the last end
 };
 
 }  // namespace xrpt

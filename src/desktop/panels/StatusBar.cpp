@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kSmallest = 0.5;
 constexpr double kLargest = 10.0;
+constexpr int kMessageCharacters = 20;  // what messages keep of a narrow bar
 
 QLabel* MakeLabel(QWidget* parent, int nameTextId, int characters) {
   auto* label = new QLabel(parent);
@@ -20,6 +21,8 @@ QLabel* MakeLabel(QWidget* parent, int nameTextId, int characters) {
   label->setMinimumWidth(label->fontMetrics().averageCharWidth() * characters);
   return label;
 }
+
+int PlainWidth(const QWidget& part) { return std::max(part.minimumWidth(), part.minimumSizeHint().width()); }
 
 }  // namespace
 
@@ -57,6 +60,20 @@ void StatusBar::AddSlider() {
   connect(slider_, &QSlider::valueChanged, this, [this](int position) {
     if (zoomChosen) zoomChosen(SliderZoom(position));
   });
+}
+
+QSize StatusBar::minimumSizeHint() const { return {0, QStatusBar::minimumSizeHint().height()}; }
+
+// The first to go are those that are also elsewhere: the panel has the selection's place, the ribbon the zoom.
+void StatusBar::resizeEvent(QResizeEvent* event) {
+  QStatusBar::resizeEvent(event);
+  QWidget* const parts[] = {pointer_, slider_, selection_, percent_};
+  int room = width() - fontMetrics().averageCharWidth() * kMessageCharacters;
+  for (const QWidget* part : parts) room -= PlainWidth(*part);
+  for (QWidget* part : parts) {
+    part->setVisible(room >= 0);
+    if (room < 0) room += PlainWidth(*part);
+  }
 }
 
 void StatusBar::SetPointer(std::optional<PointD> position) {

@@ -1,4 +1,5 @@
-// The line at the foot of the window: hints, pointer and selection in millimetres, zoom.
+// The line at the foot of the window: hints, pointer and selection in millimetres, zoom. Parts that a narrow window has
+// no room for are not shown.
 #pragma once
 
 #include <QStatusBar>
@@ -24,6 +25,11 @@ class StatusBar final : public QStatusBar {
 
   // The user moved the slider: the zoom it stands for now.
   std::function<void(double)> zoomChosen;
+
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddSlider();

@@ -5,8 +5,10 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/TextIds.h"
+#include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/ribbon/Actions.h"
+#include "desktop/ribbon/PopupButton.h"
 #include "desktop/ribbon/RibbonButton.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -14,6 +16,8 @@
 namespace xrpt {
 
 namespace {
+
+constexpr int kPartGap = 12;
 
 QComboBox* MakeBox(QWidget* parent, int nameTextId, int characters) {
   auto* box = new QComboBox(parent);
@@ -29,33 +33,94 @@ QComboBox* MakeBox(QWidget* parent, int nameTextId, int characters) {
 }  // namespace
 
 CornerBar::CornerBar(RVEditControlWnd& frame, const Actions& actions, QWidget* parent)
-    : QWidget(parent), frame_(frame) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 2, 0, 2);
-  row->setSpacing(2);
-  AddButtons(actions, {"Save", "Undo", "Redo"});
-  row->addSpacing(10);
-  AddButtons(actions, {"PreviousPage"});
+    : QWidget(parent), frame_(frame), more_(new PopupButton(this)) {
+  more_->setIcon(ThemedIcon(QStringLiteral("more")));
+  more_->setAccessibleName(Translated(text::kMoreCommands));
+  more_->setToolTip(Translated(text::kMoreCommands));
+  more_->hide();
+  AddButtons(AddPart(), actions, {"Save", "Undo", "Redo"});
+  QBoxLayout& pages = AddPart();
+  AddButtons(pages, actions, {"PreviousPage"});
   pages_ = MakeBox(this, text::kPageSelector, 12);
-  row->addWidget(pages_);
-  AddButtons(actions, {"NextPage"});
-  row->addSpacing(10);
-  AddButtons(actions, {"ZoomOut"});
+  pages.addWidget(pages_);
+  AddButtons(pages, actions, {"NextPage"});
+  QBoxLayout& zoom = AddPart();
+  AddButtons(zoom, actions, {"ZoomOut"});
   zoom_ = MakeBox(this, text::kZoom, 9);
-  row->addWidget(zoom_);
-  AddButtons(actions, {"ZoomIn"});
+  zoom.addWidget(zoom_);
+  AddButtons(zoom, actions, {"ZoomIn"});
   connect(pages_, &QComboBox::activated, this, [this](int page) { frame_.ShowPage(static_cast<std::size_t>(page)); });
   connect(zoom_, &QComboBox::activated, this, [this](int entry) { frame_.SetZoomEntry(entry); });
   zoom_->addItems({Translated(text::kFitPage), Translated(text::kFitWidth)});
   for (int percent = 50; percent <= 1000; percent += 50) zoom_->addItem(QStringLiteral("%1 %").arg(percent));
 }
 
-void CornerBar::AddButtons(const Actions& actions, std::initializer_list<const char*> names) {
+QBoxLayout& CornerBar::AddPart() {
+  auto* part = new QWidget(this);
+  auto* row = new QHBoxLayout(part);
+  row->setContentsMargins(0, 2, 0, 2);
+  row->setSpacing(2);
+  parts_.push_back(part);
+  return *row;
+}
+
+void CornerBar::AddButtons(QBoxLayout& row, const Actions& actions, std::initializer_list<const char*> names) {
   for (const char* name : names) {
-    if (QAction* action = actions.Find(name))
-      layout()->addWidget(new RibbonButton(*action, ButtonShape::IconOnly, this));
+    if (QAction* action = actions.Find(name)) row.addWidget(new RibbonButton(*action, ButtonShape::IconOnly, this));
   }
 }
+
+// --- Room ---
+
+QSize CornerBar::sizeHint() const {
+  QSize size(-kPartGap, more_->sizeHint().height());
+  for (const QWidget* part : parts_) {
+    size.rwidth() += part->sizeHint().width() + kPartGap;
+    size.rheight() = std::max(size.height(), part->sizeHint().height());
+  }
+  return size;
+}
+
+// Parts go from the right; with the first of them comes the button.
+int CornerBar::Fit(int available) {
+  int taken = sizeHint().width();
+  const bool allFit = taken <= available;
+  if (!allFit) taken += kPartGap + more_->sizeHint().width();
+  for (std::size_t i = parts_.size(); i-- > 0;) {
+    const bool gives = taken > available;
+    if (gives) taken -= parts_[i]->sizeHint().width() + kPartGap;
+    PutPart(parts_[i], gives);
+  }
+  more_->setVisible(!allFit);
+  PlaceParts();
+  return std::max(0, taken);
+}
+
+void CornerBar::PutPart(QWidget* part, bool inPopup) {
+  if (inPopup == (part->parentWidget() != this)) return;
+  more_->Close();
+  if (inPopup) return more_->Hold(part);
+  part->setParent(this);
+  part->show();
+}
+
+void CornerBar::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  PlaceParts();
+}
+
+void CornerBar::PlaceParts() {
+  int x = 0;
+  for (QWidget* part : parts_) {
+    if (part->parentWidget() != this) continue;
+    part->setGeometry(x, 0, part->sizeHint().width(), height());
+    x += part->width() + kPartGap;
+  }
+  more_->setGeometry(x, (height() - more_->sizeHint().height()) / 2, more_->sizeHint().width(),
+                     more_->sizeHint().height());
+}
+
+// --- What it shows ---
 
 void CornerBar::Refresh() {
   RefreshPages();

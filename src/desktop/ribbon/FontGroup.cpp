@@ -8,6 +8,7 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/ColorButton.h"
+#include "desktop/panels/FieldUndo.h"
 #include "desktop/panels/MixedSpinBox.h"
 #include "editor/SelectedFields.h"
 #include "model/FieldTexts.h"
@@ -39,6 +40,9 @@ FontGroup::FontGroup(SelectedFields& fields, QWidget* parent) : QWidget(parent),
   AddWordButton(*lower, "text-bottom", text::kTextBottom, "verticalAlign", "BOTTOM");
   lower->addStretch(1);
   AddColor(*lower);
+  auto* undo = new FieldUndo([] { return false; }, this);
+  undo->Watch(*face_);
+  undo->Watch(*size_);
 }
 
 void FontGroup::AddFace(QBoxLayout& row) {

@@ -7,10 +7,16 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
 #include "desktop/ribbon/Actions.h"
+#include "desktop/ribbon/CornerBar.h"
 #include "desktop/ribbon/RibbonGroup.h"
+#include "desktop/ribbon/RibbonPage.h"
 #include "editor/CommandCatalogue.h"
 
 namespace xrpt {
+
+namespace {
+constexpr int kHeaderMargin = 4;
+}
 
 QStringList WithMnemonics(QStringList labels) {
   QString taken;
@@ -26,53 +32,57 @@ QStringList WithMnemonics(QStringList labels) {
   return labels;
 }
 
-// --- One page ---
-
-RibbonPage::RibbonPage(QWidget* parent) : QWidget(parent) {
-  row_ = new QHBoxLayout(this);
-  row_->setContentsMargins(4, 0, 4, 0);
-  row_->setSpacing(0);
-  row_->addStretch(1);
-}
-
-RibbonGroup& RibbonPage::AddGroup(const QString& title) {
-  auto* group = new RibbonGroup(title, this);
-  auto* line = new QWidget(this);
-  line->setObjectName(QStringLiteral("ribbonLine"));
-  line->setAttribute(Qt::WA_StyledBackground);
-  line->setFixedWidth(1);
-  auto* inset = new QVBoxLayout();
-  inset->setContentsMargins(0, 8, 0, 8);
-  inset->addWidget(line);
-  row_->insertWidget(row_->count() - 1, group);
-  row_->insertLayout(row_->count() - 1, inset);
-  groups_.push_back(group);
-  return *group;
-}
-
-QSize RibbonPage::minimumSizeHint() const { return {0, QWidget::minimumSizeHint().height()}; }
-
-void RibbonPage::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  FitGroups();
-}
-
-bool RibbonPage::event(QEvent* event) {
-  const bool done = QWidget::event(event);
-  if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) FitGroups();
-  return done;
-}
-
-void RibbonPage::FitGroups() {
-  for (RibbonGroup* group : groups_) group->SetRoom(GroupRoom::Full);
-  const auto tooWide = [this] {
-    row_->invalidate();
-    return row_->sizeHint().width() > width();
-  };
-  for (const GroupRoom room : {GroupRoom::IconsOnly, GroupRoom::Folded}) {
-    for (auto group = groups_.rbegin(); group != groups_.rend() && tooWide(); ++group) (*group)->SetRoom(room);
+// Tabs, and the corner in what they leave. Placed by hand, like the groups of a page (RibbonPage.h).
+class Ribbon::Header final : public QWidget {
+ public:
+  explicit Header(QWidget* parent) : QWidget(parent), tabs_(new QTabBar(this)) {
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    tabs_->setObjectName(QStringLiteral("ribbonTabs"));
+    tabs_->setAccessibleName(Translated(text::kRibbon));
+    tabs_->setDrawBase(false);
+    tabs_->setExpanding(false);
+    tabs_->setElideMode(Qt::ElideNone);
   }
-}
+  QTabBar* Tabs() { return tabs_; }
+  void SetCorner(CornerBar* corner) {
+    corner_ = corner;
+    corner_->setParent(this);
+    corner_->show();
+    Place();
+  }
+  QSize sizeHint() const override {
+    const int corner = corner_ ? corner_->sizeHint().height() : 0;
+    return {0, std::max(tabs_->sizeHint().height(), corner)};
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QWidget::resizeEvent(event);
+    Place();
+  }
+  bool event(QEvent* event) override {
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange) {
+      updateGeometry();
+      Place();
+    }
+    return done;
+  }
+
+ private:
+  void Place() {
+    if (!corner_) return;
+    const int wanted = tabs_->sizeHint().width() + kHeaderMargin;
+    const int corner = corner_->Fit(width() - wanted - 2 * kHeaderMargin);
+    const int tabs = std::max(0, std::min(wanted, width() - corner - 2 * kHeaderMargin));
+    tabs_->setGeometry(kHeaderMargin, height() - tabs_->sizeHint().height(), tabs, tabs_->sizeHint().height());
+    corner_->setGeometry(width() - corner - kHeaderMargin, 0, corner, height());
+  }
+
+  QTabBar* tabs_;
+  CornerBar* corner_ = nullptr;
+};
 
 // --- The whole ---
 
@@ -82,17 +92,11 @@ Ribbon::Ribbon(const Actions& actions, QWidget* parent) : QWidget(parent) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  tabs_ = new QTabBar(this);
-  tabs_->setObjectName(QStringLiteral("ribbonTabs"));
-  tabs_->setAccessibleName(Translated(text::kRibbon));
-  tabs_->setDrawBase(false);
-  tabs_->setExpanding(false);
+  header_ = new Header(this);
+  tabs_ = header_->Tabs();
   pages_ = new QStackedWidget(this);
-  tabRow_ = new QHBoxLayout();
-  tabRow_->setContentsMargins(4, 0, 8, 0);
-  tabRow_->addWidget(tabs_);
-  tabRow_->addStretch(1);
-  column->addLayout(tabRow_);
+  pages_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  column->addWidget(header_);
   column->addWidget(pages_);
   for (int index = 0; index < static_cast<int>(CommandTabs().size()); ++index) AddTab(actions, index);
   MarkMnemonics();
@@ -136,20 +140,7 @@ void Ribbon::ShowTab(int tab) { tabs_->setCurrentIndex(tab); }
 
 void Ribbon::FocusTabs() { tabs_->setFocus(Qt::ShortcutFocusReason); }
 
-void Ribbon::AddCorner(QWidget* widget) {
-  corner_ = widget;
-  tabRow_->addWidget(widget);
-}
-
-QSize Ribbon::minimumSizeHint() const {
-  return {tabs_->minimumSizeHint().width(), QWidget::minimumSizeHint().height()};
-}
-
-void Ribbon::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  constexpr int kMargins = 24;
-  if (corner_) corner_->setVisible(tabs_->sizeHint().width() + corner_->sizeHint().width() + kMargins <= width());
-}
+void Ribbon::SetCorner(CornerBar* corner) { header_->SetCorner(corner); }
 
 // Down goes from the tabs to the first button; arrows walk the buttons.
 void Ribbon::keyPressEvent(QKeyEvent* event) {

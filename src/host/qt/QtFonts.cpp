@@ -1,5 +1,7 @@
 #include "host/qt/QtFonts.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <algorithm>
 
@@ -11,6 +13,37 @@ constexpr std::size_t kMaxFaces = 500;
 FontMetrics MetricsOf(const QFont& font) {
   const QFontMetricsF metrics(font);
   return {metrics.ascent() / kReferenceEm, metrics.descent() / kReferenceEm, metrics.lineSpacing() / kReferenceEm};
+}
+
+// Faces made to the measures of widespread ones, so that a text keeps its lines when they stand in.
+struct SameWidths {
+  const char* face;
+  const char* standIns[4];
+};
+constexpr SameWidths kSameWidths[] = {
+    {"Arial", {"Liberation Sans", "Arimo", "Helvetica", "Nimbus Sans"}},
+    {"Helvetica", {"Liberation Sans", "Arimo", "Arial", "Nimbus Sans"}},
+    {"Arial Narrow", {"Liberation Sans Narrow"}},
+    {"Times New Roman", {"Liberation Serif", "Tinos", "Times", "Nimbus Roman"}},
+    {"Times", {"Liberation Serif", "Tinos", "Times New Roman", "Nimbus Roman"}},
+    {"Courier New", {"Liberation Mono", "Cousine", "Courier", "Nimbus Mono PS"}},
+    {"Courier", {"Liberation Mono", "Cousine", "Courier New", "Nimbus Mono PS"}},
+    {"Calibri", {"Carlito"}},
+    {"Cambria", {"Caladea"}},
+    {"Georgia", {"Gelasio"}},
+};
+
+bool IsFace(const char* name, const QString& face) {
+  return face.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
+bool HasSameWidths(const QString& face, const QString& shown) {
+  for (const SameWidths& row : kSameWidths) {
+    if (!IsFace(row.face, face)) continue;
+    return std::any_of(std::begin(row.standIns), std::end(row.standIns),
+                       [&shown](const char* standIn) { return standIn && IsFace(standIn, shown); });
+  }
+  return false;
 }
 
 }  // namespace
@@ -55,6 +88,12 @@ double QtFonts::Width(const Font& font, std::wstring_view text) {
     found = face.widths.emplace(text, QFontMetricsF(face.font).horizontalAdvance(whole) / kReferenceEm).first;
   }
   return found->second * std::max(font.size, 0.0);
+}
+
+FacePresence QtFonts::Presence(std::wstring_view face) {
+  const QString name = QString::fromWCharArray(face.data(), static_cast<qsizetype>(face.size()));
+  if (QFontDatabase::hasFamily(name)) return FacePresence::Installed;
+  return HasSameWidths(name, QFontInfo(QFont(name)).family()) ? FacePresence::StandIn : FacePresence::Missing;
 }
 
 }  // namespace xrpt

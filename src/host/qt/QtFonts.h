@@ -23,6 +23,7 @@ class QtFonts final : public FontService {
 
   FontMetrics Metrics(const Font& font) override;
   double Width(const Font& font, std::wstring_view text) override;
+  FacePresence Presence(std::wstring_view face) override;
 
  private:
   // A face in one style, everything in ems.

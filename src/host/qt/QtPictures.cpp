@@ -95,7 +95,7 @@ QtPictures::QtPictures() { QImageReader::setAllocationLimit(static_cast<int>(kMa
 
 PicturePtr QtPictures::DecodeScaled(std::string_view bytes, int width, int height) {
   const QImage image = BoundedReader(bytes).Read({width, height});
-  return image.isNull() ? nullptr : FromImage(image, bytes.size());
+  return image.isNull() ? nullptr : FromImage(image, bytes.size(), LooksLikeSvg(InPlace(bytes)));
 }
 
 PicturePtr QtPictures::Outline(std::string_view bytes) {
@@ -105,14 +105,16 @@ PicturePtr QtPictures::Outline(std::string_view bytes) {
   picture->width = size.width();
   picture->height = size.height();
   picture->encodedSize = bytes.size();
+  picture->isDrawing = LooksLikeSvg(InPlace(bytes));
   return picture;
 }
 
-PicturePtr FromImage(const QImage& image, std::size_t encodedSize) {
+PicturePtr FromImage(const QImage& image, std::size_t encodedSize, bool isDrawing) {
   auto picture = std::make_shared<Picture>();
   picture->width = image.width();
   picture->height = image.height();
   picture->encodedSize = encodedSize;
+  picture->isDrawing = isDrawing;
   if (image.hasAlphaChannel()) {
     SplitPlanes(image.convertToFormat(QImage::Format_RGBA8888), *picture);
   } else {

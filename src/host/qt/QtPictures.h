@@ -19,7 +19,7 @@ class QtPictures final : public PictureService {
 };
 
 // Between the library's pictures and the toolkit's.
-PicturePtr FromImage(const QImage& image, std::size_t encodedSize);
+PicturePtr FromImage(const QImage& image, std::size_t encodedSize, bool isDrawing = false);
 QImage ToImage(const Picture& picture);
 
 }  // namespace xrpt

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/draw/SampleData.h"
+#include "platform/SampleData.h"
 
 namespace xrpt {
 namespace {

@@ -4,7 +4,6 @@
 
 #include "model/draw/Marquee.h"
 #include "model/draw/TextLayout.h"
-#include "platform/Host.h"
 
 namespace xrpt {
 namespace {
@@ -23,30 +22,36 @@ bool Exceeds(const RectD& inner, SizeD box) {
          inner.bottom > box.height + kClipTolerance;
 }
 
-void MoveAlong(RectD& bounds, PointD& shift, const Animation& animation, std::int32_t time, SizeD box) {
+void MoveAlong(RectD& bounds, PointD& shift, const Animation& animation, std::int32_t time, const RectD& track) {
   if (MovesSideways(animation)) {
-    const double now = MarqueePosition(animation, time, {bounds.left, bounds.Width(), box.width});
-    shift.x = now - bounds.left;
+    const double rest = bounds.left - track.left;
+    shift.x = MarqueePosition(animation, time, {rest, bounds.Width(), track.Width()}) - rest;
   } else {
-    const double now = MarqueePosition(animation, time, {bounds.top, bounds.Height(), box.height});
-    shift.y = now - bounds.top;
+    const double rest = bounds.top - track.top;
+    shift.y = MarqueePosition(animation, time, {rest, bounds.Height(), track.Height()}) - rest;
   }
   bounds = {bounds.left + shift.x, bounds.top + shift.y, bounds.right + shift.x, bounds.bottom + shift.y};
 }
 
-// The card's area in a frame turned about its centre.
-CardArea TurnedArea(const CardArea& area, SizeD box) {
+bool IsTurned(double degrees) { return std::isfinite(degrees) && std::remainder(degrees, 360.0) != 0.0; }
+
+// The card's area in a frame turned about its middle, from which places count.
+CardArea TurnedArea(const CardArea& area) {
   CardArea turned = area;
-  turned.points = box;
-  const double halfWidth = box.width * 0.5 * area.scale.x;
-  const double halfHeight = box.height * 0.5 * area.scale.y;
-  turned.device = {-halfWidth, -halfHeight, halfWidth, halfHeight};
+  turned.device = {};
   return turned;
+}
+
+// What a text moves through: the card or, turned, what of its own axes lies in the card.
+RectD TrackOf(const CardArea& area, double degrees) {
+  if (!IsTurned(degrees)) return area.Box();
+  const SizeD room = TurnedRoom(area.points, degrees);
+  return {-room.width * 0.5, -room.height * 0.5, room.width * 0.5, room.height * 0.5};
 }
 
 // On a plate of its own, so that the crossed lines do not strike it out.
 void DrawMissingName(Graphics& graphics, const CardArea& area, std::wstring_view name) {
-  FontService& fonts = *CurrentHost().fonts;
+  FontService& fonts = *area.fonts;
   const Font font{L"Arial", 7.0, FontStyle::Normal};
   const double margin = 2.0;
   const std::wstring label = FitText(fonts, font, name, area.points.width - 2.0 * margin);
@@ -94,19 +99,20 @@ void DrawTextLine(Graphics& graphics, const CardArea& area, const Font& pageFont
 void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& style, std::wstring_view text,
                  std::int32_t time) {
   if (text.empty() || area.IsEmpty()) return;
-  FontService& fonts = *CurrentHost().fonts;
+  FontService& fonts = *area.fonts;
   const Font font = PageFont(style.font, area.scale);
-  const SizeD size = TurnedBox(area.points, style.orientation, fonts.Metrics(font).lineSpacing);
   const bool moving = IsMoving(style.animation, time);
   const bool wrap = !moving || !MovesSideways(style.animation);
-  const TextLayout layout = LayOutText(fonts, font, text, {size, style.horizontalAlign, style.verticalAlign, wrap});
+  const TextBox box{area.points, style.horizontalAlign, style.verticalAlign, wrap};
+  const bool turned = IsTurned(style.orientation);
+  const TextLayout layout =
+      turned ? LayOutTurnedText(fonts, font, text, box, style.orientation) : LayOutText(fonts, font, text, box);
   RectD bounds = layout.bounds;
   PointD shift;
-  if (moving) MoveAlong(bounds, shift, style.animation, time, size);
+  if (moving) MoveAlong(bounds, shift, style.animation, time, TrackOf(area, style.orientation));
 
-  const bool turned = std::isfinite(style.orientation) && style.orientation != 0.0;
   std::optional<GraphicsState> state;
-  if (turned || Exceeds(bounds, size)) {
+  if (turned || Exceeds(bounds, area.points)) {
     state.emplace(graphics);
     graphics.ClipRect(area.device);
   }
@@ -114,17 +120,20 @@ void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& styl
     graphics.Translate(area.device.Center().x, area.device.Center().y);
     graphics.Rotate(style.orientation);
   }
-  const CardArea frame = turned ? TurnedArea(area, size) : area;
+  const CardArea frame = turned ? TurnedArea(area) : area;
   for (const TextLine& line : layout.lines) DrawTextLine(graphics, frame, font, style.color, line, shift);
 }
 
 void DrawPictureBox(Graphics& graphics, const CardArea& area, const PicturePtr& picture, const PictureFit& fit,
                     std::wstring_view name, const Animation& animation, std::int32_t time) {
   if (area.IsEmpty()) return;
-  if (!picture) return DrawPlaceholder(graphics, area, name);
+  if (!picture) {
+    if (area.editing) DrawPlaceholder(graphics, area, name);
+    return;
+  }
   RectD target = PlacePicture(*picture, area.points, fit);
   PointD shift;
-  if (IsMoving(animation, time)) MoveAlong(target, shift, animation, time, area.points);
+  if (IsMoving(animation, time)) MoveAlong(target, shift, animation, time, area.Box());
   const GraphicsState state(graphics);
   if (Exceeds(target, area.points)) graphics.ClipRect(area.device);
   graphics.DrawPicture(picture, area.ToDevice(target));

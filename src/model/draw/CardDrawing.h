@@ -31,7 +31,8 @@ RectD StrokedInside(const RectD& rect, double penWidth);
 void DrawTextBox(Graphics& graphics, const CardArea& area, const TextStyle& style, std::wstring_view text,
                  std::int32_t time);
 
-// A picture inside the card, clipped to it; the stand-in with `name` when there is none.
+// A picture inside the card, clipped to it. Without one the editor's user sees the stand-in with `name`, a reader of
+// the report nothing.
 void DrawPictureBox(Graphics& graphics, const CardArea& area, const PicturePtr& picture, const PictureFit& fit,
                     std::wstring_view name, const Animation& animation, std::int32_t time);
 

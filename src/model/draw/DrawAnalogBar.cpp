@@ -28,8 +28,8 @@ double Clamped(double value, double low, double high) { return std::max(low, std
 class BarPainter {
  public:
   BarPainter(Graphics& graphics, const RVAnalogBar& card, const CardArea& area)
-      : graphics_(graphics), card_(card), area_(area), fonts_(*CurrentHost().fonts) {
-    const LocaleService& locale = *CurrentHost().locale;
+      : graphics_(graphics), card_(card), area_(area), fonts_(*area.fonts) {
+    const LocaleService& locale = *card.Services().locale;
     scale_ = ScaleOf(card, {locale.DecimalSeparator(), locale.ThousandsSeparator()});
     ChooseFonts();
     PlaceTrack();

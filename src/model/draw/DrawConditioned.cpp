@@ -38,7 +38,7 @@ void RVCardConditioned::Draw(Graphics& graphics, const tagDraw& draw) const {
     inner->height = height;
     inner->Draw(graphics, draw);
   }
-  if (draw.flag1 != 0) DrawCornerMark(graphics, area);
+  if (area.editing) DrawCornerMark(graphics, area);
 }
 
 void RVCardDynamicImage::Draw(Graphics& graphics, const tagDraw& draw) const {
@@ -47,7 +47,7 @@ void RVCardDynamicImage::Draw(Graphics& graphics, const tagDraw& draw) const {
   const PictureFit fit{horizontalAlign, verticalAlign, maintainAspectRatio, maintainRealSize};
   if (GetPicture()) {
     DrawPictureBox(graphics, area, GetPicture(), fit, variable, {}, 0);
-  } else {
+  } else if (area.editing) {
     DrawPictureBox(graphics, area, Placeholder(), IconFit(*Placeholder(), area.points), variable, {}, 0);
   }
 }

@@ -6,7 +6,7 @@ namespace xrpt {
 
 void RVCardImage::Draw(Graphics& graphics, const tagDraw& draw) const {
   const CardArea area = AreaOf(*this, draw);
-  DrawGround(graphics, area, backcolor == kNewBackColor ? kNoColor : backcolor);
+  DrawGround(graphics, area, backcolor);
   const PictureFit fit{horizontalAlign, verticalAlign, maintainAspectRatio, maintainRealSize};
   DrawPictureBox(graphics, area, GetPicture(), fit, ImageId(), animation, draw.animationTime);
 }

@@ -45,6 +45,8 @@ CardArea AreaOf(const RVCardControl& card, const tagDraw& draw) {
   area.device = RectD(CardPixelRect(draw, card.x, card.y, card.width, card.height));
   area.points = {Extent(card.width), Extent(card.height)};
   area.scale = ScaleOf(draw);
+  area.fonts = card.Services().fonts.get();
+  area.editing = draw.flag1 != 0;
   return area;
 }
 

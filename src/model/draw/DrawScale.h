@@ -35,6 +35,8 @@ struct CardArea {
   RectD device;  // device units
   SizeD points;  // page points
   DrawScale scale;
+  FontService* fonts = nullptr;  // what measures its texts
+  bool editing = true;           // whether what helps the editor's user only is drawn
 
   bool IsEmpty() const { return !(device.Width() > 0.0 && device.Height() > 0.0); }
   // Page points from the card's corner to device units.

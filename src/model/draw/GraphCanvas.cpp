@@ -9,10 +9,10 @@ GraphCanvas::GraphCanvas(Graphics& g, const RVCardReportGraph& c, const CardArea
     : graphics(g),
       card(c),
       area(a),
-      fonts(*CurrentHost().fonts),
+      fonts(*a.fonts),
       font(PageFont(c.font, a.scale)),
       gridColor(Mix(c.foregroundColor, c.transparent ? kWhite : c.backgroundColor, 0.82)),
-      periods(PeriodLabels(c.period, PeriodCount(c), *CurrentHost().locale)) {
+      periods(PeriodLabels(c.period, PeriodCount(c), *c.Services().locale)) {
   const FontMetrics metrics = fonts.Metrics(font);
   lineHeight = metrics.ascent + metrics.descent;
   ascent = metrics.ascent;
@@ -23,7 +23,7 @@ Pen GraphCanvas::PenOf(Color color, double points, PenStyle style) const {
 }
 
 std::wstring GraphCanvas::Number(double value, int decimals) const {
-  const LocaleService& locale = *CurrentHost().locale;
+  const LocaleService& locale = *card.Services().locale;
   return FormatDouble(value, {-1, decimals, true, false, true},
                       {locale.DecimalSeparator(), locale.ThousandsSeparator()});
 }

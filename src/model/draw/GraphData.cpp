@@ -6,8 +6,8 @@
 
 #include "model/NumberFormat.h"
 #include "model/draw/AxisScale.h"
-#include "model/draw/SampleData.h"
 #include "model/draw/Shades.h"
+#include "platform/SampleData.h"
 
 namespace xrpt {
 namespace {

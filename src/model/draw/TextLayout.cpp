@@ -105,6 +105,10 @@ double Aligned(double room, double length, int align, int endCode, bool keepStar
   return align == kAlignCenter ? (room - length) * 0.5 : 0.0;
 }
 
+double BlockHeight(const FontMetrics& metrics, std::size_t lines) {
+  return metrics.ascent + metrics.descent + metrics.lineSpacing * static_cast<double>(lines - 1);
+}
+
 RectD BoundsOf(const std::vector<TextLine>& lines, double top, double height) {
   RectD bounds(lines.front().left, top, lines.front().left, top + height);
   for (const TextLine& line : lines) {
@@ -112,6 +116,75 @@ RectD BoundsOf(const std::vector<TextLine>& lines, double top, double height) {
     bounds.right = std::max(bounds.right, line.left + line.width);
   }
   return bounds;
+}
+
+// A turn counter-clockwise on a device whose y grows downwards.
+class Turn {
+ public:
+  explicit Turn(double degrees) {
+    const double angle = std::isfinite(degrees) ? std::remainder(degrees, 360.0) * std::numbers::pi / 180.0 : 0.0;
+    cos_ = std::cos(angle);
+    sin_ = std::sin(angle);
+  }
+  // Never 0, so that what is parallel to an edge is infinitely far from crossing it.
+  double Along() const { return std::max(std::abs(cos_), kFlat); }
+  double Across() const { return std::max(std::abs(sin_), kFlat); }
+  // From turned axes to the page's, and back.
+  PointD There(PointD p) const { return {p.x * cos_ + p.y * sin_, p.y * cos_ - p.x * sin_}; }
+  PointD Back(PointD p) const { return {p.x * cos_ - p.y * sin_, p.x * sin_ + p.y * cos_}; }
+  // What a turned block takes in the page's axes.
+  SizeD Extent(SizeD block) const {
+    return {block.width * std::abs(cos_) + block.height * std::abs(sin_),
+            block.width * std::abs(sin_) + block.height * std::abs(cos_)};
+  }
+  // The longest lines a turned block of a height can have inside the box; below 0 when not even its height fits.
+  double WidthInside(SizeD box, double height) const {
+    return std::min((box.width - height * std::abs(sin_)) / Along(), (box.height - height * std::abs(cos_)) / Across());
+  }
+
+ private:
+  static constexpr double kFlat = 1e-9;
+  double cos_;
+  double sin_;
+};
+
+// Lines side by side in a block as wide as the longest.
+void AlignLines(std::vector<TextLine>& lines, int align) {
+  const RectD bounds = BoundsOf(lines, 0.0, 0.0);
+  for (TextLine& line : lines) line.left = Aligned(bounds.Width(), line.width, align, kAlignRight, true);
+}
+
+// The more lines, the shorter they must be to fit: tried from one line on, each time with as many as were needed last.
+std::vector<TextLine> BreakTurned(FontService& fonts, const Font& font, std::wstring_view text, const TextBox& box,
+                                  const Turn& turn, const FontMetrics& metrics) {
+  const auto widthOf = [&](std::size_t lines) { return turn.WidthInside(box.size, BlockHeight(metrics, lines)); };
+  const bool wrap = box.wrap && widthOf(2) > 0.0;
+  std::vector<TextLine> lines = BreakLines(fonts, font, text, wrap ? widthOf(1) : box.size.width, wrap);
+  for (std::size_t allowed = 1; wrap && lines.size() > allowed && widthOf(lines.size()) > 0.0;) {
+    allowed = lines.size();
+    lines = BreakLines(fonts, font, text, widthOf(allowed), true);
+  }
+  AlignLines(lines, box.horizontalAlign);
+  return lines;
+}
+
+// Along one axis of the box, from its middle: where the middle of something `length` long stands. Of what is too long
+// the side on which it `begins` (below 0: the low one) stays in sight.
+double TurnedPlace(double room, double length, int align, int startCode, int endCode, double begins) {
+  const double slack = (room - length) * 0.5;
+  if (slack < 0.0) return begins < 0.0 ? -slack : slack;
+  return align == startCode ? -slack : align == endCode ? slack : 0.0;
+}
+
+PointD TurnedPlace(const TextBox& box, const Turn& turn, SizeD block, double lineHeight) {
+  const SizeD extent = turn.Extent(block);
+  const PointD begins = turn.There({-block.width, lineHeight - block.height});
+  return {TurnedPlace(box.size.width, extent.width, box.horizontalAlign, kAlignLeft, kAlignRight, begins.x),
+          TurnedPlace(box.size.height, extent.height, box.verticalAlign, kAlignTop, kAlignBottom, begins.y)};
+}
+
+RectD Moved(const RectD& rect, PointD by) {
+  return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y};
 }
 
 }  // namespace
@@ -123,7 +196,7 @@ TextLayout LayOutText(FontService& fonts, const Font& font, std::wstring_view te
   const double oneLine = metrics.ascent + metrics.descent;
   const bool wrap = box.wrap && box.size.height * (1.0 + kTolerance) >= oneLine + metrics.lineSpacing;
   out.lines = BreakLines(fonts, font, text, box.size.width, wrap);
-  const double height = oneLine + metrics.lineSpacing * static_cast<double>(out.lines.size() - 1);
+  const double height = BlockHeight(metrics, out.lines.size());
   const double top = Aligned(box.size.height, height, box.verticalAlign, kAlignBottom, out.lines.size() > 1);
   double baseline = top + metrics.ascent;
   for (TextLine& line : out.lines) {
@@ -148,17 +221,31 @@ std::wstring FitText(FontService& fonts, const Font& font, std::wstring_view tex
   return fits == 0 ? std::wstring() : std::wstring(text.substr(0, fits)) + L'\x2026';
 }
 
-SizeD TurnedBox(SizeD card, double degrees, double lineHeight) {
-  const double angle = std::isfinite(degrees) ? degrees * std::numbers::pi / 180.0 : 0.0;
-  const double along = std::abs(std::cos(angle));
-  const double across = std::abs(std::sin(angle));
-  constexpr double kFlat = 1e-9;
-  if (across < kFlat) return card;
-  if (along < kFlat) return {card.height, card.width};
-  const double height = std::min(card.width / across, card.height / along);
-  const double thickness = std::min(lineHeight, height * 0.5);
-  const double width = std::min((card.width - thickness * across) / along, (card.height - thickness * along) / across);
-  return {std::max(width, 0.0), height};
+SizeD TurnedRoom(SizeD card, double degrees) {
+  const Turn turn(degrees);
+  return {std::min(card.width / turn.Along(), card.height / turn.Across()),
+          std::min(card.width / turn.Across(), card.height / turn.Along())};
+}
+
+TextLayout LayOutTurnedText(FontService& fonts, const Font& font, std::wstring_view text, const TextBox& box,
+                            double degrees) {
+  TextLayout out;
+  if (text.empty()) return out;
+  const Turn turn(degrees);
+  const FontMetrics metrics = fonts.Metrics(font);
+  out.lines = BreakTurned(fonts, font, text, box, turn, metrics);
+  const double height = BlockHeight(metrics, out.lines.size());
+  out.bounds = BoundsOf(out.lines, 0.0, height);
+  const PointD middle = turn.Back(TurnedPlace(box, turn, {out.bounds.Width(), height}, metrics.lineSpacing));
+  const PointD shift{middle.x - out.bounds.Center().x, middle.y - out.bounds.Center().y};
+  out.bounds = Moved(out.bounds, shift);
+  double baseline = shift.y + metrics.ascent;
+  for (TextLine& line : out.lines) {
+    line.left += shift.x;
+    line.baseline = baseline;
+    baseline += metrics.lineSpacing;
+  }
+  return out;
 }
 
 }  // namespace xrpt

@@ -38,7 +38,13 @@ TextLayout LayOutText(FontService& fonts, const Font& font, std::wstring_view te
 // The text shortened to the width, ending with an ellipsis when something was cut; empty when not even that fits.
 std::wstring FitText(FontService& fonts, const Font& font, std::wstring_view text, double width);
 
-// The box a text turned by `degrees` about the centre of `card` has: a line of `lineHeight` fits along it.
-SizeD TurnedBox(SizeD card, double degrees, double lineHeight);
+// A text turned counter-clockwise, not by a multiple of 360 degrees. Places count from the middle of the box along the
+// turned axes. The turned block stands in the box as the alignments say, in the box's own axes, and is broken so that
+// it fits when it can; of what is too large the beginning of the first line stays in sight.
+TextLayout LayOutTurnedText(FontService& fonts, const Font& font, std::wstring_view text, const TextBox& box,
+                            double degrees);
+
+// How long the line through the middle of a card is, along a direction turned by `degrees` and across it.
+SizeD TurnedRoom(SizeD card, double degrees);
 
 }  // namespace xrpt

@@ -1,0 +1,39 @@
+// How editing behaves. The defaults are the contract that hosts know; what the desktop wants beyond it is chosen here,
+// in one value handed to the frame once, and nowhere else.
+#pragma once
+
+#include <cstddef>
+
+namespace xrpt {
+
+struct EditingOptions {
+  // Snapshots a page keeps, the base state among them.
+  std::size_t mostSnapshots = 20;
+  // Whether selecting is a step of the history.
+  bool countsSelections = true;
+  // Whether switching the grid is a step, as every other change that is saved.
+  bool countsGrid = false;
+  // A move writes places only, a resize only the edges it moved, and what ends where it began changes nothing.
+  // Otherwise a drag writes place and size as the pixels say.
+  bool keepsStoredDigits = false;
+  // The pointer tool comes back after each inserted card.
+  bool returnsToPointer = false;
+  // A right click selects what is under it first.
+  bool rightClickSelects = false;
+  // A rubber band may start beside the page; a click there and Escape let go of the selection.
+  bool bandsBesidePage = false;
+  // A zoom that fits the width goes on fitting the width when the page is turned or changed, by undo too.
+  bool keepsFit = false;
+  // The undo keys mean the whole report, and a report undone to what was saved counts as unmodified.
+  bool reportHistory = false;
+
+  // What the desktop, and scripts that ask for it, turn on.
+  static constexpr EditingOptions Comfort() {
+    EditingOptions options{501, false};
+    options.countsGrid = options.keepsStoredDigits = options.returnsToPointer = true;
+    options.rightClickSelects = options.bandsBesidePage = options.keepsFit = options.reportHistory = true;
+    return options;
+  }
+};
+
+}  // namespace xrpt

@@ -1,0 +1,113 @@
+// The lists of pages and cards: what is chosen there is selected on the page, and the other way round.
+#include <gmock/gmock.h>
+
+#include <QListView>
+
+#include "desktop/WindowTest.h"
+#include "desktop/panels/Outline.h"
+
+namespace xrpt {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class OutlineTest : public WindowTest {
+ protected:
+  OutlineTest() { OpenSample(); }
+  template <class Model>
+  QListView& ListOf() {
+    const auto lists = PartsOf<QListView>(PartOf<Outline>(Window()));
+    return **std::find_if(lists.begin(), lists.end(), [](auto* list) { return dynamic_cast<Model*>(list->model()); });
+  }
+  QListView& Pages() { return ListOf<PagesModel>(); }
+  QListView& Cards() { return ListOf<CardsModel>(); }
+  void ClickLine(QListView& list, int row, Qt::KeyboardModifiers held = {}) {
+    const QModelIndex line = list.model()->index(row, 0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, held, list.visualRect(line).center());
+    Settle();
+  }
+  std::vector<int> Lines(const QListView& list) {
+    std::vector<int> rows;
+    for (const QModelIndex& line : list.selectionModel()->selectedRows()) rows.push_back(line.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+  }
+  std::vector<std::size_t> Selected() { return Page().SelectedIndexes(); }
+};
+
+TEST_F(OutlineTest, ControlAndShiftChooseSeveralCards) {
+  ClickLine(Cards(), 4);
+  EXPECT_THAT(Selected(), ElementsAre(4));
+  ClickLine(Cards(), 1, Qt::ControlModifier);
+  EXPECT_THAT(Selected(), ElementsAre(4, 1)) << "the one chosen last is the one others align to";
+  ClickLine(Cards(), 6, Qt::ControlModifier);
+  EXPECT_THAT(Selected(), ElementsAre(4, 1, 6));
+  ClickLine(Cards(), 4, Qt::ControlModifier);
+  EXPECT_THAT(Selected(), ElementsAre(1, 6));
+  ClickLine(Cards(), 2);
+  ClickLine(Cards(), 5, Qt::ShiftModifier);
+  EXPECT_THAT(Selected(), ElementsAre(2, 3, 4, 5));
+  EXPECT_THAT(Lines(Cards()), ElementsAre(2, 3, 4, 5));
+  EXPECT_FALSE(Frame().IsModified());
+}
+
+TEST_F(OutlineTest, KeysWalkAndExtend) {
+  ClickLine(Cards(), 3);
+  Cards().setFocus();
+  QTest::keyClick(&Cards(), Qt::Key_Down);
+  Settle();
+  EXPECT_THAT(Selected(), ElementsAre(4));
+  QTest::keyClick(&Cards(), Qt::Key_Down, Qt::ShiftModifier);
+  Settle();
+  QTest::keyClick(&Cards(), Qt::Key_Down, Qt::ShiftModifier);
+  Settle();
+  EXPECT_THAT(Selected(), ElementsAre(4, 5, 6));
+}
+
+TEST_F(OutlineTest, ShowsWhatIsSelectedOnThePage) {
+  Page().SelectPlaces({5, 0, 1, 7});
+  Frame().Port().StateChanged();
+  Settle();
+  EXPECT_THAT(Lines(Cards()), ElementsAre(0, 1, 5, 7));
+  EXPECT_THAT(Selected(), ElementsAre(5, 0, 1, 7));
+  Run("NextPage");
+  EXPECT_THAT(Lines(Cards()), IsEmpty());
+  EXPECT_THAT(Lines(Pages()), ElementsAre(1));
+  EXPECT_EQ(Cards().model()->rowCount(), static_cast<int>(Page().Page().cards.Size()));
+}
+
+TEST_F(OutlineTest, ChoosingAPageShowsIt) {
+  ClickLine(Pages(), 2);
+  EXPECT_EQ(Frame().CurrentPageIndex(), 2u);
+  EXPECT_EQ(Pages().model()->rowCount(), 4);
+  ClickLine(Cards(), 0);
+  EXPECT_THAT(Selected(), ElementsAre(0));
+}
+
+// Red dots mark what a search found; choosing a card is no search.
+TEST_F(OutlineTest, ChosenCardsAndTabHaveNoSearchMark) {
+  const auto redDots = [this] {
+    int count = 0;
+    for (int tick = 0; tick < 10; ++tick) {  // they blink
+      Page().OnTimer();
+      const QImage picture = View().viewport()->grab().toImage();
+      for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == qRgb(255, 0, 0) ? 1 : 0;
+      }
+    }
+    return count;
+  };
+  Run("Adjusted");  // all cards are in sight
+  ClickLine(Cards(), 3);
+  EXPECT_EQ(redDots(), 0);
+  View().setFocus();
+  Key(Qt::Key_Tab);
+  EXPECT_THAT(Selected(), ElementsAre(2));
+  EXPECT_EQ(redDots(), 0);
+  Frame().SelectControlById(Page().Page().cards[2].id);
+  EXPECT_GT(redDots(), 0);
+}
+
+}  // namespace
+}  // namespace xrpt
