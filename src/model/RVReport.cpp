@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
@@ -56,6 +57,13 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 
 }  // namespace
 
+std::wstring TextOf(const LoadResult& result) {
+  constexpr int kTexts[] = {0, text::kUnreadable, text::kDamaged, text::kOtherDocument};
+  if (result.loaded) return {};
+  const std::wstring reason = FromUtf8(result.error.message);
+  return FillIn(HostText(kTexts[static_cast<int>(result.fault)]), {FromUtf8(result.file.filename().string()), reason});
+}
+
 RVReport::RVReport(Host& host)
     : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
   AddPage();
@@ -87,32 +95,38 @@ bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
   file_.clear();
   FileService& files = *host_->files;
   const FileStamp stamp = files.Stamp(result.file);
-  FileError fault;
-  std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &fault);
+  FileError unreadable;
+  std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &unreadable);
   if (!bytes) {
-    result.error.message = fault.reason;
+    result.fault = LoadFault::Unreadable;
+    result.error.message = unreadable.reason;
     return false;
   }
-  Remember(result.file, stamp, *bytes);
-  if (document.Parse(std::move(*bytes), &result.error)) {
-    if (MayBeReport(document.Root())) return true;
-    result.error.message = "not a report but a document of <" + std::string(document.Root().Tag()) + ">";
+  const FileVersion version(stamp, *bytes);
+  if (!document.Parse(std::move(*bytes), &result.error)) {
+    result.fault = LoadFault::Damaged;
+    return false;
   }
-  file_.clear();
-  return false;
+  if (!MayBeReport(document.Root())) {
+    result.fault = LoadFault::OtherDocument;
+    result.error.message = "not a report but a document of <" + std::string(document.Root().Tag()) + ">";
+    return false;
+  }
+  Remember(result.file, version);
+  return true;
 }
 
 void RVReport::BelongTo(const Path& file) {
   FileService& files = *host_->files;
-  const FileStamp stamp = files.Stamp(file);
-  const std::optional<std::string> bytes = files.Read(file, XmlDocument::kMaxBytes);
-  Remember(file, stamp, bytes ? *bytes : std::string());
+  const FileStamp stamp = file.empty() ? FileStamp() : files.Stamp(file);
+  const std::optional<std::string> bytes = stamp.exists ? files.Read(file, XmlDocument::kMaxBytes) : std::nullopt;
+  Remember(file, bytes ? FileVersion(stamp, *bytes) : FileVersion());
   modified = true;
 }
 
-void RVReport::Remember(const Path& file, const FileStamp& stamp, std::string_view bytes) {
+void RVReport::Remember(const Path& file, const FileVersion& version) {
   file_ = file;
-  onDisk_ = FileVersion(stamp, bytes);
+  onDisk_ = version;
   fileName_ = name;
 }
 
@@ -172,11 +186,15 @@ void RVReport::ResetDocuments() {
   goBackVariables.Create("goBackVariables");
 }
 
-bool RVReport::EnsureName() {
-  for (int n = 1; name.empty(); ++n) {
-    const std::wstring candidate = L"report" + std::to_wstring(n);
-    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) name = candidate;
+std::wstring RVReport::FreeName() const {
+  for (int n = 1;; ++n) {
+    std::wstring candidate = L"report" + std::to_wstring(n);
+    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) return candidate;
   }
+}
+
+bool RVReport::EnsureName() {
+  if (name.empty()) name = FreeName();
   return IsSafeFileName(name);
 }
 
@@ -185,9 +203,18 @@ SaveResult RVReport::Save(const SaveRules& rules) {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
-  host_->settings->SetRegistryText(kLastReportValue, name);
   host_->files->CreateFolder(ConfigFolder());
+  if (const Path other = FileOfAnother(rules); !other.empty()) return {SaveOutcome::Taken, other, {}, {}};
+  host_->settings->SetRegistryText(kLastReportValue, name);
   return SaveTo(FilePath(rules), rules);
+}
+
+// Two reports of one name: whichever is found first would hide the other.
+Path RVReport::FileOfAnother(const SaveRules& rules) const {
+  if (!rules.asksFirst || GoesBack(rules)) return {};
+  std::vector<Path> files = FilesOfName(*host_->files, ConfigFolder(), name, kReportEnding);
+  std::erase_if(files, [this](const Path& file) { return !file_.empty() && IsSameFile(file, file_); });
+  return files.empty() ? Path() : files.front();
 }
 
 bool RVReport::GoesBack(const SaveRules& rules) const {
@@ -210,7 +237,7 @@ SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
   SaveResult result = SaveText(file, out, rules.asksFirst ? (isOwn ? &onDisk_ : &none) : nullptr);
   if (result.outcome == SaveOutcome::Changed && !isOwn) result.outcome = SaveOutcome::Taken;
   modified = !result;
-  if (result) Remember(file, host_->files->Stamp(file), text);
+  if (result) Remember(file, FileVersion(host_->files->Stamp(file), text));
   return result;
 }
 

@@ -12,13 +12,20 @@
 
 namespace xrpt {
 
+enum class LoadFault { None, Unreadable, Damaged, OtherDocument };
+
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {
   Path file;
   bool loaded = false;  // false: the file was missing, unreadable or no report, and the report is new and empty
   XmlError error;
-  int lostStyles = 0;  // references to text styles that nobody knows, which the report no longer has
+  LoadFault fault = LoadFault::None;
+  bool cancelled = false;  // it could have been opened, but the user let it be
+  int lostStyles = 0;      // references to text styles that nobody knows, which the report no longer has
 };
+
+// One sentence for the user: which file could not be opened and why. Empty for one that could.
+std::wstring TextOf(const LoadResult& result);
 
 // How careful a save is, and where it goes.
 struct SaveRules {
@@ -61,8 +68,10 @@ class RVReport {
   // How it was then, for whoever watches it.
   const FileVersion& OnDisk() const { return onDisk_; }
   // The file is this report's, as it is on disk now: for work that was kept elsewhere and goes back to where it came
-  // from, and for a user who wants the report kept although others wrote the file.
+  // from. Without a file it has none.
   void BelongTo(const Path& file);
+  // The name that Save would give a nameless report: the lowest reportN that no file has.
+  std::wstring FreeName() const;
   // Empties the formulas, virtual devices and go-back variables.
   void ResetDocuments();
   RVReportPage& AddPage();
@@ -89,10 +98,11 @@ class RVReport {
   void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
   bool GoesBack(const SaveRules& rules) const;
+  Path FileOfAnother(const SaveRules& rules) const;
   void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;
   bool ReadDocument(LoadResult& result, XmlDocument& document);
-  void Remember(const Path& file, const FileStamp& stamp, std::string_view bytes);
+  void Remember(const Path& file, const FileVersion& version);
 
   Host* host_;
   Path file_;

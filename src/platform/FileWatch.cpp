@@ -2,23 +2,25 @@
 
 namespace xrpt {
 
-void FileWatch::AddFolder(const Path& folder, std::wstring_view ending) {
+void FileWatch::AddFolder(const Path& folder, const std::vector<std::wstring>& endings) {
   Entry& entry = watched_[folder];
-  entry.ending = ending;
-  entry.stamps = StampsOf(folder, entry.ending);
+  entry.endings = endings;
+  entry.stamps = StampsOf(folder, endings);
 }
 
 std::vector<Path> FileWatch::Changed() {
   std::vector<Path> changed;
   for (auto& [path, entry] : watched_) {
-    if (entry.ending.empty() ? HasFileChanged(path, entry) : HasFolderChanged(path, entry)) changed.push_back(path);
+    if (entry.endings.empty() ? HasFileChanged(path, entry) : HasFolderChanged(path, entry)) changed.push_back(path);
   }
   return changed;
 }
 
-FileWatch::Stamps FileWatch::StampsOf(const Path& folder, const std::wstring& ending) {
+FileWatch::Stamps FileWatch::StampsOf(const Path& folder, const std::vector<std::wstring>& endings) {
   Stamps stamps;
-  for (const Path& file : files_.List(folder, ending)) stamps[file] = files_.Stamp(file);
+  for (const std::wstring& ending : endings) {
+    for (const Path& file : files_.List(folder, ending)) stamps[file] = files_.Stamp(file);
+  }
   return stamps;
 }
 
@@ -33,7 +35,7 @@ bool FileWatch::HasFileChanged(const Path& file, Entry& entry) {
 }
 
 bool FileWatch::HasFolderChanged(const Path& folder, Entry& entry) {
-  Stamps now = StampsOf(folder, entry.ending);
+  Stamps now = StampsOf(folder, entry.endings);
   if (now == entry.stamps) return false;
   entry.stamps = std::move(now);
   return true;

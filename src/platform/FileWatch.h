@@ -15,8 +15,8 @@ class FileWatch {
 
   // From the version that is known: as it was read or written last.
   void Add(const Path& file, const FileVersion& known) { watched_[file] = {known, {}, {}}; }
-  // The files of a folder with the ending, as they are now.
-  void AddFolder(const Path& folder, std::wstring_view ending);
+  // The files of a folder with one of the endings, as they are now.
+  void AddFolder(const Path& folder, const std::vector<std::wstring>& endings);
   void Remove(const Path& fileOrFolder) { watched_.erase(fileOrFolder); }
 
   // Those that changed since they were added or last given: a file whose content is another or that came or went, a
@@ -27,10 +27,10 @@ class FileWatch {
   using Stamps = std::map<Path, FileStamp>;
   struct Entry {
     FileVersion known;
-    std::wstring ending;  // of a folder's files; empty for a file
-    Stamps stamps;        // of a folder's files
+    std::vector<std::wstring> endings;  // of a folder's files; none for a file
+    Stamps stamps;                      // of a folder's files
   };
-  Stamps StampsOf(const Path& folder, const std::wstring& ending);
+  Stamps StampsOf(const Path& folder, const std::vector<std::wstring>& endings);
   bool HasFileChanged(const Path& file, Entry& entry);
   bool HasFolderChanged(const Path& folder, Entry& entry);
 

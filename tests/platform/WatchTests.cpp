@@ -40,7 +40,7 @@ TEST_F(Watch, TellsOnceWhenAFileHoldsSomethingElse) {
 
 TEST_F(Watch, TellsOfFoldersWhoseFilesComeGoOrAreWritten) {
   const Path style = host.WriteCfg("S.Title.XSTY", "one");
-  watch.AddFolder(host.Cfg(), L".XSTY");
+  watch.AddFolder(host.Cfg(), {L".XSTY", L"devices.xml"});
   host.WriteCfg("A.x.xrpt", "not of that kind");
   EXPECT_THAT(watch.Changed(), IsEmpty());
   for (const auto& change : {std::function<void()>([&] { host.WriteCfg("T.Text.XSTY", "new"); }),
