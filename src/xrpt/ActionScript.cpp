@@ -64,6 +64,11 @@ const std::vector<Shape>& Shapes() {
       {"tick", {IsUpTo<kMostTicks>}, nullptr},
       {"set", {IsAny, IsAny, IsAny}, IsAny},
       {"answer", {IsAnswer}, nullptr},
+      {"new", {}, nullptr},
+      {"open", {IsAny}, nullptr},
+      {"save", {}, nullptr},
+      {"save-as", {}, IsAny},
+      {"rename", {IsAny}, nullptr},
       {"print", {}, nullptr},
   };
   return shapes;

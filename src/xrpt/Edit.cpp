@@ -75,6 +75,7 @@ void AddEdit(CLI::App& program, int& status) {
       "  press X Y [ctrl] [shift] | move X Y | release X Y | lose-capture\n"
       "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
       "  set ID FIELD VALUE | answer yes|no | print\n"
+      "  new | open NAME | save | save-as [NAME] | rename NAME\n"
       "Examples:\n  xrpt edit report.xrpt -o out.xrpt --actions move-logo.txt\n"
       "  echo 'command SelectAll' | xrpt edit report.xrpt -o out.xrpt --actions -");
   command->callback([options, &status] { status = Edit(*options); });

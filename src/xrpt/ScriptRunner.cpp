@@ -52,6 +52,11 @@ const std::vector<ScriptRunner::Row>& ScriptRunner::Steps() {
                                          {"tick", &R::Tick},
                                          {"set", &R::Set},
                                          {"answer", &R::SetAnswer},
+                                         {"new", &R::New},
+                                         {"open", &R::Open},
+                                         {"save", &R::Save},
+                                         {"save-as", &R::SaveAs},
+                                         {"rename", &R::Rename},
                                          {"print", &R::Print}};
   return steps;
 }

@@ -45,6 +45,14 @@ class ScriptRunner {
   std::string SetAnswer(Arguments arguments);
   std::string Print(Arguments arguments);
 
+  // Files, see ScriptFiles.cpp
+  std::string New(Arguments arguments);
+  std::string Open(Arguments arguments);
+  std::string Save(Arguments arguments);
+  std::string SaveAs(Arguments arguments);
+  std::string Rename(Arguments arguments);
+  std::string Conclude(bool done);
+
   RVEditTemplateWnd& Page() { return frame_.CurrentPage(); }
   Point PointOf(Arguments arguments);
   MouseFlags FlagsOf(Arguments arguments, std::size_t from);
