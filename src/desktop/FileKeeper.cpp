@@ -44,6 +44,7 @@ FileKeeper::FileKeeper(RVEditControlWnd& frame, MessageBar& messages, QWidget& w
   watcher_->Do([cfg = CurrentHost().setup->CfgPath(), images = CurrentHost().setup->ImagesPath()](FileWatch& watch) {
     watch.AddFolder(cfg, {L".XSTY", L".xdct", L"devices.xml"});
     watch.AddFolder(images, {L".img"});
+    CurrentHost().files->ClearLeftovers(cfg);
   });
 }
 

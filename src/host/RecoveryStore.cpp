@@ -151,6 +151,7 @@ Path RecoveryStore::FileOf(int number, const char* ending) const {
 }
 
 std::vector<Recovered> RecoveryStore::Left() {
+  for (const Path& old : FindOldRecoveries(folder_.parent_path())) ::unlink(old.c_str());
   std::vector<Recovered> left;
   std::error_code error;
   for (fs::directory_iterator at(folder_, error); !error && at != fs::directory_iterator(); at.increment(error)) {
