@@ -3,6 +3,8 @@
 #include <sys/wait.h>
 
 #include <csignal>
+#include <random>
+#include <thread>
 
 #include "editor/FileQuestions.h"
 #include "editor/RVEditControlWnd.h"
@@ -255,6 +257,44 @@ TEST_F(Crashed, WorkOpenedAgainIsKeptAgainAndGoneOnceDecided) {
   port.decisions = {text::kDontSave};
   EXPECT_TRUE(frame.MayClose());
   EXPECT_EQ(kept(), 0);
+}
+
+// XRPT_KILLS sets another number of them.
+TEST_F(Crashed, KillsWhileWorkIsKeptLeaveWholeReports) {
+  const char* wanted = std::getenv("XRPT_KILLS");
+  const int kills = wanted ? std::atoi(wanted) : 60;
+  const Path file = Write("one");
+  std::mt19937 random(7);
+  int found = 0;
+  for (int i = 0; i < kills; ++i) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      AnsweringPort quiet;
+      RVEditControlWnd dying(quiet, EditingOptions::Comfort());
+      dying.Setup(L"one");
+      for (;;) {
+        dying.AddPage();
+        dying.KeepUnsaved();
+        if (dying.PageCount() % 4 == 0) host->recovery->Wait();
+      }
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(2000 + random() % 30000));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ASSERT_EQ(TestHost::ReadFile(file), Text("one"));
+    RecoveryStore next(*host, host.State());
+    for (const Recovered& work : next.Left()) {
+      ++found;
+      EXPECT_TRUE(RVReport().LoadFile(work.text).loaded) << TestHost::ReadFile(work.text).size();
+      EXPECT_EQ(work.file, file);
+      next.Discard(work);
+    }
+  }
+  EXPECT_GT(found, kills / 4);
+  int left = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(host.State() / "recovery"))
+    left += entry.is_regular_file() ? 1 : 0;
+  EXPECT_EQ(left, 0) << "nothing is left of them";
 }
 
 TEST(ReportsDiffer, FieldByFieldInWordsOfThePanel) {
