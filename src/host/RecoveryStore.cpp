@@ -58,7 +58,12 @@ bool HoldsWork(const Path& session) {
   return false;
 }
 
+// A note without its text is left of a session that was killed between the two.
 void RemoveSession(const Path& session) {
+  std::error_code error;
+  for (fs::directory_iterator at(session, error); !error && at != fs::directory_iterator(); at.increment(error)) {
+    if (at->path().extension() == kNote) ::unlink(at->path().c_str());
+  }
   ::unlink((session / kSessionFile).c_str());
   ::rmdir(session.c_str());
 }
