@@ -148,7 +148,9 @@ void ParseWithTheLibrary(const std::vector<Path>& files) {
 std::size_t CheckAll(const Path& folder, int jobs, const CheckChoice& choice) {
   std::size_t findings = 0;
   FolderCheck check{folder, choice, jobs};
-  check.done = [&findings](const ReportFindings& report) { findings += report.findings.size(); };
+  check.done = [&findings](const ReportFindings& report, std::size_t, std::size_t) {
+    findings += report.findings.size();
+  };
   CheckFolder(check);
   return findings;
 }

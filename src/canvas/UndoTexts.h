@@ -39,6 +39,7 @@ inline constexpr int kPageDuplicated = 60420;
 inline constexpr int kPageMoved = 60421;
 inline constexpr int kReportRenamed = 60422;
 inline constexpr int kGridSwitched = 60423;
+inline constexpr int kBringCardsBack = 60430;
 
 inline constexpr int kTooMuchForClipboard = 60449;  // a refusal, no step
 

@@ -79,6 +79,7 @@ void MainWindow::BuildDocks() {
   outline_->cardsChosen = [this](const std::vector<std::size_t>& cards) {
     properties_->Commit();
     frame_->CurrentPage().SelectPlaces(cards);
+    pages_->View().RevealSelection();
     RefreshSoon();
   };
   properties_ = new PropertyPanel(*fields_, this);

@@ -1,6 +1,7 @@
 #include "editor/CommandCatalogue.h"
 
 #include "canvas/InsertTools.h"
+#include "canvas/KeepOnPage.h"
 #include "canvas/UndoTexts.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -18,21 +19,39 @@ constexpr CommandTab kTabs[] = {{RibbonTab::Home, text::kHomeTab},       {Ribbon
 // --- When a command is enabled ---
 
 bool Always(const Frame&) { return true; }
-tagEditMenuState MenuState(const Frame& frame) { return frame.CurrentPage().EditMenuState(); }
 std::size_t Selected(const Frame& frame) { return frame.CurrentPage().Selection().Size(); }
 bool OneSelected(const Frame& frame) { return Selected(frame) >= 1; }
 bool TwoSelected(const Frame& frame) { return Selected(frame) >= 2; }
-bool ThreeSelected(const Frame& frame) { return Selected(frame) >= 3; }
-bool CanPaste(const Frame& frame) { return MenuState(frame).paste; }
+bool CanPaste(const Frame& frame) { return frame.CurrentPage().IsActionPasteEnabled(); }
 bool CanUndo(const Frame& frame) { return frame.CanUndo(); }
 bool CanRedo(const Frame& frame) { return frame.CanRedo(); }
-bool HasCards(const Frame& frame) { return MenuState(frame).selectAll; }
+bool HasCards(const Frame& frame) { return frame.CurrentPage().IsActionSelectAllEnabled(); }
 bool HasNextPage(const Frame& frame) { return frame.CurrentPageIndex() + 1 < frame.PageCount(); }
 bool HasPreviousPage(const Frame& frame) { return frame.CurrentPageIndex() > 0; }
 bool HasSeveralPages(const Frame& frame) { return frame.PageCount() > 1; }
 bool IsModified(const Frame& frame) { return frame.IsModified(); }
 bool CanZoomIn(const Frame& frame) { return NextZoomIn(frame.CurrentPage().Zoom()) <= Frame::kLargestZoom; }
 bool CanZoomOut(const Frame& frame) { return NextZoomOut(frame.CurrentPage().Zoom()) >= Frame::kSmallestZoom; }
+
+SizeD PageSize(const Frame& frame) {
+  const RVGlobalProperties& page = frame.CurrentPage().Page().properties;
+  return {page.width, page.height};
+}
+std::vector<std::size_t> LostCards(const Frame& frame) {
+  const CardList& cards = frame.CurrentPage().Page().cards;
+  std::vector<std::size_t> lost;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    if (IsOutOfSight(RectOf(cards[i]), PageSize(frame))) lost.push_back(i);
+  }
+  return lost;
+}
+bool HasLostCards(const Frame& frame) {
+  const CardList& cards = frame.CurrentPage().Page().cards;
+  for (std::size_t i = 0; i < cards.Size(); ++i) {
+    if (IsOutOfSight(RectOf(cards[i]), PageSize(frame))) return true;
+  }
+  return false;
+}
 
 std::wstring UndoDetail(const Frame& frame) { return UndoText(frame.History().NextUndoName()); }
 std::wstring RedoDetail(const Frame& frame) { return UndoText(frame.History().NextRedoName()); }
@@ -85,6 +104,17 @@ bool Tool(Frame& frame, Arguments) {
 template <int Kind>
 bool IsTool(const Frame& frame) {
   return frame.Tool() == Kind;
+}
+bool BringBack(Frame& frame, Arguments) {
+  const std::vector<std::size_t> lost = LostCards(frame);
+  RVEditTemplateWnd& page = frame.CurrentPage();
+  {
+    PageEdit edit = page.Edit({text::kBringCardsBack, static_cast<int>(lost.size())});
+    for (const std::size_t index : lost)
+      SetRect(edit.Card(index), BroughtBack(RectOf(edit.Card(index)), PageSize(frame)));
+  }
+  page.SelectPlaces(lost);
+  return true;
 }
 bool AddPage(Frame& frame, Arguments) {
   frame.AddPage();
@@ -180,9 +210,9 @@ constexpr Command kCommands[] = {
     {"CenterGroupVertically", kArrange, text::kCenterGroup, text::kCenterGroupV, "center-group-v", "Ctrl+Alt+Shift+Y",
      false, TwoSelected, nullptr, Justify<1, true>},
     {"DistributeHorizontally", kArrange, text::kDistributeGroup, text::kDistributeH, "distribute-h", "Alt+Shift+H",
-     false, ThreeSelected, nullptr, Distribute<0>},
+     false, TwoSelected, nullptr, Distribute<0>},
     {"DistributeVertically", kArrange, text::kDistributeGroup, text::kDistributeV, "distribute-v", "Alt+Shift+V", false,
-     ThreeSelected, nullptr, Distribute<1>},
+     TwoSelected, nullptr, Distribute<1>},
     {"ResizeBoth", kArrange, text::kSizeGroup, text::kSameSize, "same-size", "Alt+Shift+S", false, TwoSelected, nullptr,
      SameSize<true, true>},
     {"ResizeHorizontally", kArrange, text::kSizeGroup, text::kSameWidth, "same-width", "Alt+Shift+W", false,
@@ -193,6 +223,8 @@ constexpr Command kCommands[] = {
      OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlBringToFront>},
     {"SendToBack", kArrange, text::kOrderGroup, text::kSendToBack, "send-to-back", "Ctrl+Shift+[", true, OneSelected,
      nullptr, OnPage<&RVEditTemplateWnd::ControlSendToBack>},
+    {"BringBack", kArrange, text::kOrderGroup, text::kBringBack, "bring-back", "Ctrl+Shift+B", true, HasLostCards,
+     nullptr, BringBack},
 
     {"AddPage", kPage, text::kPagesGroup, text::kAddPage, "add-page", "Ctrl+Shift+N", true, Always, nullptr, AddPage},
     {"DeletePage", kPage, text::kPagesGroup, text::kDeletePage, "delete-page", "Ctrl+Shift+Del", false, HasSeveralPages,

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 
+#include "canvas/KeepOnPage.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -131,7 +132,13 @@ void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   const CardRow* common = RowOfTable(page.Page().cards[indexes.front()].GetRuntimeClass().table, row);
   if (!common) return;
   PageEdit edit = page.Edit({text::kChangeField, static_cast<int>(indexes.size()), row.panel.textId}, row.FullName());
-  for (const std::size_t index : indexes) AssignToCard(edit.Card(index), *common, text);
+  const RVGlobalProperties& properties = page.Page().properties;
+  for (const std::size_t index : indexes) {
+    RVCardControl& card = edit.Card(index);
+    const CardRect before = RectOf(card);
+    AssignToCard(card, *common, text);
+    if (RectOf(card) != before) SetRect(card, KeepOnPage(RectOf(card), before, {properties.width, properties.height}));
+  }
 }
 
 void SelectedFields::AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text) {

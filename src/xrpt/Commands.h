@@ -12,6 +12,7 @@ void AddResave(CLI::App& program, int& status);
 void AddInfo(CLI::App& program, int& status);
 void AddEdit(CLI::App& program, int& status);
 void AddEvaluate(CLI::App& program, int& status);
+void AddValidate(CLI::App& program, int& status);
 void AddRender(CLI::App& program, int& status);
 void AddClean(CLI::App& program, int& status);
 

@@ -19,6 +19,7 @@ int Run(int argc, char** argv) {
   xrpt::AddResave(program, status);
   xrpt::AddEdit(program, status);
   xrpt::AddInfo(program, status);
+  xrpt::AddValidate(program, status);
   xrpt::AddRender(program, status);
   xrpt::AddEvaluate(program, status);
   xrpt::AddClean(program, status);

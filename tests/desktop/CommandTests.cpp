@@ -88,6 +88,18 @@ TEST_F(CommandWindow, SwitchesShowWhatIsOn) {
   EXPECT_TRUE(Page().HasSmartGuides());
 }
 
+TEST_F(CommandWindow, TwoCardsCanBeDistributed) {
+  OpenSample();
+  const std::pair<std::vector<std::size_t>, bool> rows[] = {{{3}, false}, {{3, 5}, true}, {{3, 5, 6}, true}};
+  for (const auto& [cards, isEnabled] : rows) {
+    Page().SelectPlaces(cards);
+    Frame().Port().StateChanged();
+    Settle();
+    for (const char* name : {"DistributeHorizontally", "DistributeVertically"})
+      EXPECT_EQ(Window().AllActions().Find(name)->isEnabled(), isEnabled) << name << " of " << cards.size();
+  }
+}
+
 TEST_F(CommandWindow, DarkThemeLeavesThePageWhiteAndTheReportUnchanged) {
   Run("DarkTheme");
   EXPECT_TRUE(IsDarkTheme());

@@ -85,6 +85,25 @@ TEST_F(OutlineTest, ChoosingAPageShowsIt) {
   EXPECT_THAT(Selected(), ElementsAre(0));
 }
 
+TEST_F(OutlineTest, ChosenCardsComeIntoSight) {
+  ASSERT_TRUE(Frame().SetZoom(3.0));
+  const auto isInSight = [this] {
+    const Rect area = Page().SelectedArea();
+    return area.left >= 0 && area.top >= 0 && area.top < View().viewport()->height() &&
+           area.left < View().viewport()->width();
+  };
+  const int last = static_cast<int>(Page().Page().cards.Size()) - 1;
+  for (const int row : {0, last, 4, 2}) {
+    ClickLine(Cards(), row);
+    EXPECT_TRUE(isInSight()) << row;
+  }
+  View().setFocus();
+  for (int step = 0; step < 3; ++step) {
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(isInSight()) << step;
+  }
+}
+
 // Red dots mark what a search found; choosing a card is no search.
 TEST_F(OutlineTest, ChosenCardsAndTabHaveNoSearchMark) {
   const auto redDots = [this] {

@@ -243,6 +243,47 @@ TEST_F(Panel, NumbersBeyondTheRangeComeToItsEnd) {
   EXPECT_DOUBLE_EQ(size.value(), 7.0);
 }
 
+TEST_F(Panel, ACardStaysOnThePageWhateverIsTyped) {
+  Select({title_});
+  const CardRect before = RectOf(Card(title_));
+  const auto type = [this](const char* name, const char* keys) {
+    auto& field = Field<MixedSpinBox>(name);
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(keys));
+    Settle();
+    return field.text().toStdString();
+  };
+  EXPECT_EQ(type("x", "500"), "500") << "the text is the user's until it is finished";
+  EXPECT_EQ(Card(title_).x, 210.0 - before.width);
+  QTest::keyClick(&Field<MixedSpinBox>("x"), Qt::Key_Return);
+  Settle();
+  EXPECT_DOUBLE_EQ(Field<MixedSpinBox>("x").value(), 210.0 - before.width);
+  EXPECT_EQ(type("height", "0,8"), "0,8");
+  EXPECT_DOUBLE_EQ(Card(title_).height, 0.8);
+  type("height", "0");
+  View().setFocus();
+  Settle();
+  EXPECT_DOUBLE_EQ(Card(title_).height, 0.5);
+  EXPECT_DOUBLE_EQ(Field<MixedSpinBox>("height").value(), 0.5);
+  for (int step = 0; step < 4; ++step) Run("Undo");
+  EXPECT_EQ(RectOf(Card(title_)), before);
+}
+
+TEST_F(Panel, LostCardsAreBroughtBackByCommand) {
+  EXPECT_FALSE(Window().AllActions().Find("BringBack")->isEnabled());
+  const CardRect before = RectOf(Card(title_));
+  SetRect(*Page().Edit({}).Card(title_), {900.0, -400.0, before.width, 0.0});
+  Settle();
+  EXPECT_TRUE(Window().AllActions().Find("BringBack")->isEnabled());
+  Run("BringBack");
+  EXPECT_EQ(RectOf(Card(title_)), CardRect({210.0 - before.width, 0.0, before.width, 0.5}));
+  EXPECT_EQ(Page().SelectedCardId(), title_);
+  EXPECT_FALSE(Window().AllActions().Find("BringBack")->isEnabled());
+  Run("Undo");
+  EXPECT_EQ(Card(title_).x, 900.0);
+}
+
 TEST_F(Panel, TheWheelChangesNothingUnlessTheFieldHasTheKeyboard) {
   Select({title_});
   View().setFocus();

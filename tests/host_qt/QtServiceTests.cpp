@@ -47,6 +47,38 @@ TEST_F(QtServices, ClipboardHoldsTheTextAndThePictures) {
   EXPECT_EQ(data->data(QStringLiteral("image/png")), "png");
 }
 
+// What another program has on the clipboard, and how often it was asked for it.
+class AskedData final : public QMimeData {
+ public:
+  AskedData(const QString& text, int& asked) : asked_(asked) { setText(text); }
+
+ protected:
+  QVariant retrieveData(const QString& type, QMetaType as) const override {
+    ++asked_;
+    return QMimeData::retrieveData(type, as);
+  }
+
+ private:
+  int& asked_;
+};
+
+TEST_F(QtServices, ClipboardsOwnerIsAskedOnceAfterEachChange) {
+  QtClipboard clipboard;
+  int asked = 0;
+  for (const char* text : {"first", "second"}) {
+    asked = 0;
+    QGuiApplication::clipboard()->setMimeData(new AskedData(QString::fromLatin1(text), asked));
+    EXPECT_EQ(clipboard.GetFromClipboard(100), text);
+    const int once = asked;
+    EXPECT_GT(once, 0);
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(clipboard.GetFromClipboard(100), text);
+    EXPECT_EQ(clipboard.GetFromClipboard(3), "");
+    EXPECT_EQ(asked, once);
+  }
+  ASSERT_TRUE(clipboard.PutToClipboard({"own", "", ""}));
+  EXPECT_EQ(clipboard.GetFromClipboard(100), "own");
+}
+
 TEST_F(QtServices, ClipboardOfOthersMayHoldAnything) {
   QtClipboard clipboard;
   const QChar withEnd[] = {u'a', u'b', u'\0', u'x'};

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
@@ -45,8 +46,9 @@ CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* pa
   column->addWidget(list_);
   connect(field_, &QLineEdit::textChanged, this, [this](const QString& typed) { Fill(typed); });
   connect(list_, &QListWidget::itemClicked, this, [this] { RunChosen(); });
-  resize(std::min(520, parent->width() - 80), std::min(380, parent->height() - 120));
-  move(parent->mapToGlobal(QPoint((parent->width() - width()) / 2, 90)));
+  resize(std::clamp(parent->width() - 80, 320, 520), std::clamp(parent->height() - 120, 200, 380));
+  const QPoint place = parent->mapToGlobal(QPoint((parent->width() - width()) / 2, 90));
+  move(std::max(place.x(), screen()->availableGeometry().left()), place.y());
   Fill({});
   field_->setFocus();
 }

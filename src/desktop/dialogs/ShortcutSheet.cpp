@@ -53,7 +53,7 @@ ShortcutSheet::ShortcutSheet(const std::vector<QAction*>& actions, QWidget* pare
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(scroll, 1);
   column->addWidget(buttons);
-  resize(std::min(1080, parent->width() - 40), std::min(720, parent->height() - 40));
+  resize(std::clamp(parent->width() - 40, 480, 1080), std::clamp(parent->height() - 40, 320, 720));
 }
 
 QWidget* ShortcutSheet::MakeColumns(const std::vector<QAction*>& actions) {

@@ -47,6 +47,9 @@ class PageView final : public QAbstractScrollArea {
   // Scrolls so that this many millimetres of the page come to stand at a pixel.
   void ZoomAt(double zoom, QPoint at);
 
+  // Scrolls until the selected cards are in sight, as far as they fit.
+  void RevealSelection();
+
   // What the rulers and the status bar follow. The pointer left when there is no position.
   std::function<void(std::optional<QPoint>)> pointerMoved;
   std::function<void()> placementChanged;

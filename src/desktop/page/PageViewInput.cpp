@@ -38,6 +38,12 @@ DragModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
 
 constexpr Point kNowhere{-1, -1};
 
+// How far a stretch of pixels must go to be within a length; its near end counts most.
+int IntoSight(int near, int far, int length) {
+  if (near < 0) return near;
+  return far > length ? std::min(near, far - length) : 0;
+}
+
 }  // namespace
 
 // --- Mouse ---
@@ -133,6 +139,14 @@ void PageView::ZoomAt(double zoom, QPoint at) {
   verticalScrollBar()->setValue(roundi(fraction.y * after.pageHeightPx - at.y()));
 }
 
+void PageView::RevealSelection() {
+  if (!Window() || Window()->Selection().IsEmpty()) return;
+  const Rect area = Window()->SelectedArea();
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
+                                  IntoSight(area.left, area.right, viewport()->width()));
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + IntoSight(area.top, area.bottom, viewport()->height()));
+}
+
 // --- Keyboard ---
 
 void PageView::keyPressEvent(QKeyEvent* event) {
@@ -173,6 +187,7 @@ bool PageView::SelectNeighbour(bool next) {
   const std::size_t neighbour = next ? at - 1 : at + 1;
   if (neighbour >= count) return false;
   Window()->SelectPlaces({neighbour});
+  RevealSelection();
   if (changed) changed();
   return true;
 }

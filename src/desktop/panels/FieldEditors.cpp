@@ -102,20 +102,32 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
     control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
     if (row.panel.editor == FieldEditor::Angle) AsAngle();
     QObject::connect(control_, &QDoubleSpinBox::valueChanged, control_, [this, isInteger](double value) {
-      if (!control_->IsMixed()) Tell(FormatFixed(value, isInteger ? 0 : 2));
+      if (!control_->IsMixed()) TellNumber(FormatFixed(value, isInteger ? 0 : 2));
     });
+    QObject::connect(control_, &QAbstractSpinBox::editingFinished, control_, [this] { Show(last_); });
   }
+  // A number that the card does not take as it is (one beyond the page) is corrected when it is finished: "0" may be on
+  // its way to "0.8".
   void Show(const std::optional<std::wstring>& text) override {
+    last_ = text;
+    if (control_->IsBeingTyped()) return;
     if (!text) return control_->ShowMixed();
     const double value = ParseDecimal(*text);
     if (control_->IsMixed() || control_->value() != value) control_->ShowValue(value);
   }
+  void Finish() override { control_->FinishTyping(); }
 
  private:
   void AsAngle() {
     control_->setSuffix(QStringLiteral("°"));
     control_->setSingleStep(15.0);
   }
+  void TellNumber(const std::string& text) {
+    last_ = FromUtf8(text);
+    Tell(text);
+  }
+
+  std::optional<std::wstring> last_;  // as shown or told, whichever came later
 };
 
 class ColorEditor final : public EditorOf<ColorButton> {

@@ -14,7 +14,11 @@ MixedSpinBox::MixedSpinBox(QWidget* parent) : QDoubleSpinBox(parent) {
   setKeyboardTracking(true);
   setGroupSeparatorShown(false);
   setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this] { isMixed_ = false; });
+  connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+    isMixed_ = false;
+    isTyped_ = true;
+  });
+  connect(this, &QAbstractSpinBox::editingFinished, this, [this] { FinishTyping(); });
 }
 
 void MixedSpinBox::ShowValue(double value) {
@@ -61,6 +65,7 @@ void MixedSpinBox::fixup(QString& text) const {
 
 void MixedSpinBox::stepBy(int steps) {
   isMixed_ = false;
+  FinishTyping();
   QDoubleSpinBox::stepBy(steps);
 }
 

@@ -14,6 +14,9 @@ class MixedSpinBox final : public QDoubleSpinBox {
   void ShowValue(double value);
   void ShowMixed();
   bool IsMixed() const { return isMixed_; }
+  // From the first key until the number is finished, what stands here is the user's and is not replaced.
+  bool IsBeingTyped() const { return isTyped_; }
+  void FinishTyping() { isTyped_ = false; }
 
  protected:
   QString textFromValue(double value) const override;
@@ -27,6 +30,7 @@ class MixedSpinBox final : public QDoubleSpinBox {
   QString WithoutSuffix(const QString& text) const;
 
   bool isMixed_ = false;
+  bool isTyped_ = false;
 };
 
 }  // namespace xrpt

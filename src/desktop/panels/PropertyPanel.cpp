@@ -36,7 +36,7 @@ PropertyPanel::PropertyPanel(SelectedFields& fields, QWidget* parent)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   idle_->setSingleShot(true);
   idle_->setInterval(kIdleMilliseconds);
-  connect(idle_, &QTimer::timeout, this, [this] { Commit(); });
+  connect(idle_, &QTimer::timeout, this, [this] { EndStep(); });
 }
 
 PropertyPanel::~PropertyPanel() = default;
@@ -153,6 +153,10 @@ void PropertyPanel::Edit(const FieldRow& row, const std::string& text) {
 
 void PropertyPanel::Commit() {
   for (const Entry& entry : entries_) entry.editor->Finish();
+  EndStep();
+}
+
+void PropertyPanel::EndStep() {
   idle_->stop();
   isTyping_ = false;
   fields_.Commit();

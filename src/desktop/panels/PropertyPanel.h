@@ -48,6 +48,7 @@ class PropertyPanel final : public QScrollArea {
   QGridLayout* StartSection(QBoxLayout& column, FieldGroup group);
   void AddField(QGridLayout& grid, const FieldRow& row, int index);
   void ShowTitle();
+  void EndStep();
   void Edit(const FieldRow& row, const std::string& text);
 
   SelectedFields& fields_;

@@ -52,7 +52,7 @@ void FontGroup::AddFace(QBoxLayout& row) {
   face_->setAccessibleName(Translated(text::kFontFace));
   face_->setToolTip(Translated(text::kFontFace));
   connect(face_, &QComboBox::textActivated, this,
-          [this](const QString& face) { Assign("font/name", face.toStdString()); });
+          [this](const QString& face) { AssignAtOnce("font/name", face.toStdString()); });
   row.addWidget(face_, 1);
 }
 
@@ -66,6 +66,7 @@ void FontGroup::AddSize(QBoxLayout& row) {
   connect(size_, &QDoubleSpinBox::valueChanged, this, [this](double size) {
     if (!size_->IsMixed()) Assign("font/size", FormatDecimal(size));
   });
+  connect(size_, &QDoubleSpinBox::editingFinished, this, [this] { fields_.Commit(); });
   row.addWidget(size_);
 }
 
@@ -90,7 +91,7 @@ void FontGroup::AddStyleButton(QBoxLayout& row, QToolButton*& button, const char
 void FontGroup::AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word) {
   QToolButton* button = MakeButton(icon, textId);
   connect(button, &QToolButton::clicked, this, [this, field, word] {
-    Assign(field, word);
+    AssignAtOnce(field, word);
     Refresh();
   });
   row.addWidget(button);
@@ -100,13 +101,21 @@ void FontGroup::AddWordButton(QBoxLayout& row, const char* icon, int textId, con
 void FontGroup::AddColor(QBoxLayout& row) {
   color_ = new ColorButton(this);
   color_->setAccessibleName(Translated(text::kColor));
-  color_->chosen = [this](Color color) { Assign("color", FormatColor(color)); };
+  color_->chosen = [this](Color color) {
+    if (const char* field = TextColorField()) AssignAtOnce(field, FormatColor(color));
+  };
   row.addWidget(color_);
+}
+
+// Cards that are all text have one colour, and it is the text's; on those that have more, the letters have their own.
+const char* FontGroup::TextColorField() const {
+  if (fields_.Find("font/color")) return "font/color";
+  return fields_.Find("font/name") ? "color" : nullptr;
 }
 
 void FontGroup::AssignStyle() {
   static constexpr const char* kWords[] = {"NORMAL", "BOLD", "ITALIC", "ITALICBOLD"};
-  Assign("font/style", kWords[(bold_->isChecked() ? 1 : 0) + (italic_->isChecked() ? 2 : 0)]);
+  AssignAtOnce("font/style", kWords[(bold_->isChecked() ? 1 : 0) + (italic_->isChecked() ? 2 : 0)]);
 }
 
 void FontGroup::Assign(const char* field, const std::string& text) {
@@ -114,6 +123,12 @@ void FontGroup::Assign(const char* field, const std::string& text) {
   if (!state) return;
   fields_.Assign(*state->row, text);
   if (edited) edited();
+}
+
+void FontGroup::AssignAtOnce(const char* field, const std::string& text) {
+  fields_.Commit();
+  Assign(field, text);
+  fields_.Commit();
 }
 
 std::optional<std::wstring> FontGroup::TextOf(const char* field, bool& isThere) const {
@@ -146,8 +161,9 @@ void FontGroup::Refresh() {
     word.button->setEnabled(isThere);
     word.button->setChecked(text && ToQString(*text) == QLatin1String(word.word));
   }
-  const auto color = TextOf("color", isThere);
-  color_->setEnabled(isThere);
+  const char* colorField = TextColorField();
+  const auto color = colorField ? TextOf(colorField, isThere) : std::nullopt;
+  color_->setEnabled(colorField && isThere);
   color_->Show(color ? std::optional(ParseColor(*color)) : std::nullopt);
 }
 

@@ -40,8 +40,13 @@ class FontGroup final : public QWidget {
   void AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word);
   void AddColor(QBoxLayout& row);
   QToolButton* MakeButton(const char* icon, int textId);
+  // Joins with what came before, while a number is being typed.
   void Assign(const char* field, const std::string& text);
+  // Each press is a step of its own.
+  void AssignAtOnce(const char* field, const std::string& text);
   void AssignStyle();
+  // Null where the cards have no colour of letters in common.
+  const char* TextColorField() const;
   std::optional<std::wstring> TextOf(const char* field, bool& isThere) const;
 
   SelectedFields& fields_;

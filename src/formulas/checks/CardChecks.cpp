@@ -44,7 +44,7 @@ struct LabelText {
   TextLayout LaidOutIn(const RectD& area) const {
     const SizeD card{area.Width() * kPointsPerMm, area.Height() * kPointsPerMm};
     const TextBox box{card, label.horizontalAlign, label.verticalAlign};
-    FontService& fonts = *CurrentHost().fonts;
+    FontService& fonts = *label.Services().fonts;
     return IsTurned() ? LayOutTurnedText(fonts, font, text, box, label.orientation)
                       : LayOutText(fonts, font, text, box);
   }
@@ -62,9 +62,9 @@ const RVCardLabel* StillLabel(const RVCardControl& card) {
   return label;
 }
 
-DrawScale ScaleOn(const PageShape& page) {
+DrawScale ScaleOf(const CardView& view) {
   constexpr double kUsualDpi = 96.0;
-  return {1.0, 1.0, page.fontFactor * kUsualDpi / CurrentHost().screen->DpiY()};
+  return {1.0, 1.0, view.page.fontFactor * kUsualDpi / view.card.Services().screen->DpiY()};
 }
 
 // As high as the text is when it has the rest of the page below it, if that helps. A card inside another has no height
@@ -89,7 +89,7 @@ double PrintedDpi(const Picture& picture, const RVCardImage& card, const RectD& 
 }
 
 std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
-  StyleTable& styles = *CurrentHost().styles;
+  StyleTable& styles = *view.card.Services().styles;
   std::wstring found;
   const std::wstring stored = view.element.Value("style");
   if (!stored.empty() && !styles.StyleId2Name(stored, found)) return stored;
@@ -121,7 +121,7 @@ std::optional<Note> OutsidePage(const CardView& view) {
 std::optional<Note> TextCutOff(const CardView& view) {
   const RVCardLabel* label = StillLabel(view.card);
   if (!label) return std::nullopt;
-  const LabelText text{PageFont(label->font, ScaleOn(view.page)), label->ShownText(), *label};
+  const LabelText text{PageFont(label->font, ScaleOf(view)), label->ShownText(), *label};
   if (text.text.empty() || text.FitsInto(view.area)) return std::nullopt;
   return Note{.remedy = MakeHigher(text, view)};
 }

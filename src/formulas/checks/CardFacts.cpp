@@ -17,10 +17,14 @@ void AddExpression(const std::wstring& expression, CardFacts& facts) {
   for (const auto& [name, uses] : FormulasIn(expression)) facts.formulas.push_back(name);
 }
 
+void AddName(std::wstring name, CardFacts& facts) {
+  if (!name.empty()) facts.formulas.push_back(std::move(name));
+}
+
 void AddBound(const ListTable<RVCardControl>& table, const RVCardControl& card, CardFacts& facts) {
   for (const ListOf<RVCardControl>& row : table.rows) {
     if (row.panel.editor != FieldEditor::Variable) continue;
-    for (std::size_t i = 0; i < row.size(card); ++i) facts.formulas.push_back(row.text(card, i));
+    for (std::size_t i = 0; i < row.size(card); ++i) AddName(row.text(card, i), facts);
   }
 }
 
@@ -28,7 +32,7 @@ void AddBound(const ListTable<RVCardControl>& table, const RVCardControl& card, 
 void AddFields(const RVCardControl& card, CardFacts& facts) {
   ForEachField(card.GetRuntimeClass().table, [&card, &facts](const CardRow& row) {
     if (row.list) AddBound(row.list(), card, facts);
-    if (row.panel.editor == FieldEditor::Variable) facts.formulas.push_back(row.text(card));
+    if (row.panel.editor == FieldEditor::Variable) AddName(row.text(card), facts);
     if (row.panel.editor == FieldEditor::FontFace && row.Applies(card)) facts.faces.push_back(row.text(card));
   });
 }

@@ -74,12 +74,13 @@ class FolderRun {
 
   void Take(const ReportFindings& report) {
     outcome_.done += report.isComplete ? 1 : 0;
+    ++through_;
     if (wantsNames_) names_.Add(report);
     Tell(report);
   }
 
   void Tell(const ReportFindings& report) const {
-    if (check_.done) check_.done(report);
+    if (check_.done) check_.done(report, through_, files_.size());
   }
 
   const FolderCheck& check_;
@@ -88,6 +89,7 @@ class FolderRun {
   std::vector<Path> files_;
   OrderedResults<ReportFindings> results_;
   SharedNames names_;
+  std::size_t through_ = 0;
   FolderOutcome outcome_;
 };
 

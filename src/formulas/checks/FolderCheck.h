@@ -12,8 +12,9 @@ struct FolderCheck {
   CheckChoice choice = CheckChoice::AllHost();
   int jobs = 1;
   const std::atomic<bool>* stop = nullptr;  // looked at before each file and each card
-  // Called for every file, in order, one call at a time, from any of the threads. Must not throw.
-  std::function<void(const ReportFindings&)> done = {};
+  // Called for every file, in order, one call at a time, from any of the threads, with how many of how many files are
+  // through; once more at the end for each report that shares its name. Must not throw.
+  std::function<void(const ReportFindings& report, std::size_t through, std::size_t of)> done = {};
 };
 
 struct FolderOutcome {

@@ -1,9 +1,9 @@
 // From text to program: each operand is read as far as operators that bind tighter than the one before it reach.
 #include <span>
-#include <unordered_map>
 
 #include "host/expressions/ExpressionTexts.h"
 #include "host/expressions/Functions.h"
+#include "host/expressions/NameMap.h"
 #include "host/expressions/Program.h"
 
 namespace xrpt {
@@ -60,6 +60,7 @@ class Compiler {
   Compiler(std::wstring_view text, Program& program) : tokens_(text), program_(program) {}
 
   void Run() {
+    program_.code.reserve(kUsualLength);
     Step();
     if (token_.type == kTokenEnd) {
       program_.error.text = text::kEmptyExpression;
@@ -80,6 +81,8 @@ class Compiler {
   bool Module();
   std::vector<bool> Arguments();
 
+  static constexpr std::size_t kUsualLength = 16;  // instructions
+
   void Step() { token_ = tokens_.Next(); }
   bool Failed() const { return program_.error.text != 0; }
   void Fail(int text, std::wstring_view argument = {}) { FailAt(token_, text, argument); }
@@ -94,15 +97,14 @@ class Compiler {
     program_.code.push_back({kind, static_cast<std::uint8_t>(what), static_cast<std::uint32_t>(index)});
   }
   void EmitConstant();
-  void EmitReference(Instruction::Kind kind, std::vector<Reference>& list,
-                     std::unordered_map<std::wstring_view, std::size_t>& places);
+  void EmitReference(Instruction::Kind kind, std::vector<Reference>& list, NameMap<std::size_t>& places);
 
   Tokenizer tokens_;
   Program& program_;
   Token token_;
   int depth_ = 0;
-  std::unordered_map<std::wstring_view, std::size_t> names_;
-  std::unordered_map<std::wstring_view, std::size_t> variables_;
+  NameMap<std::size_t> names_;
+  NameMap<std::size_t> variables_;
 };
 
 // The first mistake is the one that is told.
@@ -257,12 +259,15 @@ void Compiler::EmitConstant() {
   Step();
 }
 
-void Compiler::EmitReference(Instruction::Kind kind, std::vector<Reference>& list,
-                             std::unordered_map<std::wstring_view, std::size_t>& places) {
+void Compiler::EmitReference(Instruction::Kind kind, std::vector<Reference>& list, NameMap<std::size_t>& places) {
   if (token_.text.empty()) return Fail(text::kNoVariableName);
-  const auto [at, isNew] = places.try_emplace(token_.text, list.size());
-  if (isNew) list.push_back({token_.text, token_.position, token_.length});
-  Emit(kind, at->second);
+  const std::size_t* known = places.Find(token_.text);
+  const std::size_t place = known ? *known : list.size();
+  if (!known) {
+    places.Add(token_.text, place);
+    list.push_back({token_.text, token_.position, token_.length});
+  }
+  Emit(kind, place);
   const Token name = token_;
   Step();
   if (kind == Instruction::Kind::Name && token_.type == kTokenOpen) FailAt(name, text::kNoSuchFunction, name.text);

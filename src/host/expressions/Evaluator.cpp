@@ -1,10 +1,8 @@
 #include "host/expressions/Evaluator.h"
 
-#include <unordered_map>
-#include <unordered_set>
-
 #include "host/expressions/ExpressionTexts.h"
 #include "host/expressions/Machine.h"
+#include "host/expressions/NameMap.h"
 #include "platform/SampleData.h"
 #include "platform/Text.h"
 
@@ -19,10 +17,12 @@ RVToken TokenOf(int type, const Reference& reference) {
 template <class References>
 std::vector<RVToken> TokensOf(const Linked& linked, int type, References references) {
   std::vector<RVToken> tokens;
-  std::unordered_set<std::wstring_view> seen;
+  NameMap<bool> seen;
   for (const auto& unit : linked.units) {
     for (const Reference& reference : references(*unit)) {
-      if (seen.insert(reference.text).second) tokens.push_back(TokenOf(type, reference));
+      if (seen.Find(reference.text)) continue;
+      seen.Add(reference.text, true);
+      tokens.push_back(TokenOf(type, reference));
     }
   }
   return tokens;
@@ -42,9 +42,10 @@ class Readings {
   explicit Readings(ValueService& values) : values_(values) {}
 
   double Of(std::wstring_view variable) {
-    const auto [at, isNew] = known_.try_emplace(variable, 0.0);
-    if (isNew) at->second = Ask(variable);
-    return at->second;
+    if (const double* known = known_.Find(variable)) return *known;
+    const double reading = Ask(variable);
+    known_.Add(variable, reading);
+    return reading;
   }
   bool AllLive() const { return allLive_; }
 
@@ -56,7 +57,7 @@ class Readings {
   }
 
   ValueService& values_;
-  std::unordered_map<std::wstring_view, double> known_;
+  NameMap<double> known_;
   bool allLive_ = true;
 };
 

@@ -1,6 +1,8 @@
 #include "host/expressions/Formulas.h"
 
 #include "host/expressions/ExpressionTexts.h"
+#include "host/expressions/NameMap.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -32,7 +34,7 @@ class Linker {
   Linked& linked_;
   std::vector<Step> path_;
   std::vector<State> states_;
-  std::unordered_map<std::wstring, std::size_t> known_;
+  NameMap<std::size_t> known_;
   std::size_t length_ = 0;
 };
 
@@ -68,16 +70,16 @@ void Linker::Advance() {
 }
 
 std::size_t Linker::Follow(std::wstring_view name) {
-  const auto known = known_.find(std::wstring(name));
-  if (known == known_.end()) return FollowNew(name);
-  if (known->second != Unit::kUndefined && states_[known->second] == State::OnPath) Fail(text::kFormulaInCircle, name);
-  return known->second;
+  const std::size_t* known = known_.Find(name);
+  if (!known) return FollowNew(name);
+  if (*known != Unit::kUndefined && states_[*known] == State::OnPath) Fail(text::kFormulaInCircle, name);
+  return *known;
 }
 
 std::size_t Linker::FollowNew(std::wstring_view name) {
   std::optional<std::wstring> text = formulas_.Text(name);
   const std::size_t unit = text ? linked_.units.size() : Unit::kUndefined;
-  known_.emplace(name, unit);
+  known_.Add(name, unit);
   if (!text) return unit;
   if (length_ + text->size() > Linked::kLongest) {
     Fail(text::kFormulasTooLong, std::to_wstring(Linked::kLongest));
@@ -91,19 +93,34 @@ std::size_t Linker::FollowNew(std::wstring_view name) {
 
 }  // namespace
 
-void FormulaTexts::Read() {
-  if (!formules_) return;
-  for (const XmlNode& formula : formules_->Root()) {
-    if (formula.Tag() == "formule") texts_.emplace(formula.Value("name"), formula.Node("text"));
-  }
-  formules_ = nullptr;
-}
-
+// The first few names are looked for one by one: most expressions use no more, and a report has many formulas.
 std::optional<std::wstring> FormulaTexts::Text(std::wstring_view name) {
+  constexpr int kFew = 4;
+  if (++asked_ <= kFew) return SearchText(name);
   Read();
   const auto at = texts_.find(std::wstring(name));
   if (at == texts_.end()) return std::nullopt;
   return at->second.Value();
+}
+
+std::optional<std::wstring> FormulaTexts::SearchText(std::wstring_view name) const {
+  if (!formules_) return std::nullopt;
+  const std::string wanted = ToUtf8(name);
+  std::string joined;
+  for (const XmlNode& formula : formules_->Root()) {
+    if (formula.Tag() == "formule" && formula.Node("name").WholeText(joined) == wanted) {
+      return formula.Value("text");
+    }
+  }
+  return std::nullopt;
+}
+
+void FormulaTexts::Read() {
+  if (isRead_ || !formules_) return;
+  for (const XmlNode& formula : formules_->Root()) {
+    if (formula.Tag() == "formule") texts_.emplace(formula.Value("name"), formula.Node("text"));
+  }
+  isRead_ = true;
 }
 
 Linked Link(std::wstring_view text, FormulaTexts& formulas) {

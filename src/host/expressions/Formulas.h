@@ -9,8 +9,8 @@
 
 namespace xrpt {
 
-// The texts of a formulas document by name; of two with one name the first counts. The document is gone through when a
-// name is first asked for.
+// The texts of a formulas document by name; of two with one name the first counts. The document is gone through only
+// when names are asked for.
 class FormulaTexts {
  public:
   // No document has no formulas.
@@ -19,9 +19,12 @@ class FormulaTexts {
   std::optional<std::wstring> Text(std::wstring_view name);
 
  private:
+  std::optional<std::wstring> SearchText(std::wstring_view name) const;
   void Read();
 
   const XmlDocument* formules_;
+  int asked_ = 0;
+  bool isRead_ = false;
   std::unordered_map<std::wstring, XmlNode> texts_;
 };
 

@@ -106,7 +106,7 @@ Token Tokenizer::VariableToken() {
 Token Tokenizer::SignToken() {
   const std::wstring_view rest = text_.substr(at_);
   for (const Sign& sign : kSigns) {
-    if (rest.substr(0, sign.text.size()) != sign.text) continue;
+    if (rest.front() != sign.text.front() || rest.substr(0, sign.text.size()) != sign.text) continue;
     Token token = Take(sign.type, sign.text.size());
     token.op = sign.op;
     return token;

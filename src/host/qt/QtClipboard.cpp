@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QObject>
 
 namespace xrpt {
 namespace {
@@ -13,6 +14,16 @@ QByteArray BytesOf(const std::string& text) { return {text.data(), static_cast<q
 
 void SetFlavour(QMimeData& data, const char* type, const std::string& bytes) {
   if (!bytes.empty()) data.setData(QString::fromLatin1(type), BytesOf(bytes));
+}
+
+// Some programs put a text with its terminating NUL on the clipboard; what follows it is no text.
+std::string TextOf(const QClipboard& clipboard) {
+  const QMimeData* data = clipboard.mimeData();
+  if (!data || !data->hasText()) return {};
+  const QString text = data->text();
+  if (static_cast<std::size_t>(text.size()) > QtClipboard::kMaxBytes) return {};
+  const std::string bytes = text.toStdString();
+  return bytes.size() <= QtClipboard::kMaxBytes ? bytes.substr(0, bytes.find('\0')) : std::string();
 }
 
 }  // namespace
@@ -28,15 +39,21 @@ bool QtClipboard::PutToClipboard(const ClipboardContent& content) {
   return true;
 }
 
-// Some programs put a text with its terminating NUL on the clipboard; what follows it is no text.
+QtClipboard::QtClipboard() = default;
+QtClipboard::~QtClipboard() = default;
+
+void QtClipboard::Watch(const QClipboard& clipboard) {
+  if (watcher_) return;
+  watcher_ = std::make_unique<QObject>();
+  QObject::connect(&clipboard, &QClipboard::dataChanged, watcher_.get(), [this] { text_.reset(); });
+}
+
 std::string QtClipboard::GetFromClipboard(std::size_t limit) {
   const QClipboard* clipboard = Clipboard();
-  const QMimeData* data = clipboard ? clipboard->mimeData() : nullptr;
-  if (!data || !data->hasText()) return {};
-  const QString text = data->text();
-  if (static_cast<std::size_t>(text.size()) > limit) return {};
-  const std::string bytes = text.toStdString();
-  return bytes.size() <= limit ? bytes.substr(0, bytes.find('\0')) : std::string();
+  if (!clipboard) return {};
+  Watch(*clipboard);
+  if (!text_) text_ = TextOf(*clipboard);
+  return text_->size() <= limit ? *text_ : std::string();
 }
 
 }  // namespace xrpt

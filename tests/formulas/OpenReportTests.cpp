@@ -1,0 +1,126 @@
+// A report checked while it is edited: always the same as one checked from its file, and only what changed is looked
+// at.
+#include "formulas/FormulaTable.h"
+#include "formulas/checks/FileCheck.h"
+#include "formulas/checks/OpenReportCheck.h"
+#include "model/RVCardFormule.h"
+#include "support/CheckedReport.h"
+
+namespace xrpt {
+namespace {
+
+using Codes = std::vector<std::string>;
+
+Codes CodesOf(const std::vector<Finding>& findings) {
+  Codes codes;
+  for (const Finding& finding : findings) {
+    codes.push_back(ToUtf8(finding.code->name) + "@" + std::to_string(finding.place.page) + "." +
+                    std::to_string(finding.place.card));
+  }
+  return codes;
+}
+
+class OpenReportTest : public ReportCheckTest {
+ protected:
+  void Load(const ReportText& text) {
+    XmlDocument document;
+    ASSERT_TRUE(document.Parse(text.Xml()));
+    report.SetTemplate(document.Root());
+  }
+
+  // Everything that is to do, at once.
+  Codes Now() {
+    check.Look(report);
+    EXPECT_TRUE(check.Work(OpenReportCheck::Clock::time_point::max()));
+    return CodesOf(check.Findings());
+  }
+
+  // How many cards are looked at after a change.
+  std::size_t LookedAt() {
+    const std::size_t before = check.CardsChecked();
+    Now();
+    return check.CardsChecked() - before;
+  }
+
+  template <class Card>
+  Card& Edit(std::size_t index) {
+    return dynamic_cast<Card&>(report.pages[0]->cards.Edit(index));
+  }
+
+  RVReport report{*host};
+  OpenReportCheck check{*host};
+};
+
+TEST_F(OpenReportTest, FindsWhatTheSavedFileWouldShow) {
+  Load({Formule("") + Formule("A + [VIRTUAL_X.P]", "c2") + Conditioned("3"), "A=B", "VIRTUAL_Y", "GOBACK@P"});
+  const Codes open = Now();
+  EXPECT_EQ(open, (Codes{"FORMULECTRL_FORMULE_EMPTY@1.0", "FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.1",
+                         "FORMULECTRL_VIRTUAL_DEVICE_ERROR@1.1", "CONDITIONALCTRL_CONDITION_EXPRESSION_ERROR@1.2",
+                         "CONDITIONALCTRL_CONDITION_EXPRESSION_ERROR@1.2", "REPORT_VIRTUAL_DEVICE_ERROR@0.-1",
+                         "REPORT_GOBACK_VARIABLE_ERROR@0.-1", "FORMULA_UNKNOWN_NAME@0.-1", "CARD_ID_SHARED@1.2"}));
+  const CheckChoice all = CheckChoice::All();
+  const ReportFindings saved = FileCheck(all, {}).Check(host.WriteCfg("r.xrpt", report.TemplateText()));
+  Codes fromFile = CodesOf(saved.findings), fromWindow = open;
+  std::sort(fromFile.begin(), fromFile.end());
+  std::sort(fromWindow.begin(), fromWindow.end());
+  EXPECT_EQ(fromFile, fromWindow);
+}
+
+TEST_F(OpenReportTest, LooksOnlyAtWhatChanged) {
+  std::string cards = Formule("TOTAL", "f");
+  for (int i = 0; i < 300; ++i) cards += Formule("[MAIN.P] + 1", "c" + std::to_string(i));
+  Load({cards, "TOTAL=3"});
+  EXPECT_EQ(LookedAt(), 301u);
+  EXPECT_EQ(LookedAt(), 0u);
+  Edit<RVCardFormule>(7).value = L"1 +";
+  EXPECT_EQ(LookedAt(), 1u);
+  EXPECT_EQ(CodesOf(check.Findings()), Codes{"FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.7"});
+  report.pages[0]->cards.MoveToFront({7});
+  EXPECT_EQ(LookedAt(), 0u);
+  EXPECT_EQ(CodesOf(check.Findings()), Codes{"FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.0"});
+  report.pages[0]->cards.Remove({0});
+  EXPECT_EQ(LookedAt(), 0u);
+  EXPECT_EQ(CodesOf(check.Findings()), Codes());
+}
+
+// A card is edited in place while its step is open; what was seen of it then must not stay.
+TEST_F(OpenReportTest, SeesEachStageOfAnEdit) {
+  Load({Formule("1")});
+  Now();
+  RVCardFormule& first = Edit<RVCardFormule>(0);
+  first.value = L"1 +";
+  EXPECT_EQ(Now().size(), 1u);
+  Edit<RVCardFormule>(0).value = L"2";
+  EXPECT_EQ(Now(), Codes());
+}
+
+TEST_F(OpenReportTest, LooksAgainAtWhatHangsOnTheReport) {
+  Load({Formule("TOTAL", "a") + Formule("1", "b") + "<label><id>l</id></label>", "TOTAL=1"});
+  Now();
+  report.formules = FormulasDocument(kFormulesRoot, {});
+  EXPECT_EQ(LookedAt(), 1u) << "the one that uses a formula";
+  EXPECT_EQ(CodesOf(check.Findings()), Codes{"FORMULECTRL_FORMULE_EXPRESSION_ERROR@1.0"});
+  report.virtualDevices.Root().NewChild("virtualDevice").SetValue("id", L"VIRTUAL_A");
+  EXPECT_EQ(LookedAt(), 2u) << "the two that may refer to devices";
+  EXPECT_EQ(CodesOf(check.Findings()).back(), "REPORT_VIRTUAL_DEVICE_ERROR@0.-1");
+  report.pages[0]->properties.width = 5.0;
+  EXPECT_EQ(LookedAt(), 3u) << "all that stand on the page";
+  check.Forget();
+  EXPECT_EQ(LookedAt(), 3u);
+}
+
+TEST_F(OpenReportTest, WorksInSlices) {
+  std::string cards;
+  for (int i = 0; i < 200; ++i) cards += Formule("", "c" + std::to_string(i));
+  Load({cards});
+  check.Look(report);
+  EXPECT_FALSE(check.Work(OpenReportCheck::Clock::now()));
+  EXPECT_TRUE(check.Findings().empty());
+  int slices = 0;
+  while (!check.Work(OpenReportCheck::Clock::now() + std::chrono::microseconds(200))) ++slices;
+  EXPECT_EQ(check.Findings().size(), 200u);
+  EXPECT_GT(slices, 0);
+}
+
+}  // namespace
+}  // namespace xrpt
