@@ -1,7 +1,9 @@
 #include "desktop/FileKeeper.h"
 
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QSessionManager>
 #include <QWidget>
 

@@ -1,5 +1,7 @@
 #include "desktop/FileWatcher.h"
 
+#include <utility>
+
 namespace xrpt {
 
 FileWatcher::FileWatcher(FileService& files, std::chrono::milliseconds pause, Told told)

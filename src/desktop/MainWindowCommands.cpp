@@ -1,4 +1,5 @@
 // The commands of the catalogue that need a window: switches of the view, sheets, saving under a name.
+#include <QApplication>
 #include <QDockWidget>
 
 #include "canvas/RVEditTemplateWnd.h"

@@ -86,7 +86,11 @@ LoadResult RVEditControlWnd::Reload() {
 
 // What was kept goes on being kept, under a number of ours, until it is saved or decided against.
 LoadResult RVEditControlWnd::OpenRecovered(const Recovered& work) {
-  if (!LetGoOfChanges()) return {.file = work.text, .cancelled = true};
+  if (!LetGoOfChanges()) {
+    LoadResult cancelled;
+    cancelled.cancelled = true;
+    return cancelled;
+  }
   const LoadResult result = LoadWith([&](RVReport& report) {
     LoadResult loaded = report.LoadFile(work.text);
     if (!loaded.loaded) return loaded;

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 #include <map>
 
 #include "desktop/TextIds.h"
