@@ -78,6 +78,7 @@ void RVEditTemplateWnd::DeleteSelectedControls() {
   for (const std::size_t index : indexes) {
     parent_.OnMessage({Message::CardAboutToBeDeleted, page_.cards[index].id, 0});
   }
+  PassSearchOn(indexes);
   PageEdit edit = Edit({text::kDeleteCards, count});
   edit.Cards().Remove(std::move(indexes));
   edit.EndQuietly();

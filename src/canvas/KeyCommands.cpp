@@ -11,9 +11,9 @@ enum MenuCommand : int {
   kDelete = 415,
   kCopy = 57634,
   kCut = 57635,
-  kFind = 57636,
+  kFind = kFindCommand,
   kPaste = 57637,
-  kReplace = 57641,
+  kReplace = kReplaceCommand,
   kSelectAll = 57642,
   kUndo = 57643,
   kFirstToolbar = 800,
@@ -67,6 +67,12 @@ bool RVEditTemplateWnd::OnControlKey(int code, bool shift) {
       return true;
     case 'E':
       ControlSelectAll();
+      return true;
+    case 'F':
+      OnControlSearch();
+      return true;
+    case 'H':
+      OnControlReplace();
       return true;
     default:
       return false;
@@ -155,10 +161,20 @@ bool RVEditTemplateWnd::OnCommand(int command) {
     case kUndo:
       ControlUndo();
       return true;
+    case kFind:
+      OnControlSearch();
+      return true;
+    case kReplace:
+      OnControlReplace();
+      return true;
     default:
       return ToggleToolbar(command - kFirstToolbar);
   }
 }
+
+void RVEditTemplateWnd::OnControlSearch() { parent_.OnMessage({Message::Command, {}, kFind}); }
+
+void RVEditTemplateWnd::OnControlReplace() { parent_.OnMessage({Message::Command, {}, kReplace}); }
 
 bool RVEditTemplateWnd::ToggleToolbar(int toolbar) {
   if (toolbar < 0 || toolbar > kLastToolbar - kFirstToolbar || !toolbar_.toggle) return false;

@@ -213,6 +213,22 @@ class RVEditTemplateWnd {
       std::function<void(const RVReportPage&, const std::vector<std::wstring>& ids, ClipboardContent&)>;
   void SetPictureMaker(PictureMaker maker) { pictureMaker_ = std::move(maker); }
 
+  // --- Searching the cards' texts, see SearchCommands.cpp ---
+  // Looks through every card, in list order.
+  void CreateSearchInfo(const std::wstring& pattern, bool matchCase) const;
+  // Steps to the next match, after the last one to the first again (a call in between finds nothing), and tells the
+  // parent whose card it is in. A new search starts at the first card.
+  bool SearchControl(const std::wstring& pattern, bool matchCase, bool newSearch);
+  // Replaces the match found last; false when there is none.
+  bool ReplaceControl(const std::wstring& pattern, const std::wstring& replacement);
+  // In every card, as one step. How many matches were replaced.
+  std::size_t ReplaceAllControls(const std::wstring& pattern, const std::wstring& replacement, bool matchCase);
+  // Picks the card of the match found last, as `SelectControlById` does.
+  bool SelectSearchedCard();
+  // Opens the dialog, which is the parent's.
+  void OnControlSearch();
+  void OnControlReplace();
+
   // --- Arranging the selected cards; modes as in Arrange.h ---
   void AlignSelectedControls(int mode);
   void AlignSelectedControlsCtrl(int mode);
@@ -268,6 +284,7 @@ class RVEditTemplateWnd {
   void SetSupport(int kind, bool on);
   bool Supports(int kind) const;
   void SelectAlone(CardKey card);
+  void Pick(const RVCardControl& card);
   void DropGoneFromSelection();
   void Insert(std::unique_ptr<RVCardControl> card);
   void AddCard(int kind, double x, double y, double width, double height);
@@ -311,6 +328,11 @@ class RVEditTemplateWnd {
   void Refuse(int textId);
   void Scroll(ScrollAxis axis, ScrollCommand command, int thumb);
 
+  // Searching
+  std::size_t SearchedIndex() const;
+  void ForgetSearch();
+  void PassSearchOn(const std::vector<std::size_t>& going);
+
   // Arranging, see ArrangeCommands.cpp
   template <class Rule>
   void Arrange(const Rule& rule, int undoTextId);
@@ -346,6 +368,7 @@ class RVEditTemplateWnd {
   unsigned support_ = AllInsertKinds();
   int insertKind_ = tool::kLabel;
   CardKey picked_ = 0;
+  CardKey searched_ = 0;  // of the match found last; 0 for none
   bool redrawBackground_ = true;
   bool smartGuides_ = false;
   Marching marching_;

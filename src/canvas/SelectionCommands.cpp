@@ -37,7 +37,11 @@ void RVEditTemplateWnd::SelectPlaces(const std::vector<std::size_t>& indexes) {
   port_.Invalidate();
 }
 
-void RVEditTemplateWnd::ClearSelection() { selection_.Clear(); }
+// The mark on a card that was picked goes with it.
+void RVEditTemplateWnd::ClearSelection() {
+  selection_.Clear();
+  picked_ = 0;
+}
 
 std::wstring RVEditTemplateWnd::SelectedCardId() const {
   return selection_.Size() == 1 ? selection_.Entries().front().id : std::wstring();
@@ -46,16 +50,19 @@ std::wstring RVEditTemplateWnd::SelectedCardId() const {
 bool RVEditTemplateWnd::SelectControlById(std::wstring_view id) {
   picked_ = 0;
   const RVCardControl* card = page_.cards.Find(id);
-  if (!card) return false;
+  if (card) Pick(*card);
+  return card != nullptr;
+}
+
+void RVEditTemplateWnd::Pick(const RVCardControl& card) {
   EndEdit();
   DropGesture();
   PauseTimer();
-  SelectAlone(card->Key());
-  picked_ = card->Key();
+  SelectAlone(card.Key());
+  picked_ = card.Key();
   StartTimer();
   PostChange(true);
   port_.Invalidate();
-  return true;
 }
 
 // A card that is gone is not selected any more.

@@ -95,6 +95,7 @@ void RVEditTemplateWnd::Restore(const RVUndo& step, const RVUndo& flags) {
   if (flags.IsSelectionChanged() || !options_.countsSelections) selection_ = step.Selection();
   if (flags.IsGlobalsChanged()) TakePageFrom(step);
   DropGoneFromSelection();
+  ForgetSearch();
   RedrawBackground();
   PostChange(!flags.ChangesPage());
   StartTimer();

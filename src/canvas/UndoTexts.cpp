@@ -22,7 +22,9 @@ std::wstring Inside(std::wstring label) {
 std::wstring UndoText(const UndoName& name) {
   if (name.textId == 0) return {};
   if (name.fieldTextId != 0) return FormatText(HostText(name.textId), Inside(HostText(name.fieldTextId)));
-  const bool forOne = name.count == 1 && name.textId >= text::kMove && name.textId <= text::kChange;
+  const bool countsCards =
+      (name.textId >= text::kMove && name.textId <= text::kChange) || name.textId == text::kReplace;
+  const bool forOne = name.count == 1 && countsCards;
   const std::wstring pattern = HostText(forOne ? name.textId + text::kOneCardOffset : name.textId);
   return FormatText(pattern, std::to_wstring(name.count));
 }

@@ -41,6 +41,12 @@ inline constexpr int kReportRenamed = 60422;
 inline constexpr int kGridSwitched = 60423;
 inline constexpr int kBringCardsBack = 60430;
 
+// In the range of the formulas' texts.
+inline constexpr int kReplace = 61880;     // in cards
+inline constexpr int kReplaceAll = 61881;  // all over the report
+inline constexpr int kFormulasChanged = 61882;
+inline constexpr int kSourcesChanged = 61883;
+
 inline constexpr int kTooMuchForClipboard = 60449;  // a refusal, no step
 
 inline constexpr int kOneCardOffset = 50;

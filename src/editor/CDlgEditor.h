@@ -31,6 +31,8 @@ class CDlgEditor {
   void OnStylesModified() { frame_.StylesModified(); }
   void OnManagerImageModified() { frame_.ImagesModified(); }
   bool OnControlByIdSelect(const std::wstring& id) { return frame_.SelectControlById(id); }
+  // Applies a replace that waits.
+  void OnCtrlSearchReplace() { frame_.ApplyPendingReplace(); }
   // Deliberately nothing: Enter and Escape never close the editor.
   void OnOK() {}
   void OnCancel() {}

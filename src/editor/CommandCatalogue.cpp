@@ -157,6 +157,8 @@ constexpr Command kCommands[] = {
      OnFrame<&Frame::Redo>, RedoDetail},
     {"SelectAll", kHome, text::kSelectGroup, text::kSelectAll, "select-all", "Ctrl+E Ctrl+A", true, HasCards, nullptr,
      OnPage<&RVEditTemplateWnd::ControlSelectAll>},
+    {"Search", kHome, text::kFindGroup, text::kSearch, "find", "Ctrl+F", true, Always, nullptr, nullptr},
+    {"Replace", kHome, text::kFindGroup, text::kReplaceText, "replace", "Ctrl+H", true, Always, nullptr, nullptr},
 
     {"Pointer", kInsert, text::kToolGroup, text::kPointer, "pointer", "V", true, Always, IsTool<tool::kPointer>,
      Tool<tool::kPointer>},

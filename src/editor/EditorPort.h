@@ -39,6 +39,8 @@ class EditorPort {
   virtual void PagesChanged() = 0;
   // The selection, a card, the zoom, the history or the modified mark changed: refresh panels, menus and caption.
   virtual void StateChanged() = 0;
+  // Matches of a search were replaced, one or all.
+  virtual void ReplaceFinished() {}
 
   // A command that needs a window (a theme, a file dialog). False when there is none to do it.
   virtual bool RunCommand(const char* name) = 0;

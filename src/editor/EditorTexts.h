@@ -5,6 +5,8 @@ namespace xrpt::text {
 
 inline constexpr int kUntitled = 32468;
 inline constexpr int kSaveChanges = 32472;  // a question
+inline constexpr int kReplaceDone = 34899;
+inline constexpr int kFormulasInCircle = 32445;
 inline constexpr int kDeletePageQuestion = 60448;
 
 }  // namespace xrpt::text

@@ -52,6 +52,7 @@ void RVEditControlWnd::BuildPages() {
     Attach(*pages_.back());
   }
   current_ = 0;
+  searchPage_ = -1;
   port_.PagesChanged();
   port_.StateChanged();
 }
@@ -74,6 +75,7 @@ void RVEditControlWnd::ApplyOrder(const PageOrder& order) {
     if (!Contains(before, slot)) Attach(*slot);
   }
   current_ = order.current;
+  searchPage_ = -1;
   port_.PagesChanged();
   port_.StateChanged();
 }
@@ -85,6 +87,7 @@ bool RVEditControlWnd::ShowPage(std::size_t index) {
   EndEdits();
   CurrentPage().PauseTimer();
   current_ = index;
+  searchPage_ = -1;
   CurrentPage().PlayTimer();
   port_.PagesChanged();
   port_.StateChanged();

@@ -71,6 +71,15 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
     case Message::CardAnimationStarted:
     case Message::CardAnimationStopped:
       break;
+    case Message::CardFound:
+      CurrentPage().SelectSearchedCard();
+      return;
+    case Message::SearchRequested:
+      return OnSearchReplace(*message.request);
+    case Message::ReplaceFinished:
+      return port_.ReplaceFinished();
+    case Message::Command:
+      return OnPageCommand(static_cast<int>(message.value));
     case Message::Refused:
       return port_.Tell(static_cast<int>(message.value));
     case Message::KeyDown:
@@ -79,6 +88,12 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
       return;
   }
   port_.StateChanged();
+}
+
+// Commands that the page leaves to the frame.
+void RVEditControlWnd::OnPageCommand(int command) {
+  if (command == kFindCommand) port_.RunCommand("Search");
+  if (command == kReplaceCommand) port_.RunCommand("Replace");
 }
 
 // Keys that the page leaves to the frame.

@@ -15,6 +15,8 @@
 
 namespace xrpt {
 
+struct TextChange;
+
 class RVEditControlWnd final : public MessageTarget, private PageHistoryListener {
  public:
   // Starts on a new, empty report. `port` must outlive the frame.
@@ -124,6 +126,16 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   // Pictures of the image store changed.
   void ImagesModified();
 
+  // --- Search and replace, see FrameSearch.cpp ---
+  // What the search dialog asks; the answer is in the record. Searches the page that is shown, replaces what was found
+  // last, or everything on all pages as one step.
+  void OnSearchReplace(tagSearchReplace& request);
+  // Carries out the replace that waits. True when something was replaced.
+  bool ApplyPendingReplace();
+  // Changes texts all over the report, formulas included, as one step; gives how many. Nothing is changed when formulas
+  // would refer to each other in a circle, which the user is told.
+  std::size_t ApplyChanges(const std::vector<TextChange>& changes, UndoName name);
+
   // Shows the page of a card and selects it there. False when no page has such a card.
   bool SelectControlById(const std::wstring& id);
 
@@ -162,6 +174,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void ReportListChanged();
   void StartAnew();
   void OnKey(const MessageData& message);
+  void OnPageCommand(int command);
 
   // Pages, see FramePages.cpp
   std::shared_ptr<PageSlot> NewSlot(std::shared_ptr<RVReportPage> page);
@@ -188,6 +201,15 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
 
   bool Fit(int mode);
 
+  // Searching, see FrameSearch.cpp
+  void Search(tagSearchReplace& request);
+  std::size_t ReplaceAll(const tagSearchReplace& request);
+  struct PendingReplace {
+    bool isPending = false;
+    std::wstring text;
+    std::wstring replacement;
+  };
+
   // An edit under way: the step it will be, and how deep edits are opened inside it.
   struct OpenEdit {
     ReportStep step;
@@ -208,6 +230,8 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   ReportHistory history_;
   OpenEdit open_;
   bool replaying_ = false;
+  int searchPage_ = -1;  // of the match found last
+  PendingReplace replace_;
   static constexpr std::uint64_t kNever = ~std::uint64_t{0};
   std::uint64_t savedSerial_ = 0;  // where the history stood when the report was saved
 };

@@ -22,12 +22,6 @@ class FormulesPort {
   virtual void ShowMessage(int textId) = 0;
 };
 
-// A formula's new name, to be carried into the cards.
-struct Renaming {
-  std::wstring from;
-  std::wstring to;
-};
-
 class CDlgFormules {
  public:
   // Larger clipboards are taken for something else.
@@ -62,7 +56,7 @@ class CDlgFormules {
   XmlDocument GetXmlDocFromList() const { return FormulasDocument(kFormulesRoot, rows_); }
   // What the report's formulas become. Nothing, and a message, while formulas refer to each other in a circle.
   std::optional<XmlDocument> OnOK();
-  // In the order in which the user agreed to them.
+  // To be carried into the cards, in the order in which the user agreed to them.
   const std::vector<Renaming>& RenamingsInCards() const { return renamings_; }
 
  private:

@@ -39,10 +39,6 @@ class RVDlgReportVirtualDeviceSetup {
   bool IsModified() const { return modified_; }
 
   // The identifiers to exchange in cards and formulas, in the order in which the user agreed to them.
-  struct SourceRenaming {
-    SourceKind kind;
-    Renaming ids;
-  };
   const std::vector<SourceRenaming>& Renamings() const { return renamings_; }
 
   SourceList devices;

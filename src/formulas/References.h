@@ -19,8 +19,19 @@ UseCounts FormulasIn(std::wstring_view expression);
 // The expression with one formula's name in the place of another.
 std::wstring RenameFormulaIn(std::wstring_view expression, std::wstring_view from, std::wstring_view to);
 
+// A new name.
+struct Renaming {
+  std::wstring from;
+  std::wstring to;
+};
+
 // The two kinds of data sources a report declares.
 enum class SourceKind { VirtualDevice, GoBackVariable };
+
+struct SourceRenaming {
+  SourceKind kind;
+  Renaming ids;
+};
 
 // The identifier of the source of that kind in a driver variable's full name (brackets may be round it); empty for
 // none.

@@ -40,6 +40,7 @@ std::vector<std::size_t> CardList::IndexesOf(const std::vector<CardKey>& keys) c
 
 RVCardControl& CardList::Edit(std::size_t index) {
   CardPtr& card = cards_[index];
+  card->ResetSearchInfo();
   if (card.use_count() > 1) {
     CardPtr own = card->GetClone();
     own->TakePlaceOf(*card);

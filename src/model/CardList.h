@@ -48,7 +48,7 @@ class CardList {
   std::size_t IndexOf(CardKey key) const;
   std::vector<std::size_t> IndexesOf(const std::vector<CardKey>& keys) const;
 
-  // The card to be changed. A reference is good until the next snapshot.
+  // The card to be changed; what was found in it is forgotten. A reference is good until the next snapshot.
   RVCardControl& Edit(std::size_t index);
   RVCardControl* Edit(std::wstring_view id);
 

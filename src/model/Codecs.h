@@ -32,6 +32,7 @@ struct String {
   static void Assign(std::wstring& value, std::string_view text) { AssignUtf8(value, text); }
   static void Write(const std::wstring& value, XmlWriter& out, const char* name) { out.Value(name, value); }
   static std::wstring Text(const std::wstring& value) { return value; }
+  static std::wstring_view View(const std::wstring& value) { return value; }
 };
 
 // True for exactly "T".

@@ -94,6 +94,26 @@ constexpr RowOf<Owner> Field(const char* group, const char* name, const char* mi
     Codec::Write(detail::Get<Owner, Members...>(object), out, tag);
   };
   row.text = [](const Root& object) { return Codec::Text(detail::Get<Owner, Members...>(object)); };
+  if constexpr (requires(const Root& object) { Codec::View(detail::Get<Owner, Members...>(object)); }) {
+    row.view = [](const Root& object) { return Codec::View(detail::Get<Owner, Members...>(object)); };
+  }
+  return row;
+}
+
+// What the text is to searching and renaming. For rows of lists, too.
+template <class Row>
+constexpr Row Holding(TextRole role, Row row) {
+  row.role = role;
+  return row;
+}
+
+// The objects that a list of pointers holds are part of the object.
+template <class Owner, auto Member>
+constexpr RowOf<Owner> WithInner(RowOf<Owner> row) {
+  using Root = typename Owner::FieldRoot;
+  row.inner = [](const Root& object) {
+    return std::span<const std::unique_ptr<Root>>(detail::Get<Owner, Member>(object));
+  };
   return row;
 }
 

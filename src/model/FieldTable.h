@@ -5,6 +5,7 @@
 #pragma once
 
 #include <algorithm>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,6 +38,16 @@ struct Word {
   int textId = 0;
 };
 
+// What a field's text is to whoever looks through the texts of a report, or renames what they refer to.
+enum class TextRole {
+  None,
+  Words,       // for people: searched
+  Expression,  // searched; names formulas and, in brackets, variables
+  Variable,    // searched; a variable's full name
+  Binding,     // a variable's full name, renamed along with it but not searched
+};
+constexpr bool IsSearched(TextRole role) { return role != TextRole::None && role != TextRole::Binding; }
+
 // What a row says of its field, or of a list of such fields, whatever class it belongs to.
 struct FieldRow {
   const char* group = nullptr;  // element that holds this one and its neighbours of the same group ("font")
@@ -45,6 +56,7 @@ struct FieldRow {
   XmlName key;
   const char* missing = nullptr;  // what a missing element reads as; null keeps the value the field has
   bool counts = true;             // whether equality looks at it
+  TextRole role = TextRole::None;
   FieldPanel panel;
   std::span<const Word> words;  // of a Choice
 
@@ -63,6 +75,8 @@ struct FieldOf : FieldRow {
   std::span<const Word> (*wordsOf)(const Root& object) = nullptr;
   // The parallel lists that this row reads and writes, an element an item; see model/ListTable.h.
   const ListTable<Root>& (*list)() = nullptr;
+  // The objects of the same tree that are part of this one.
+  std::span<const std::unique_ptr<Root>> (*inner)(const Root& object) = nullptr;
 
   // Null: every object has the field in the file. An object to which it does not apply neither reads nor writes it.
   bool (*applies)(const Root& object) = nullptr;
@@ -71,6 +85,8 @@ struct FieldOf : FieldRow {
   void (*assign)(Root& object, std::string_view text) = nullptr;
   void (*write)(const Root& object, XmlWriter& out, const char* name) = nullptr;
   std::wstring (*text)(const Root& object) = nullptr;
+  // The same without a copy, for a field that is a text.
+  std::wstring_view (*view)(const Root& object) = nullptr;
   // As cards are compared: NaN differs from everything.
   bool (*equal)(const Root& left, const Root& right) = nullptr;
   // As steps of the history are: to the last bit. Null for a row that has no value.

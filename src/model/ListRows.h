@@ -36,6 +36,11 @@ constexpr ListRowOf<Owner> List(const char* group, const char* name, const char*
     const Entry& entry = detail::Get<Owner, Members...>(object)[index];
     return Codec::Text(entry);
   };
+  if constexpr (requires(const Entry& entry) { Codec::View(entry); }) {
+    row.view = [](const Root& object, std::size_t index) {
+      return Codec::View(detail::Get<Owner, Members...>(object)[index]);
+    };
+  }
   row.erase = [](Root& object, std::size_t index) {
     auto& entries = detail::Get<Owner, Members...>(object);
     entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(index));
@@ -70,6 +75,13 @@ constexpr ListOf<Root> NotRemoved(ListOf<Root> row) {
 template <class Root>
 constexpr ListOf<Root> Needs(const char* name, ListOf<Root> row) {
   row.needs = name;
+  return row;
+}
+
+// Names the lists that an irregular row reads and writes.
+template <auto Table, class Root>
+constexpr FieldOf<Root> WithList(FieldOf<Root> row) {
+  row.list = Table;
   return row;
 }
 

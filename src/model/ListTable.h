@@ -22,6 +22,7 @@ struct ListOf : FieldRow {
   void (*assign)(Root& object, std::size_t index, std::string_view text) = nullptr;
   void (*write)(const Root& object, std::size_t index, XmlWriter& out, const char* name) = nullptr;
   std::wstring (*text)(const Root& object, std::size_t index) = nullptr;
+  std::wstring_view (*view)(const Root& object, std::size_t index) = nullptr;  // of texts
   void (*erase)(Root& object, std::size_t index) = nullptr;
   void (*clear)(Root& object) = nullptr;
   bool (*equal)(const Root& left, const Root& right) = nullptr;  // as in a field's row

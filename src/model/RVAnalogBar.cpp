@@ -9,7 +9,8 @@ constexpr FieldPanel ScalePanel(int textId) { return {textId, FieldGroup::Scale,
 
 template <auto Member>
 constexpr CardRow ScaleEnd(const char* name, int textId) {
-  return WhenNotEmpty<Bar, Member>(Field<Bar, codec::String, Member>(nullptr, name, nullptr, ScalePanel(textId)));
+  return Holding(TextRole::Expression, WhenNotEmpty<Bar, Member>(Field<Bar, codec::String, Member>(
+                                           nullptr, name, nullptr, ScalePanel(textId))));
 }
 
 }  // namespace
@@ -30,8 +31,9 @@ std::span<const CardRow> RVAnalogBar::Rows() {
       Through<Bar, &Bar::AssignPosition, &Bar::PositionText, &Bar::PositionWords>(
           Field<Bar, OrientationCodec, &Bar::positionValue>(
               nullptr, "positionValue", nullptr, {text::kValuePosition, FieldGroup::Format, FieldEditor::Choice})),
-      WhenNotEmpty<Bar, &Bar::variable>(Field<Bar, codec::String, &Bar::variable>(
-          nullptr, "variable", nullptr, {text::kVariable, FieldGroup::Content, FieldEditor::Variable})),
+      Holding(TextRole::Variable,
+              WhenNotEmpty<Bar, &Bar::variable>(Field<Bar, codec::String, &Bar::variable>(
+                  nullptr, "variable", nullptr, {text::kVariable, FieldGroup::Content, FieldEditor::Variable}))),
       Field<Bar, codec::Truncated, &Bar::decimals>(nullptr, "decimals", "3",
                                                    {text::kDecimals, FieldGroup::Format, FieldEditor::Integer, 0, 9}),
       ScaleEnd<&Bar::maxValue>("maxValue", text::kMaxValue),

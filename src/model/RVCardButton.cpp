@@ -25,9 +25,10 @@ std::span<const CardRow> RVCardButton::Rows() {
       Only<Button, &Button::IsButton>(
           Constant<Button>(nullptr, [](const RVCardControl&, XmlWriter& out) { out.Bool("button", true); })),
       // A missing caption reads as none, not as a new button's.
-      Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadText>(
-          WriteBy<Button, &Button::WriteText>(Field<Button, codec::String, &Button::text>(
-              nullptr, "text", nullptr, {text::kText, FieldGroup::Content, FieldEditor::Lines})))),
+      Holding(TextRole::Words,
+              Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadText>(
+                  WriteBy<Button, &Button::WriteText>(Field<Button, codec::String, &Button::text>(
+                      nullptr, "text", nullptr, {text::kText, FieldGroup::Content, FieldEditor::Lines}))))),
       Only<Button, &Button::HasTextPart>(FontNameRow<Button, &Button::font>()),
       Only<Button, &Button::HasTextPart>(FontStyleRow<Button, &Button::font>()),
       Only<Button, &Button::HasTextPart>(FontSizeRow<Button, &Button::font>()),

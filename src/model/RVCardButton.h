@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/CommonRows.h"
+#include "model/NotCopied.h"
 #include "model/RVCardControl.h"
 #include "platform/PictureStore.h"
 
@@ -11,15 +12,6 @@ namespace xrpt {
 enum class Visualization { None = 0, Button = 1, Image = 2, Text = 3 };
 
 inline constexpr Word kVisualizationWords[] = {{"BUTTON", 1, 60190}, {"IMAGE", 2, 60191}, {"TEXT", 3, 60192}};
-
-// A value that stays behind when its owner is copied.
-template <class T>
-struct NotCopied {
-  NotCopied() = default;
-  NotCopied(const NotCopied&) {}
-  NotCopied& operator=(const NotCopied&) { return *this; }
-  T value;
-};
 
 class RVCardButton : public RVCardControl {
  public:

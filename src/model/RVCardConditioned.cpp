@@ -2,8 +2,8 @@
 
 #include "model/CardRegistry.h"
 #include "model/Codecs.h"
-#include "model/FieldRows.h"
 #include "model/FieldTexts.h"
+#include "model/ListRows.h"
 
 namespace xrpt {
 namespace {
@@ -27,11 +27,22 @@ bool SameAll(const std::vector<CardPointer>& left, const std::vector<CardPointer
 
 }  // namespace
 
+const ListTable<RVCardControl>& RVCardConditioned::Conditions() {
+  using Conditioned = RVCardConditioned;
+  static constexpr ListOf<RVCardControl> kRows[] = {
+      Holding(TextRole::Expression,
+              List<Conditioned, codec::String, &Conditioned::conditions>(nullptr, "condition", nullptr)),
+  };
+  static constexpr ListTable<RVCardControl> kTable{"control", kRows};
+  return kTable;
+}
+
 std::span<const CardRow> RVCardConditioned::Rows() {
   using Conditioned = RVCardConditioned;
   static constexpr CardRow kRows[] = {
-      ComparedBy<Conditioned, &Conditioned::EqualControls, &Conditioned::SameControls>(
-          Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>()),
+      WithInner<Conditioned, &Conditioned::cards>(WithList<&Conditioned::Conditions>(
+          ComparedBy<Conditioned, &Conditioned::EqualControls, &Conditioned::SameControls>(
+              Irregular<Conditioned, &Conditioned::ReadControls, &Conditioned::WriteControls>()))),
       Field<Conditioned, codec::Integer, &Conditioned::current>(nullptr, nullptr, nullptr),
   };
   return kRows;

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "model/ListTable.h"
 #include "model/RVCardControl.h"
 
 namespace xrpt {
@@ -32,6 +33,7 @@ class RVCardConditioned : public RVCardControl {
   void Clear();
   // Removes one alternative; false for an index that names none.
   bool DeleteCondition(std::int32_t index);
+  static const ListTable<RVCardControl>& Conditions();
   // The inner card the editor shows; null when there is none.
   const RVCardControl* Shown() const;
   bool IsAnimated() const override { return Shown() && Shown()->IsAnimated(); }

@@ -31,8 +31,8 @@ const CardRow RVCardControl::kRows[] = {
                                              {text::kColor, FieldGroup::Colors, FieldEditor::Color}),
     When<Card, &Card::HasBackColor>(Field<Card, codec::Colour, &Card::backcolor>(
         nullptr, "backcolor", nullptr, {text::kBackColor, FieldGroup::Colors, FieldEditor::Color})),
-    WhenNotEmpty<Card, &Card::field>(Field<Card, codec::String, &Card::field>(
-        nullptr, "field", "", {text::kField, FieldGroup::Content, FieldEditor::Variable})),
+    Holding(TextRole::Binding, WhenNotEmpty<Card, &Card::field>(Field<Card, codec::String, &Card::field>(
+                                   nullptr, "field", "", {text::kField, FieldGroup::Content, FieldEditor::Variable}))),
 };
 
 bool CardClass::IsKindOf(const CardClass& other) const {

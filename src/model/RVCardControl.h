@@ -8,6 +8,7 @@
 #include <string>
 
 #include "model/FieldTable.h"
+#include "model/NotCopied.h"
 #include "platform/Color.h"
 #include "platform/Host.h"
 
@@ -16,6 +17,8 @@ namespace xrpt {
 class Graphics;
 class RVCardControl;
 class RVReportPage;
+class TextFinder;
+struct CardMatches;
 struct tagDraw;
 
 // The rows of all kinds of card.
@@ -108,6 +111,31 @@ class RVCardControl {
   // The same for the card and the cards it holds, when it becomes a card of its own.
   virtual void RenewIds() { InitializeId(); }
 
+  // --- Searching ---
+  // The texts that are searched are those whose rows say so, of this card and of the cards inside it. What was found is
+  // no part of the card: it is not copied, and does not make one card differ from another.
+  // Looks through all texts, or adds the matches of one of them. False for an empty pattern.
+  virtual bool CreateSearchInfo(const std::wstring& pattern, bool matchCase) const;
+  virtual bool CreateSearchInfo(const std::wstring& text, const std::wstring& pattern, bool matchCase) const;
+  bool CreateSearchInfo(const TextFinder& finder) const;
+  // Whether there are matches to step through.
+  bool HasSearchInfo() const { return search_.value != nullptr; }
+  // Steps to the next match that was not replaced; false when none is left, and the next step is to the first again.
+  virtual bool NextSearch() const;
+  // Replaces one match (index -1: the current one) and moves the later matches of its text along. False when there is
+  // no such match, or its text is another by now. The flag means nothing yet.
+  virtual bool Replace(const std::wstring& pattern, const std::wstring& replacement, std::int32_t index, int flag = 0);
+  // True when anything was replaced.
+  virtual bool ReplaceAll(const std::wstring& pattern, const std::wstring& replacement, bool matchCase);
+  virtual void ResetSearchInfo() const;
+  // The matches, handed from a card to the copy that takes its place.
+  struct DeleteMatches {
+    void operator()(CardMatches* matches) const;
+  };
+  using SearchInfo = std::unique_ptr<CardMatches, DeleteMatches>;
+  SearchInfo ReleaseSearchInfo() const { return std::move(search_.value); }
+  void SetSearchInfo(SearchInfo matches) const { search_.value = std::move(matches); }
+
   ModelServices& Services() const { return *services_; }
 
   virtual void SetParent(RVReportPage* page) { parent = page; }
@@ -139,6 +167,7 @@ class RVCardControl {
   bool EqualFlags(const RVCardControl& other) const { return flags == other.flags; }
 
   CardKey key_ = NextKey();
+  mutable NotCopied<SearchInfo> search_;  // nothing in cards without a match
 };
 
 }  // namespace xrpt

@@ -20,8 +20,9 @@ std::tm Now() {
 std::span<const CardRow> RVCardDate::Rows() {
   using Date = RVCardDate;
   static constexpr CardRow kRows[] = {
-      Field<Date, codec::String, &Date::pattern>(nullptr, "pattern", nullptr,
-                                                 {text::kPattern, FieldGroup::Format, FieldEditor::Text}),
+      Holding(TextRole::Words,
+              Field<Date, codec::String, &Date::pattern>(nullptr, "pattern", nullptr,
+                                                         {text::kPattern, FieldGroup::Format, FieldEditor::Text})),
       WhenNotEmpty<Date, &Date::value>(Field<Date, codec::String, &Date::value>(
           nullptr, "value", nullptr, {text::kSampleValue, FieldGroup::Content, FieldEditor::Text})),
   };

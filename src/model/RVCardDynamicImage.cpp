@@ -40,12 +40,13 @@ PicturePtr DrawPlaceholder() {
 
 std::span<const CardRow> RVCardDynamicImage::Rows() {
   using Image = RVCardDynamicImage;
-  static constexpr auto kRows =
-      JoinRows(RowsOf(ReadBy<Image, &Image::ReadVariable>(
-                   WriteBy<Image, &Image::WriteVariable>(Field<Image, codec::String, &Image::variable>(
-                       nullptr, "variable", nullptr, {text::kVariable, FieldGroup::Content, FieldEditor::Variable})))),
-               AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
-               ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>());
+  static constexpr auto kRows = JoinRows(
+      RowsOf(Holding(TextRole::Variable, ReadBy<Image, &Image::ReadVariable>(WriteBy<Image, &Image::WriteVariable>(
+                                             Field<Image, codec::String, &Image::variable>(
+                                                 nullptr, "variable", nullptr,
+                                                 {text::kVariable, FieldGroup::Content, FieldEditor::Variable}))))),
+      AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
+      ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>());
   return kRows;
 }
 

@@ -11,11 +11,12 @@ using Force = RVCardForceValues;
 struct BracketedCodec {
   static constexpr std::span<const Word> Words() { return {}; }
   static void Assign(std::wstring& value, std::string_view text) { value = L"[" + FromUtf8(text) + L"]"; }
-  static std::wstring Text(const std::wstring& value) {
+  static std::wstring_view View(std::wstring_view value) {
     const bool bracketed = value.size() >= 2 && value.front() == L'[' && value.back() == L']';
     return bracketed ? value.substr(1, value.size() - 2) : value;
   }
-  static void Write(const std::wstring& value, XmlWriter& out, const char* name) { out.Value(name, Text(value)); }
+  static std::wstring Text(const std::wstring& value) { return std::wstring(View(value)); }
+  static void Write(const std::wstring& value, XmlWriter& out, const char* name) { out.Value(name, View(value)); }
 };
 
 // All but exactly "USER" is direct.
@@ -32,10 +33,10 @@ constexpr FieldPanel VariablePanel(int textId, FieldEditor editor) { return {tex
 
 const ListTable<RVCardControl>& RVCardForceValues::Variables() {
   static constexpr ListOf<RVCardControl> kRows[] = {
-      List<Force, BracketedCodec, &Force::variables>(nullptr, "id", "",
-                                                     VariablePanel(text::kVariable, FieldEditor::Variable)),
-      List<Force, codec::String, &Force::values>(nullptr, "value", "",
-                                                 VariablePanel(text::kForcedValue, FieldEditor::Text)),
+      Holding(TextRole::Variable, List<Force, BracketedCodec, &Force::variables>(
+                                      nullptr, "id", "", VariablePanel(text::kVariable, FieldEditor::Variable))),
+      Holding(TextRole::Words, List<Force, codec::String, &Force::values>(
+                                   nullptr, "value", "", VariablePanel(text::kForcedValue, FieldEditor::Text))),
       List<Force, DirectCodec, &Force::direct>(nullptr, "type", "", VariablePanel(text::kDirect, FieldEditor::Choice)),
       List<Force, codec::Integer, &Force::decimals>(nullptr, "decimals", "",
                                                     VariablePanel(text::kDecimals, FieldEditor::Integer)),

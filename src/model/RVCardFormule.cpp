@@ -10,8 +10,9 @@ namespace xrpt {
 std::span<const CardRow> RVCardFormule::Rows() {
   using Formule = RVCardFormule;
   static constexpr CardRow kRows[] = {
-      WhenNotEmpty<Formule, &Formule::value>(Field<Formule, codec::String, &Formule::value>(
-          nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Text})),
+      Holding(TextRole::Expression,
+              WhenNotEmpty<Formule, &Formule::value>(Field<Formule, codec::String, &Formule::value>(
+                  nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Text}))),
       Field<Formule, codec::Integer, &Formule::integers>(
           nullptr, "integers", "-1", {text::kIntegers, FieldGroup::Format, FieldEditor::Integer, -1, 12}),
       ReadBy<Formule, &Formule::ReadLeftPadding>(

@@ -8,18 +8,19 @@ std::span<const CardRow> RVCardLabel::Rows() {
   using Label = RVCardLabel;
   static constexpr auto kRows = JoinRows(
       AlignmentRows<Label, &Label::horizontalAlign, &Label::verticalAlign>(),
-      RowsOf(WhenNotEmpty<Label, &Label::text>(Field<Label, codec::String, &Label::text>(
-                 "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines})),
-             FontNameRow<Label, &Label::font>(), FontStyleRow<Label, &Label::font>(),
-             Field<Label, codec::Decimal, &Label::orientation>(
-                 "font", "orientation", "", {text::kOrientation, FieldGroup::Font, FieldEditor::Angle, -360.0, 360.0}),
-             FontSizeRow<Label, &Label::font>(),
-             // The text's colour is the card's own, written a second time where fonts are looked for.
-             NotCompared(Field<Label, codec::Colour, &Label::color>("font", "color", nullptr)),
-             // Read after the font, because the style's font overrides the one in the file.
-             ReadBy<Label, &Label::ReadStyle>(
-                 WriteBy<Label, &Label::WriteStyle>(Field<Label, codec::String, &Label::styleName>(
-                     nullptr, "style", nullptr, {text::kStyle, FieldGroup::Font, FieldEditor::Style})))),
+      RowsOf(
+          Holding(TextRole::Words, WhenNotEmpty<Label, &Label::text>(Field<Label, codec::String, &Label::text>(
+                                       "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines}))),
+          FontNameRow<Label, &Label::font>(), FontStyleRow<Label, &Label::font>(),
+          Field<Label, codec::Decimal, &Label::orientation>(
+              "font", "orientation", "", {text::kOrientation, FieldGroup::Font, FieldEditor::Angle, -360.0, 360.0}),
+          FontSizeRow<Label, &Label::font>(),
+          // The text's colour is the card's own, written a second time where fonts are looked for.
+          NotCompared(Field<Label, codec::Colour, &Label::color>("font", "color", nullptr)),
+          // Read after the font, because the style's font overrides the one in the file.
+          ReadBy<Label, &Label::ReadStyle>(
+              WriteBy<Label, &Label::WriteStyle>(Field<Label, codec::String, &Label::styleName>(
+                  nullptr, "style", nullptr, {text::kStyle, FieldGroup::Font, FieldEditor::Style})))),
       AnimationRows<Label, &Label::animation, &Label::IsAnimated>());
   return kRows;
 }

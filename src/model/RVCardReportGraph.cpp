@@ -42,8 +42,8 @@ constexpr ListOf<RVCardControl> Bound(const char* name, const char* missing, int
 // against the others. The bounds are read only from a series that has a width.
 const ListTable<RVCardControl>& RVCardReportGraph::Series() {
   static constexpr ListOf<RVCardControl> kRows[] = {
-      List<Graph, codec::String, &Graph::variables>(nullptr, "id", nullptr,
-                                                    SeriesPanel(text::kVariable, FieldEditor::Variable)),
+      Holding(TextRole::Variable, List<Graph, codec::String, &Graph::variables>(
+                                      nullptr, "id", nullptr, SeriesPanel(text::kVariable, FieldEditor::Variable))),
       List<Graph, codec::Colour, &Graph::colors>(nullptr, "color", nullptr,
                                                  SeriesPanel(text::kColor, FieldEditor::Color)),
       List<Graph, TypeCodec, &Graph::types>(nullptr, "type", nullptr,

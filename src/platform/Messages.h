@@ -8,13 +8,19 @@ namespace xrpt {
 
 inline constexpr int kUserMessage = 1024;
 
+// The record of a search request, see platform/SearchRequest.h.
+struct tagSearchReplace;
+
 enum class Message {
   KeyDown = 256,
+  Command = 273,  // `value` is its number
   SelectionOrGeometryChanged = kUserMessage + 13,
   CardChanged = kUserMessage + 14,
   TimerStateChanged = kUserMessage + 19,
   CardInserted = kUserMessage + 20,
+  CardFound = kUserMessage + 22,
   ReplaceFinished = kUserMessage + 23,
+  SearchRequested = kUserMessage + 25,
   CardAboutToBeDeleted = kUserMessage + 26,
   CardAnimationStarted = kUserMessage + 27,
   CardAnimationStopped = kUserMessage + 28,
@@ -22,13 +28,18 @@ enum class Message {
   Refused = kUserMessage + 500,
 };
 
+// Commands that are the frame's, by the numbers hosts know them by.
+inline constexpr int kFindCommand = 57636;
+inline constexpr int kReplaceCommand = 57641;
+
 // `cardId` names the card a message is about (the single selected one, or the one about to go), empty for none;
 // `value` is the message's number: 1 when only the selection changed, the repeat count and flags of a key, ...
 struct MessageData {
   Message message = Message::CardChanged;
   std::wstring cardId;
   long long value = 0;
-  int key = 0;  // KeyDown only
+  int key = 0;                          // KeyDown only
+  tagSearchReplace* request = nullptr;  // SearchRequested only
 };
 
 class MessageTarget {

@@ -166,6 +166,11 @@ std::string_view XmlNode::WholeText(std::string& joined) const {
   return joined;
 }
 
+std::optional<std::size_t> XmlNode::SourceOffset() const {
+  const std::ptrdiff_t offset = Wrap(node_).offset_debug();
+  return offset < 0 ? std::nullopt : std::optional<std::size_t>(static_cast<std::size_t>(offset));
+}
+
 XmlNode XmlNode::SetValue(std::string_view name, std::wstring_view text) {
   XmlNode child = Node(name);
   if (!child) child = NewChild(name);

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,8 @@ class XmlNode {
   std::string_view RawText() const;
   // Own text as UTF-8, whole: in place when it is one piece, else joined into the given string.
   std::string_view WholeText(std::string& joined) const;
+  // Where the element's name stands in the text that was parsed, in bytes; nothing for an element made since.
+  std::optional<std::size_t> SourceOffset() const;
 
   // Replaces the text of the named child, which keeps its place; creates it at the end when absent.
   XmlNode SetValue(std::string_view name, std::wstring_view text);

@@ -136,6 +136,12 @@ void XmlWriter::Text(std::wstring_view text) {
   }
 }
 
+std::string XmlWriter::Escaped(std::wstring_view text) {
+  std::string out;
+  XmlWriter(out).Text(text);
+  return out;
+}
+
 void XmlWriter::Text(std::string_view utf8) {
   const std::size_t run = OrdinaryRun(utf8, 0);
   out_ += utf8.substr(0, run);

@@ -25,6 +25,9 @@ class XmlWriter {
   // A deep copy of an element under the given tag.
   void Copy(std::string_view tag, const XmlNode& node);
 
+  // A text as it stands inside an element.
+  static std::string Escaped(std::wstring_view text);
+
   // What keeps the text from being read again: more bytes, elements or levels than a document may have. An empty
   // message when nothing does.
   XmlError Check() const;

@@ -32,6 +32,7 @@ bool IsZoom(std::string_view word) {
   const double zoom = ScriptNumber(word).value_or(0.0);
   return word == "fit" || word == "width" || (zoom > 0.0 && zoom <= kMostZoom);
 }
+bool IsCase(std::string_view word) { return word == "case"; }
 bool IsAnswer(std::string_view word) { return word == "yes" || word == "no"; }
 bool IsAny(std::string_view) { return true; }
 bool IsTool(std::string_view word) { return ToolOf(word).has_value(); }
@@ -69,6 +70,20 @@ const std::vector<Shape>& Shapes() {
       {"save", {}, nullptr},
       {"save-as", {}, IsAny},
       {"rename", {IsAny}, nullptr},
+      {"formula-add", {IsAny, IsAny}, nullptr},
+      {"formula-modify", {IsAny, IsAny, IsAny}, nullptr},
+      {"formula-delete", {IsAny}, IsAny},
+      {"formula-copy", {IsAny}, IsAny},
+      {"formula-paste", {}, nullptr},
+      {"device-add", {IsAny}, nullptr},
+      {"device-modify", {IsAny, IsAny}, nullptr},
+      {"device-delete", {IsAny}, nullptr},
+      {"goback-add", {IsAny}, nullptr},
+      {"goback-modify", {IsAny, IsAny}, nullptr},
+      {"goback-delete", {IsAny}, nullptr},
+      {"search", {IsAny}, IsCase},
+      {"replace", {IsAny, IsAny}, IsCase},
+      {"replace-all", {IsAny, IsAny}, IsCase},
       {"print", {}, nullptr},
   };
   return shapes;

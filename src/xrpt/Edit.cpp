@@ -76,6 +76,10 @@ void AddEdit(CLI::App& program, int& status) {
       "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
       "  set ID FIELD VALUE | answer yes|no | print\n"
       "  new | open NAME | save | save-as [NAME] | rename NAME\n"
+      "  formula-add NAME TEXT | formula-modify OLD NAME TEXT | formula-delete NAME... | formula-copy NAME...\n"
+      "  formula-paste | device-add NAME | device-modify OLD NEW | device-delete NAME | goback-add|modify|delete "
+      "alike\n"
+      "  search TEXT [case] | replace TEXT REPLACEMENT [case] | replace-all TEXT REPLACEMENT [case]\n"
       "Examples:\n  xrpt edit report.xrpt -o out.xrpt --actions move-logo.txt\n"
       "  echo 'command SelectAll' | xrpt edit report.xrpt -o out.xrpt --actions -");
   command->callback([options, &status] { status = Edit(*options); });

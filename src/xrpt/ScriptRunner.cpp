@@ -57,6 +57,20 @@ const std::vector<ScriptRunner::Row>& ScriptRunner::Steps() {
                                          {"save", &R::Save},
                                          {"save-as", &R::SaveAs},
                                          {"rename", &R::Rename},
+                                         {"formula-add", &R::FormulaAdd},
+                                         {"formula-modify", &R::FormulaModify},
+                                         {"formula-delete", &R::FormulaDelete},
+                                         {"formula-copy", &R::FormulaCopy},
+                                         {"formula-paste", &R::FormulaPaste},
+                                         {"device-add", &R::DeviceAdd},
+                                         {"device-modify", &R::DeviceModify},
+                                         {"device-delete", &R::DeviceDelete},
+                                         {"goback-add", &R::GoBackAdd},
+                                         {"goback-modify", &R::GoBackModify},
+                                         {"goback-delete", &R::GoBackDelete},
+                                         {"search", &R::Search},
+                                         {"replace", &R::Replace},
+                                         {"replace-all", &R::ReplaceAll},
                                          {"print", &R::Print}};
   return steps;
 }

@@ -4,6 +4,8 @@
 #include <string>
 
 #include "editor/RVEditControlWnd.h"
+#include "formulas/CDlgSearchReplace.h"
+#include "formulas/FormulaTable.h"
 #include "xrpt/ActionScript.h"
 #include "xrpt/ScriptPorts.h"
 
@@ -53,6 +55,27 @@ class ScriptRunner {
   std::string Rename(Arguments arguments);
   std::string Conclude(bool done);
 
+  // What dialogs decide, see ScriptDialogs.cpp
+  std::string FormulaAdd(Arguments arguments);
+  std::string FormulaModify(Arguments arguments);
+  std::string FormulaDelete(Arguments arguments);
+  std::string FormulaCopy(Arguments arguments);
+  std::string FormulaPaste(Arguments arguments);
+  std::string DeviceAdd(Arguments arguments);
+  std::string DeviceModify(Arguments arguments);
+  std::string DeviceDelete(Arguments arguments);
+  std::string GoBackAdd(Arguments arguments);
+  std::string GoBackModify(Arguments arguments);
+  std::string GoBackDelete(Arguments arguments);
+  std::string Search(Arguments arguments);
+  std::string Replace(Arguments arguments);
+  std::string ReplaceAll(Arguments arguments);
+  template <class Operation>
+  std::string InFormulas(const Formula& typed, const Operation& operation);
+  template <class Operation>
+  std::string InSources(const std::string& typed, const Operation& operation);
+  void TypeReplace(Arguments arguments);
+
   RVEditTemplateWnd& Page() { return frame_.CurrentPage(); }
   Point PointOf(Arguments arguments);
   MouseFlags FlagsOf(Arguments arguments, std::size_t from);
@@ -60,6 +83,7 @@ class ScriptRunner {
   ScriptScreen screen_;
   ScriptEditor editor_;
   RVEditControlWnd frame_;
+  CDlgSearchReplace search_{frame_};
 };
 
 // The state of the current page as one JSON object on one line.

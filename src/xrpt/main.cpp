@@ -9,7 +9,8 @@
 namespace {
 
 int Run(int argc, char** argv) {
-  CLI::App program("Report templates on the command line: resave, look into, edit and render them, clean up.", "xrpt");
+  CLI::App program("Report templates on the command line: resave, look into, search, edit and render them, clean up.",
+                   "xrpt");
   program.require_subcommand(1);
   program.set_version_flag("--version", XRPT_VERSION);
   program.footer(
@@ -22,6 +23,8 @@ int Run(int argc, char** argv) {
   xrpt::AddValidate(program, status);
   xrpt::AddRender(program, status);
   xrpt::AddEvaluate(program, status);
+  xrpt::AddSearch(program, status);
+  xrpt::AddReplace(program, status);
   xrpt::AddClean(program, status);
   try {
     program.parse(argc, argv);

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Runs one action file through `xrpt edit` and checks what its `print` lines say.
+"""Runs one action file through `xrpt edit` and checks what the lines that print say.
 
 usage: run_script.py XRPT SCRIPT
 
-The first line of a script names its report: `# report: two-labels.xrpt`, a file of this folder. Lines that follow a `print`
-and start with `#=` each state one thing of what was printed:
+The first line of a script names its report: `# report: two-labels.xrpt`, a file of this folder. Lines that follow a `print`,
+or an action of a dialog, and start with `#=` each state one thing of what was printed:
 
     #= cards.a.x 13.229      a card's field, millimetres, to a thousandth
     #= cards a b             the cards, front to back
@@ -12,13 +12,24 @@ and start with `#=` each state one thing of what was printed:
     #= selection.a 100 100 138 138     a selected card's rectangle in pixels
     #= mouseState 7          any other value of the state
     #= menu.undo true
+    #= formulas A B          what a list holds, by id or by name
+    #= formulas.A.text 1 + 2 one of them
 """
 import json
 import math
 import os
+import re
 import subprocess
 import sys
 import tempfile
+
+
+PRINTING = re.compile(r"(print|search|replace|replace-all|(formula|device|goback)-\w+)\b")
+
+
+def named(item):
+    """What an object of a list goes by."""
+    return [item[key] for key in ("id", "name") if key in item]
 
 
 def printed_value(state, path):
@@ -27,14 +38,14 @@ def printed_value(state, path):
     value = state[head]
     for step in rest:
         if isinstance(value, list):
-            value = next(item for item in value if item["id"] == step)
+            value = next(item for item in value if step in named(item))
         else:
             value = value[step]
     if isinstance(value, list):
-        return [item["id"] for item in value]
+        return [named(item)[0] for item in value]
     if isinstance(value, dict) and "rect" in value:
         return value["rect"]
-    return [value]
+    return value.split() if isinstance(value, str) else [value]
 
 
 def matches(wanted, found):
@@ -58,7 +69,7 @@ def expectations(text):
     """The lines to check, one list a `print`."""
     groups = []
     for number, line in enumerate(text.splitlines(), 1):
-        if line.split("#")[0].strip() == "print":
+        if PRINTING.match(line):
             groups.append([])
         elif line.startswith("#="):
             groups[-1].append((number, line[2:].strip()))
