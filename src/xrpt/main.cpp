@@ -5,6 +5,7 @@
 
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
+#include "xrpt/Output.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const xrpt::TerminalGuard guard;
   try {
     return Run(argc, argv);
   } catch (const std::exception& fault) {
