@@ -19,7 +19,7 @@ class NoFormulas final : public FormulesPort {
 void PasteCards(FuzzHost& host) {
   AnsweringPort port;
   RVEditControlWnd frame(port);
-  frame.CurrentPage().Paste();
+  frame.CurrentPage().ControlPaste();
   frame.Queue().Drain();
   const Path file = FuzzHost::File("report.xrpt");
   host.files->Put(file, frame.Report().TemplateText());
