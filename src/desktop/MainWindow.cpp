@@ -9,6 +9,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/FileKeeper.h"
+#include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/DifferencesDialog.h"
@@ -23,7 +24,6 @@
 #include "desktop/page/PageView.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/Outline.h"
-#include "desktop/panels/ProblemsDock.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
@@ -79,6 +79,7 @@ MainWindow::MainWindow() {
 MainWindow::~MainWindow() {
   if (QWidget* field = focusWidget()) field->clearFocus();
   files_.reset();
+  problems_->Stop();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
   frame_.reset();
@@ -108,7 +109,7 @@ void MainWindow::ReportOpened(const LoadResult& result) {
   }
   const QString message = ToQString(TextOf(result));
   messages_->Show(message, true);
-  problems_->Add({ProblemSeverity::Error, message, {}});
+  problems_->AddNotice(Severity::Error, message);
 }
 
 void MainWindow::SaveFailed(const SaveResult& result) {
@@ -175,6 +176,7 @@ void MainWindow::Refresh() {
   ShowCaption();
   pages_->Refresh();
   files_->Refresh();
+  problems_->Refresh();
 }
 
 void MainWindow::ShowCaption() {
@@ -232,7 +234,7 @@ void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kError = 4;
   if (severity < kWarning) return;
   const QString message = WithoutOrigin(logged);
-  problems_->Add({severity >= kError ? ProblemSeverity::Error : ProblemSeverity::Warning, message, {}});
+  problems_->AddNotice(severity >= kError ? Severity::Error : Severity::Warning, message);
   if (severity >= kError && messages_->Message().isEmpty()) messages_->Show(message, true);
 }
 

@@ -21,7 +21,7 @@ class MessageBar;
 class Outline;
 class PageFrame;
 class PagePort;
-class ProblemsList;
+class ProblemsDesk;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
@@ -39,7 +39,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PageFrame& Pages() { return *pages_; }
   PropertyPanel& Properties() { return *properties_; }
   MessageBar& Messages() { return *messages_; }
-  ProblemsList& Problems() { return *problems_; }
+  ProblemsDesk& Problems() { return *problems_; }
   FileKeeper& Files() { return *files_; }
   Ribbon& Tabs() { return *ribbon_; }
 
@@ -118,7 +118,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   FontGroup* font_ = nullptr;
   Outline* outline_ = nullptr;
   PropertyPanel* properties_ = nullptr;
-  ProblemsList* problems_ = nullptr;
+  ProblemsDesk* problems_ = nullptr;
   StatusBar* status_ = nullptr;
   std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;

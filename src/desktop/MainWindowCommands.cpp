@@ -4,6 +4,7 @@
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/MainWindow.h"
+#include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
 #include "desktop/dialogs/SaveDialog.h"
@@ -37,6 +38,7 @@ bool MainWindow::RunCommand(const char* name) {
     ShowSwitches();
     return true;
   }
+  if (problems_->RunCommand(name)) return true;
   const auto dock = docks_.find(std::string_view(name));
   if (dock == docks_.end()) return false;
   TogglePanel(*dock->second);

@@ -3,6 +3,7 @@
 #include <QShortcut>
 
 #include "desktop/MainWindow.h"
+#include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/look/Icons.h"
@@ -12,7 +13,8 @@
 #include "desktop/panels/DockTitle.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/Outline.h"
-#include "desktop/panels/ProblemsDock.h"
+#include "desktop/panels/ProblemCounts.h"
+#include "desktop/panels/ProblemsPanel.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/panels/StatusBar.h"
@@ -84,24 +86,29 @@ void MainWindow::BuildDocks() {
   };
   properties_ = new PropertyPanel(*fields_, this);
   properties_->edited = [this] { RefreshSoon(); };
-  problems_ = new ProblemsList(this);
-  problems_->cardChosen = [this](const std::wstring& id) { frame_->SelectControlById(id); };
+  problems_ = new ProblemsDesk(*frame_, pages_->View(), *this);
+  problems_->beforeAct = [this] { properties_->Commit(); };
+  problems_->acted = [this] {
+    pages_->View().RevealSelection();
+    RefreshSoon();
+  };
   QDockWidget* left = AddPanel("OutlinePanel", text::kPagesAndCards, "outline", outline_, Qt::LeftDockWidgetArea);
   QDockWidget* right =
       AddPanel("PropertiesPanel", text::kProperties, "properties", properties_, Qt::RightDockWidgetArea);
-  QDockWidget* below = AddPanel("ProblemsPanel", text::kProblems, "problems", problems_, Qt::BottomDockWidgetArea);
+  QDockWidget* below =
+      AddPanel("ProblemsPanel", text::kProblems, "problems", &problems_->Panel(), Qt::BottomDockWidgetArea);
   sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
   resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
-  resizeDocks({below}, {110}, Qt::Vertical);
+  resizeDocks({below}, {180}, Qt::Vertical);
   below->hide();
-  problems_->countChanged = [below](int count) {
-    if (count > 0) below->show();
-  };
+  problems_->listWanted = [below] { below->show(); };
+  problems_->listToggled = [this, below] { TogglePanel(*below); };
 }
 
 void MainWindow::BuildStatusBar() {
   status_ = new StatusBar(this);
   setStatusBar(status_);
+  status_->AddFirst(problems_->Counts());
   status_->zoomChosen = [this](double zoom) {
     const QSize size = pages_->View().viewport()->size();
     pages_->View().ZoomAt(zoom, {size.width() / 2, size.height() / 2});
@@ -122,7 +129,7 @@ void MainWindow::BuildKeys() {
 }
 
 void MainWindow::FocusNextArea(bool forward) {
-  const std::vector<QWidget*> areas = {&pages_->View(), properties_, problems_, outline_, ribbon_};
+  const std::vector<QWidget*> areas = {&pages_->View(), properties_, &problems_->Panel(), outline_, ribbon_};
   std::size_t at = 0;
   for (std::size_t i = 0; i < areas.size(); ++i) {
     if (areas[i]->isAncestorOf(focusWidget()) || areas[i] == focusWidget()) at = i;

@@ -33,6 +33,8 @@ class CDlgEditor {
   bool OnControlByIdSelect(const std::wstring& id) { return frame_.SelectControlById(id); }
   // Applies a replace that waits.
   void OnCtrlSearchReplace() { frame_.ApplyPendingReplace(); }
+  // Hides the marks of the validator; they come back when the user asks for them.
+  void OnCtrlWarningHide() { frame_.ShowMarks(false); }
   // Deliberately nothing: Enter and Escape never close the editor.
   void OnOK() {}
   void OnCancel() {}

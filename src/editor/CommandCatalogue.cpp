@@ -131,6 +131,7 @@ bool NewReport(Frame& frame, Arguments) { return frame.NewReport(); }
 bool IsLandscape(const Frame& frame) { return frame.CurrentPage().Page().properties.IsLandscape(); }
 bool IsPortrait(const Frame& frame) { return !IsLandscape(frame); }
 bool IsGridOn(const Frame& frame) { return frame.IsGridOn(); }
+bool AreMarksShown(const Frame& frame) { return frame.AreMarksShown(); }
 bool IsFitPage(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitPageEntry; }
 bool IsFitWidth(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitWidthEntry; }
 
@@ -262,6 +263,8 @@ constexpr Command kCommands[] = {
      nullptr},
     {"Rulers", kView, text::kShowGroup, text::kRulers, "rulers", "Ctrl+R", true, Always, nullptr, nullptr},
     {"DarkTheme", kView, text::kShowGroup, text::kDarkTheme, "theme", "Ctrl+Shift+D", true, Always, nullptr, nullptr},
+    {"ProblemMarks", kView, text::kShowGroup, text::kProblemMarks, "warning", "Ctrl+Shift+M", true, Always,
+     AreMarksShown, OnFrame<&Frame::ToggleMarks>},
     {"OutlinePanel", kView, text::kPanelsGroup, text::kOutlinePanel, "pages-panel", "Alt+1", false, Always, nullptr,
      nullptr},
     {"PropertiesPanel", kView, text::kPanelsGroup, text::kPropertiesPanel, "properties-panel", "Alt+2", false, Always,
@@ -278,6 +281,11 @@ constexpr Command kCommands[] = {
     {"Save", kReport, text::kFileGroup, text::kSave, "save", "Ctrl+S", true, IsModified, nullptr,
      OnFrame<&Frame::Save>},
     {"SaveAs", kReport, text::kFileGroup, text::kSaveAs, "save-as", "Ctrl+Shift+S", true, Always, nullptr, nullptr},
+    {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},
+    {"NextProblem", kReport, text::kChecksGroup, text::kNextProblem, "chevron-down", "F8", false, Always, nullptr,
+     nullptr},
+    {"PreviousProblem", kReport, text::kChecksGroup, text::kPreviousProblem, "chevron-up", "Shift+F8", false, Always,
+     nullptr, nullptr},
     {"ExportPdf", kReport, text::kOutputGroup, text::kExportPdf, "export-pdf", "Ctrl+Shift+E", true, Always, nullptr,
      nullptr},
     {"ExportImages", kReport, text::kOutputGroup, text::kExportImages, "export-images", "Ctrl+Alt+E", true, Always,

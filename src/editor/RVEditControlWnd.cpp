@@ -41,12 +41,24 @@ void RVEditControlWnd::StylesModified() {
   ReportEdit edit = Edit({text::kStylesChanged, 0});
   for (const auto& slot : pages_) slot->window->StylesModified();
   edit.End();
+  ++resourcesSerial_;
   port_.StateChanged();
 }
 
 void RVEditControlWnd::ImagesModified() {
   RVCardImage::ReLoadAllOriginalImages();
   for (const auto& slot : pages_) slot->window->ImagesManagerModified();
+  ++resourcesSerial_;
+  port_.StateChanged();
+}
+
+void RVEditControlWnd::ShowMarks(bool on) {
+  if (std::exchange(marksShown_, on) != on) port_.StateChanged();
+}
+
+bool RVEditControlWnd::ToggleMarks() {
+  ShowMarks(!marksShown_);
+  return true;
 }
 
 bool RVEditControlWnd::SelectControlById(const std::wstring& id) {

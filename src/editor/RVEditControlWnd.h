@@ -136,6 +136,14 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   // would refer to each other in a circle, which the user is told.
   std::size_t ApplyChanges(const std::vector<TextChange>& changes, UndoName name);
 
+  // Whether cards with problems are marked, as the user or the host wants it.
+  bool AreMarksShown() const { return marksShown_; }
+  void ShowMarks(bool on);
+  bool ToggleMarks();
+
+  // Tells states of what lies outside the report and cards refer to (styles, pictures) apart.
+  std::uint64_t ResourcesSerial() const { return resourcesSerial_; }
+
   // Shows the page of a card and selects it there. False when no page has such a card.
   bool SelectControlById(const std::wstring& id);
 
@@ -227,6 +235,8 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   PageSlots pages_;            // one a page of the report, same order
   std::size_t current_ = 0;
   int tool_ = tool::kPointer;
+  bool marksShown_ = true;
+  std::uint64_t resourcesSerial_ = 0;
   ReportHistory history_;
   OpenEdit open_;
   bool replaying_ = false;

@@ -12,7 +12,6 @@
 #include "desktop/WindowTest.h"
 #include "desktop/dialogs/ExportNames.h"
 #include "desktop/panels/MessageBar.h"
-#include "desktop/panels/ProblemsDock.h"
 
 namespace xrpt {
 namespace {

@@ -4,6 +4,7 @@
 #include "formulas/checks/FileCheck.h"
 #include "formulas/checks/OpenReportCheck.h"
 #include "model/RVCardFormule.h"
+#include "model/RVCardImage.h"
 #include "support/CheckedReport.h"
 
 namespace xrpt {
@@ -30,9 +31,15 @@ class OpenReportTest : public ReportCheckTest {
 
   // Everything that is to do, at once.
   Codes Now() {
-    check.Look(report);
-    EXPECT_TRUE(check.Work(OpenReportCheck::Clock::time_point::max()));
+    Look();
+    EXPECT_TRUE(check.Work());
     return CodesOf(check.Findings());
+  }
+
+  void Look() {
+    auto next = std::make_unique<const ReportSnapshot>(report, seen.get());
+    check.Look(*next);
+    seen = std::move(next);
   }
 
   // How many cards are looked at after a change.
@@ -48,6 +55,7 @@ class OpenReportTest : public ReportCheckTest {
   }
 
   RVReport report{*host};
+  std::unique_ptr<const ReportSnapshot> seen;
   OpenReportCheck check{*host};
 };
 
@@ -111,15 +119,57 @@ TEST_F(OpenReportTest, LooksAgainAtWhatHangsOnTheReport) {
 
 TEST_F(OpenReportTest, WorksInSlices) {
   std::string cards;
-  for (int i = 0; i < 200; ++i) cards += Formule("", "c" + std::to_string(i));
+  for (int i = 0; i < 20; ++i) cards += Formule("", "c" + std::to_string(i));
   Load({cards});
-  check.Look(report);
-  EXPECT_FALSE(check.Work(OpenReportCheck::Clock::now()));
+  Look();
+  EXPECT_FALSE(check.Work([] { return true; }));
   EXPECT_TRUE(check.Findings().empty());
-  int slices = 0;
-  while (!check.Work(OpenReportCheck::Clock::now() + std::chrono::microseconds(200))) ++slices;
-  EXPECT_EQ(check.Findings().size(), 200u);
-  EXPECT_GT(slices, 0);
+  int left = 7;
+  EXPECT_FALSE(check.Work([&left] { return left-- == 0; }));
+  EXPECT_EQ(check.CardsChecked(), 7u);
+  Edit<RVCardFormule>(0).value = L"1";
+  EXPECT_EQ(Now().size(), 19u);
+  EXPECT_EQ(check.CardsChecked(), 21u) << "what was looked at before the change is not looked at again";
+}
+
+TEST_F(OpenReportTest, AnotherReportOfTheSameName) {
+  Load({Formule("1")});
+  report.name = L"alike";
+  report.Save();
+  EXPECT_EQ(Now(), Codes());
+  const Path other = host.WriteCfg("OTHER.alike.xrpt", "<reportLayout/>");
+  host.WriteCfg("THIRD.nearly alike.xrpt", "<reportLayout/>");
+  EXPECT_EQ(Now(), Codes()) << "not looked for again";
+  check.Forget();
+  EXPECT_EQ(Now(), Codes{"REPORT_NAME_SHARED@0.-1"});
+  report.name = L"unlike";
+  EXPECT_EQ(Now(), Codes());
+  report.name = L"alike";
+  EXPECT_EQ(Now(), Codes{"REPORT_NAME_SHARED@0.-1"});
+  report.name.clear();
+  EXPECT_EQ(Now(), Codes()) << "a report without a name has no other's";
+}
+
+TEST_F(OpenReportTest, SnapshotsShareAndTellApart) {
+  Load({Formule("1") + "<label><id>l</id></label>", "A=1"});
+  Look();
+  const auto same = [this] { return ReportSnapshot(report, seen.get()).IsSame(*seen); };
+  EXPECT_TRUE(same());
+  report.formules = FormulasDocument(kFormulesRoot, {{L"A", L"1"}});
+  EXPECT_TRUE(same()) << "another document that reads alike";
+  report.pages[0]->properties.height += 1.0;
+  EXPECT_FALSE(same());
+  Look();
+  report.pages[0]->cards.MoveToFront({1});
+  EXPECT_FALSE(same());
+  Look();
+  report.pages[0]->properties.Background().LoadOriginalImage(L"logo", L"plant");
+  EXPECT_FALSE(same());
+  Look();
+  EXPECT_TRUE(same());
+  Edit<RVCardFormule>(1).value = L"2";
+  EXPECT_FALSE(same());
+  EXPECT_EQ(dynamic_cast<const RVCardFormule&>(*seen->pages[0].cards[1]).value, L"1") << "as it was when looked at";
 }
 
 }  // namespace

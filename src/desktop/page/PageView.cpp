@@ -130,6 +130,7 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
   painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
+  if (paintOver) paintOver(painter);
   if (hasFocus()) PaintFocus(painter, viewport()->rect());
   const bool moves = animated_ && image_.HasMoving();
   if (moves && !animation_.isActive()) animation_.start();

@@ -50,6 +50,10 @@ class PageView final : public QAbstractScrollArea {
   // Scrolls until the selected cards are in sight, as far as they fit.
   void RevealSelection();
 
+  // What lies over the page for the time being, and what it says at a pixel (nothing: no tooltip).
+  std::function<void(QPainter&)> paintOver;
+  std::function<QString(QPoint)> tipAt;
+
   // What the rulers and the status bar follow. The pointer left when there is no position.
   std::function<void(std::optional<QPoint>)> pointerMoved;
   std::function<void()> placementChanged;

@@ -2,6 +2,7 @@
 // walking from card to card, which are the view's own.
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "canvas/RVEditTemplateWnd.h"
@@ -69,6 +70,11 @@ void PageView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 bool PageView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && tipAt) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), tipAt(help->pos()), viewport());
+    return true;
+  }
   if (event->type() == QEvent::Leave) {
     if (pointerMoved) pointerMoved(std::nullopt);
     if (Window() && !captured_) Window()->OnMouseMove(kNowhere);  // no card is under the pointer any more

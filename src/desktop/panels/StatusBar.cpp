@@ -62,6 +62,11 @@ void StatusBar::AddSlider() {
   });
 }
 
+void StatusBar::AddFirst(QWidget& part) {
+  first_ = &part;
+  insertPermanentWidget(0, first_);
+}
+
 QSize StatusBar::minimumSizeHint() const { return {0, QStatusBar::minimumSizeHint().height()}; }
 
 // The first to go are those that are also elsewhere: the panel has the selection's place, the ribbon the zoom.
@@ -70,6 +75,7 @@ void StatusBar::resizeEvent(QResizeEvent* event) {
   QWidget* const parts[] = {pointer_, slider_, selection_, percent_};
   int room = width() - fontMetrics().averageCharWidth() * kMessageCharacters;
   for (const QWidget* part : parts) room -= PlainWidth(*part);
+  if (first_ && !first_->isHidden()) room -= PlainWidth(*first_);
   for (QWidget* part : parts) {
     part->setVisible(room >= 0);
     if (room < 0) room += PlainWidth(*part);

@@ -22,6 +22,8 @@ class StatusBar final : public QStatusBar {
   // The rectangle round the selected cards, and how many they are.
   void SetSelection(int count, const RectD& millimetres);
   void SetZoom(double zoom);
+  // Comes first of what stands at the right, and stays in a narrow window.
+  void AddFirst(QWidget& part);
 
   // The user moved the slider: the zoom it stands for now.
   std::function<void(double)> zoomChosen;
@@ -34,6 +36,7 @@ class StatusBar final : public QStatusBar {
  private:
   void AddSlider();
 
+  QWidget* first_ = nullptr;
   QLabel* pointer_;
   QLabel* selection_;
   QSlider* slider_;

@@ -62,10 +62,7 @@ const RVCardLabel* StillLabel(const RVCardControl& card) {
   return label;
 }
 
-DrawScale ScaleOf(const CardView& view) {
-  constexpr double kUsualDpi = 96.0;
-  return {1.0, 1.0, view.page.fontFactor * kUsualDpi / view.card.Services().screen->DpiY()};
-}
+DrawScale ScaleOf(const CardView& view) { return {1.0, 1.0, view.page.fontScale}; }
 
 // As high as the text is when it has the rest of the page below it, if that helps. A card inside another has no height
 // of its own.

@@ -14,8 +14,8 @@ namespace xrpt {
 
 // The page under a card, as far as the card's own checks look at it.
 struct PageShape {
-  SizeD size;               // millimetres
-  double fontFactor = 1.0;  // of the report
+  SizeD size;              // millimetres
+  double fontScale = 1.0;  // from a font's points to those of the page
   bool operator==(const PageShape&) const = default;
 };
 

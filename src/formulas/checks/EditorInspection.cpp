@@ -79,7 +79,10 @@ PageReading ReadPage(const RVReportPage& page, const XmlNode& element, int numbe
   PageReading reading;
   const auto elements = CardElements(element, PageCardKind);
   const PageShape shape = ShapeOf(page);
-  Append(reading.found, InspectBackground(page, choice), {number});
+  const RVGlobalProperties& properties = page.properties;
+  if (properties.ThereAreBackground()) {
+    Append(reading.found, InspectBackground(properties.Background(), shape, choice), {number});
+  }
   for (std::size_t i = 0; i < page.cards.Size(); ++i) {
     reading.facts.push_back(FactsOf(page.cards[i]));
     Append(reading.found, InspectCard(page.cards[i], At(elements, i), shape, choice), {number, static_cast<int>(i)});
@@ -96,7 +99,9 @@ PageFacts PointersTo(const std::vector<CardFacts>& facts) {
 }  // namespace
 
 PageShape ShapeOf(const RVReportPage& page) {
-  return {{page.properties.width, page.properties.height}, page.fontFactor};
+  constexpr double kUsualDpi = 96.0;
+  const double scale = page.fontFactor * kUsualDpi / page.Services().screen->DpiY();
+  return {{page.properties.width, page.properties.height}, scale};
 }
 
 std::vector<Finding> InspectCard(const RVCardControl& card, const XmlNode& element, const PageShape& page,
@@ -110,11 +115,10 @@ std::vector<Finding> InspectCard(const RVCardControl& card, const XmlNode& eleme
   return found;
 }
 
-std::vector<Finding> InspectBackground(const RVReportPage& page, const CheckChoice& choice) {
+std::vector<Finding> InspectBackground(const RVCardControl& background, const PageShape& page,
+                                       const CheckChoice& choice) {
   std::vector<Finding> found;
-  if (!page.properties.ThereAreBackground()) return found;
-  const RVCardControl& card = page.properties.Background();
-  RunCardChecks({card, AreaOf(card), XmlNode(), ShapeOf(page)}, CardScope::InnerAndBackgrounds, choice, found);
+  RunCardChecks({background, AreaOf(background), XmlNode(), page}, CardScope::InnerAndBackgrounds, choice, found);
   return found;
 }
 

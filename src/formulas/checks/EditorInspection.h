@@ -7,6 +7,7 @@
 
 namespace xrpt {
 
+// Asks the screen for its resolution.
 PageShape ShapeOf(const RVReportPage& page);
 
 // What a card's own checks find. The findings' places say the alternative at most. `element` may be a handle on
@@ -14,7 +15,8 @@ PageShape ShapeOf(const RVReportPage& page);
 std::vector<Finding> InspectCard(const RVCardControl& card, const XmlNode& element, const PageShape& page,
                                  const CheckChoice& choice);
 // The same of a page's background picture.
-std::vector<Finding> InspectBackground(const RVReportPage& page, const CheckChoice& choice);
+std::vector<Finding> InspectBackground(const RVCardControl& background, const PageShape& page,
+                                       const CheckChoice& choice);
 // What the checks over all cards find, placed.
 std::vector<Finding> InspectFacts(const ReportFacts& report, const CheckChoice& choice);
 

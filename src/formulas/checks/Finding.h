@@ -28,12 +28,14 @@ struct Change {
   Kind kind;
   std::string field;  // full name, "font/size"
   std::wstring value;
+  bool operator==(const Change&) const = default;
 };
 
 // The changes belong together: one step of the history. Without any nobody but the user knows what to do.
 struct Remedy {
   int textId = 0;  // says what would be done
   std::vector<Change> changes = {};
+  bool operator==(const Remedy&) const = default;
 };
 
 struct Finding {
@@ -44,6 +46,7 @@ struct Finding {
   std::optional<std::wstring> detail = std::nullopt;  // more than the code says
   bool dontConsider = false;                          // nothing the report's author can put right here
   Remedy remedy = {};
+  bool operator==(const Finding&) const = default;
 };
 
 // The finding as a sentence, without its place.

@@ -1,21 +1,16 @@
 #include "formulas/checks/OpenReportCheck.h"
 
+#include "formulas/checks/EditorInspection.h"
 #include "formulas/checks/HostChecks.h"
 #include "formulas/checks/ReportWalk.h"
+#include "platform/NamedFiles.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
 
-enum Table { kFormulas, kDeclarations };
-
-// As a save would write it: lists that hold something are switched on.
-bool AreDeclarationsOn(const RVReport& report) {
-  return report.virtualEnabled || report.virtualDevices.Root().Size() > 0 || report.goBackVariables.Root().Size() > 0;
-}
-
-std::string DeclarationsOf(const RVReport& report) {
-  if (!AreDeclarationsOn(report)) return {};
-  return report.virtualDevices.Root().CreateXmlCode() + report.goBackVariables.Root().CreateXmlCode();
+std::string DeclarationsOf(const ReportSnapshot& report) {
+  return report.hasDeclarations ? report.virtualDevices.text + report.goBackVariables.text : std::string();
 }
 
 std::string ElementText(const RVCardControl& card) {
@@ -40,66 +35,58 @@ OpenReportCheck::OpenReportCheck(const Host& host, CheckChoice choice)
         if (choice_.Has(*finding.code)) found_.push_back(finding);
       }) {}
 
-void OpenReportCheck::Look(const RVReport& report) {
+void OpenReportCheck::Look(const ReportSnapshot& report) {
   LookAtTables(report);
   Entries former;
   std::swap(former, entries_);
-  std::vector<PageState> formerPages;
-  std::swap(formerPages, pages_);
-  pages_.resize(report.pages.size());
-  for (std::size_t i = 0; i < pages_.size(); ++i) {
-    if (i < formerPages.size()) pages_[i].cards = formerPages[i].cards;
-    LookAtPage(*report.pages[i], pages_[i], former);
-  }
+  for (const PageSnapshot& page : report.pages) LookAtPage(page, former);
+  report_ = &report;
   next_ = {1, 0};
   isConcluded_ = false;
 }
 
-void OpenReportCheck::LookAtTables(const RVReport& report) {
-  std::string tables[] = {report.formules.Root().CreateXmlCode(), DeclarationsOf(report)};
-  const bool formulasChanged = tables[kFormulas] != tables_[kFormulas];
-  const bool declarationsChanged = tables[kDeclarations] != tables_[kDeclarations];
+void OpenReportCheck::LookAtTables(const ReportSnapshot& report) {
+  std::string declarations = DeclarationsOf(report);
+  const bool formulasChanged = !report_ || report.formulas.text != formulas_;
+  const bool declarationsChanged = declarations != declarations_;
   if (!formulasChanged && !declarationsChanged) return;
   for (auto& [card, entry] : entries_) {
     const bool isTouched = declarationsChanged || !entry.facts.formulas.empty();
     if (entry.isOfHost && isTouched) entry.isChecked = false;
   }
-  std::move(std::begin(tables), std::end(tables), std::begin(tables_));
-  formulas_ = report.formules.Clone();
-  formulaTable_ = ReadFormulas(formulas_);
+  formulas_ = report.formulas.text;
+  declarations_ = std::move(declarations);
+  formulaTable_ = ReadFormulas(*report.formulas.document);
   data_ = tagSDebugData();
-  data_.formules = FormulaSource(formulas_.Root());
-  if (!AreDeclarationsOn(report)) return;
-  data_.virtualDevices.emplace(report.virtualDevices.Root(), "virtualDevice");
-  data_.goBackVariables.emplace(report.goBackVariables.Root(), "goBackVariable");
+  formulasDocument_ = report.formulas.document;
+  data_.formules = FormulaSource(formulasDocument_->Root());
+  if (!report.hasDeclarations) return;
+  data_.virtualDevices.emplace(report.virtualDevices.document->Root(), "virtualDevice");
+  data_.goBackVariables.emplace(report.goBackVariables.document->Root(), "goBackVariable");
 }
 
-void OpenReportCheck::LookAtPage(const RVReportPage& page, PageState& state, Entries& former) {
-  state.cards = page.cards.Share(state.cards);
-  state.shape = ShapeOf(page);
-  state.isNamed = !page.properties.id.empty();
-  state.background = InspectBackground(page, choice_);
-  for (std::size_t i = 0; i < state.cards.Size(); ++i) {
-    const RVCardControl* card = state.cards[i].get();
+void OpenReportCheck::LookAtPage(const PageSnapshot& page, Entries& former) {
+  for (std::size_t i = 0; i < page.cards.Size(); ++i) {
+    const RVCardControl* card = page.cards[i].get();
     CardEntry& entry = entries_[card];
     const auto known = former.find(card);
     if (known != former.end()) entry = std::move(known->second);
-    if (entry.shape != state.shape || entry.onNamedPage != state.isNamed) entry.isChecked = false;
-    entry.shape = state.shape;
-    entry.onNamedPage = state.isNamed;
+    if (entry.shape != page.shape || entry.onNamedPage != page.isNamed) entry.isChecked = false;
+    entry.shape = page.shape;
+    entry.onNamedPage = page.isNamed;
   }
 }
 
-bool OpenReportCheck::Work(Clock::time_point until) {
-  while (static_cast<std::size_t>(next_.page) <= pages_.size()) {
-    const PageState& page = pages_[static_cast<std::size_t>(next_.page - 1)];
+bool OpenReportCheck::Work(const std::function<bool()>& isEnough) {
+  if (!report_) return true;
+  while (static_cast<std::size_t>(next_.page) <= report_->pages.size()) {
+    const PageSnapshot& page = report_->pages[static_cast<std::size_t>(next_.page - 1)];
     if (static_cast<std::size_t>(next_.card) == page.cards.Size()) {
       next_ = {next_.page + 1, 0};
       continue;
     }
-    const RVCardControl* card = page.cards[static_cast<std::size_t>(next_.card)].get();
-    if (!entries_[card].isChecked) {
-      if (Clock::now() >= until) return false;
+    if (!entries_[page.cards[static_cast<std::size_t>(next_.card)].get()].isChecked) {
+      if (isEnough && isEnough()) return false;
       CheckCardAt(page, next_);
     }
     ++next_.card;
@@ -108,7 +95,7 @@ bool OpenReportCheck::Work(Clock::time_point until) {
   return true;
 }
 
-void OpenReportCheck::CheckCardAt(const PageState& page, CardPlace place) {
+void OpenReportCheck::CheckCardAt(const PageSnapshot& page, CardPlace place) {
   const RVCardControl& card = *page.cards[static_cast<std::size_t>(place.card)];
   CardEntry& entry = entries_[&card];
   XmlDocument document;
@@ -145,25 +132,59 @@ void OpenReportCheck::Conclude() {
   findings_.clear();
   inspector_.usedVirtualDevices.clear();
   inspector_.usedGoBackVariables.clear();
-  for (std::size_t page = 0; page < pages_.size(); ++page) {
-    const int number = static_cast<int>(page) + 1;
-    PageFacts& cards = facts.pages.emplace_back();
-    Append(findings_, pages_[page].background, {number});
-    for (std::size_t i = 0; i < pages_[page].cards.Size(); ++i) {
-      const CardEntry& entry = entries_[pages_[page].cards[i].get()];
-      cards.push_back(&entry.facts);
-      Append(findings_, entry.findings, {number, static_cast<int>(i)});
-      TakeUsed(entry);
-    }
-  }
+  int number = 0;
+  for (const PageSnapshot& page : report_->pages) ConcludePage(page, ++number, facts);
   CheckUnusedDeclarations(inspector_, data_);
   Append(findings_, found_, {});
   const std::vector<Finding> rest = InspectFacts(facts, choice_);
   findings_.insert(findings_.end(), rest.begin(), rest.end());
+  CheckName();
   isConcluded_ = true;
 }
 
+// By the names of the folder's files, which are listed once for each name.
+void OpenReportCheck::CheckName() {
+  const CheckCode& code = *FindEditorCode(kNameSharedCode);
+  if (!choice_.Has(code)) return;
+  if (report_->file != file_) {
+    file_ = report_->file;
+    nameShared_.reset();
+    const std::optional<Path> other = OtherOfThatName();
+    if (other) nameShared_ = Finding{.code = &code, .detail = FromUtf8(other->filename().string())};
+  }
+  if (nameShared_) findings_.push_back(*nameShared_);
+}
+
+// A report that has no file where it would be saved came from another one of its name.
+std::optional<Path> OpenReportCheck::OtherOfThatName() const {
+  if (file_.empty()) return std::nullopt;
+  std::vector<Path> others;
+  bool isThere = false;
+  for (const Path& other : host_.files->List(file_.parent_path(), kReportEnding)) {
+    if (other == file_) {
+      isThere = true;
+    } else if (NameOfFile(other, kReportEnding) == report_->name) {
+      others.push_back(other);
+    }
+  }
+  if (others.size() < (isThere ? 1u : 2u)) return std::nullopt;
+  return others.back();
+}
+
+void OpenReportCheck::ConcludePage(const PageSnapshot& page, int number, ReportFacts& facts) {
+  PageFacts& cards = facts.pages.emplace_back();
+  if (page.background) Append(findings_, InspectBackground(*page.background, page.shape, choice_), {number});
+  for (std::size_t i = 0; i < page.cards.Size(); ++i) {
+    const CardEntry& entry = entries_[page.cards[i].get()];
+    cards.push_back(&entry.facts);
+    Append(findings_, entry.findings, {number, static_cast<int>(i)});
+    TakeUsed(entry);
+  }
+}
+
 void OpenReportCheck::Forget() {
+  file_.clear();
+  nameShared_.reset();
   entries_.clear();
   inspector_.Forget();
 }

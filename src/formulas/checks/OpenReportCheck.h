@@ -1,28 +1,27 @@
-// What is wrong with a report that is being edited, as it stands. After a change only the cards that changed are looked
-// at again, and those that hang on what changed; and the work can be done a little at a time, between two frames of the
-// window. For one thread.
+// What is wrong with a report that is being edited, as it stood when it was looked at last. After a change only the
+// cards that changed are looked at again, and those that hang on what changed. For one thread.
 #pragma once
 
-#include <chrono>
+#include <functional>
 #include <unordered_map>
 
-#include "formulas/checks/EditorInspection.h"
+#include "formulas/checks/CheckChoice.h"
 #include "formulas/checks/Inspector.h"
+#include "formulas/checks/ReportSnapshot.h"
 
 namespace xrpt {
 
 class OpenReportCheck {
  public:
-  using Clock = std::chrono::steady_clock;
-
   explicit OpenReportCheck(const Host& host, CheckChoice choice = CheckChoice::All());
   OpenReportCheck(const OpenReportCheck&) = delete;
   OpenReportCheck& operator=(const OpenReportCheck&) = delete;
 
-  // Takes note of the report as it stands. Nothing is checked yet, and later changes are not seen before the next look.
-  void Look(const RVReport& report);
-  // Checks on until the time is up; true once all is done that the last look found.
-  bool Work(Clock::time_point until);
+  // Takes note of the report; nothing is checked yet. The snapshot is needed until the end of the next look: an address
+  // of one of its cards must not become another card's before.
+  void Look(const ReportSnapshot& report);
+  // Checks on until it is enough, which is asked before each card; true once all is done that the last look found.
+  bool Work(const std::function<bool()>& isEnough = {});
   // In the order of pages and cards, then what belongs to the whole report. Those of the work done last.
   const std::vector<Finding>& Findings() const { return findings_; }
   // How often a card was looked at so far.
@@ -43,29 +42,29 @@ class OpenReportCheck {
     UsedIds goBackVariables;
   };
   using Entries = std::unordered_map<const RVCardControl*, CardEntry>;
-  struct PageState {
-    SharedCards cards;  // keeps the cards as they were, and so the entries
-    PageShape shape;
-    bool isNamed = true;
-    std::vector<Finding> background;
-  };
 
-  void LookAtTables(const RVReport& report);
-  void LookAtPage(const RVReportPage& page, PageState& state, Entries& former);
-  void CheckCardAt(const PageState& page, CardPlace place);
+  void LookAtTables(const ReportSnapshot& report);
+  void LookAtPage(const PageSnapshot& page, Entries& former);
+  void CheckCardAt(const PageSnapshot& page, CardPlace place);
   void CheckWithHost(const XmlNode& element, CardEntry& entry, CardPlace place);
   void Conclude();
+  void ConcludePage(const PageSnapshot& page, int number, ReportFacts& facts);
   void TakeUsed(const CardEntry& entry);
+  void CheckName();
+  std::optional<Path> OtherOfThatName() const;
 
   const Host& host_;
   const CheckChoice choice_;
   std::vector<Finding> found_;  // by the inspector, of the card it is at
   Inspector inspector_;
-  XmlDocument formulas_;
-  std::string tables_[2];  // formulas; what is declared
-  tagSDebugData data_;
+  const ReportSnapshot* report_ = nullptr;
+  Path file_;  // whose name was looked for last
+  std::optional<Finding> nameShared_;
+  std::string formulas_;      // how the tables read at the last look
+  std::string declarations_;  // virtual devices and go-back variables
+  std::shared_ptr<const XmlDocument> formulasDocument_;
+  tagSDebugData data_;  // refers to it
   FormulaTable formulaTable_;
-  std::vector<PageState> pages_;
   Entries entries_;
   CardPlace next_;
   bool isConcluded_ = false;

@@ -7,27 +7,19 @@
 namespace xrpt {
 namespace {
 
-RVReportPage* PageOf(RVReport& report, const CardPlace& place) {
-  const bool exists = place.page >= 1 && static_cast<std::size_t>(place.page) <= report.pages.size();
-  return exists ? report.pages[static_cast<std::size_t>(place.page) - 1].get() : nullptr;
+bool RemoveFormula(const std::wstring& name, RemedyDoor& door) {
+  FormulaTable formulas = ReadFormulas(door.Formulas());
+  if (std::erase_if(formulas, [&name](const Formula& formula) { return formula.name == name; }) == 0) return false;
+  door.Formulas() = FormulasDocument(kFormulesRoot, formulas);
+  return true;
 }
 
-bool HasCard(const RVReportPage* page, const CardPlace& place) {
-  return page && place.card >= 0 && static_cast<std::size_t>(place.card) < page->cards.Size();
-}
-
-RVCardControl* CardAt(RVReportPage& page, const CardPlace& place) {
-  RVCardControl& card = page.cards.Edit(static_cast<std::size_t>(place.card));
-  if (place.inner < 0) return &card;
+// The card itself, or the one of that place inside it; null when it holds none there.
+RVCardControl* CardIn(RVCardControl& card, int inner) {
+  if (inner < 0) return &card;
   auto* outer = dynamic_cast<RVCardConditioned*>(&card);
-  const auto inner = static_cast<std::size_t>(place.inner);
-  return outer && inner < outer->cards.size() ? outer->cards[inner].get() : nullptr;
-}
-
-void RemoveFormula(RVReport& report, const std::wstring& name) {
-  FormulaTable formulas = ReadFormulas(report.formules);
-  std::erase_if(formulas, [&name](const Formula& formula) { return formula.name == name; });
-  report.formules = FormulasDocument(kFormulesRoot, formulas);
+  const auto place = static_cast<std::size_t>(inner);
+  return outer && place < outer->cards.size() ? outer->cards[place].get() : nullptr;
 }
 
 bool SetField(RVCardControl& card, const Change& change) {
@@ -37,12 +29,12 @@ bool SetField(RVCardControl& card, const Change& change) {
   return true;
 }
 
-bool ApplyToCard(RVReportPage& page, const CardPlace& place, const Change& change) {
+bool ChangeCard(const Finding& finding, const Change& change, std::size_t index, CardList& cards) {
   if (change.kind == Change::Kind::MoveToFront) {
-    page.cards.MoveToFront({static_cast<std::size_t>(place.card)});
+    cards.MoveToFront({index});
     return true;
   }
-  RVCardControl* card = CardAt(page, place);
+  RVCardControl* card = CardIn(cards.Edit(index), finding.place.inner);
   if (!card) return false;
   if (change.kind == Change::Kind::SetField) return SetField(*card, change);
   card->InitializeId();
@@ -51,15 +43,13 @@ bool ApplyToCard(RVReportPage& page, const CardPlace& place, const Change& chang
 
 }  // namespace
 
-bool ApplyRemedy(RVReport& report, const Finding& finding) {
+bool CarryOut(const Finding& finding, std::size_t card, RemedyDoor& door) {
   bool done = false;
   for (const Change& change : finding.remedy.changes) {
-    RVReportPage* page = PageOf(report, finding.place);
     if (change.kind == Change::Kind::RemoveFormula) {
-      RemoveFormula(report, change.value);
-      done = true;
-    } else if (HasCard(page, finding.place)) {
-      done = ApplyToCard(*page, finding.place, change) || done;
+      done = RemoveFormula(change.value, door) || done;
+    } else if (card != CardList::kNowhere) {
+      done = ChangeCard(finding, change, card, door.Cards()) || done;
     }
   }
   return done;
