@@ -99,6 +99,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ApplySurround();
   void OpenPalette();
   void OpenShortcutSheet();
+  void OpenStyles();
   void ExportPdf();
   void ExportImages();
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,

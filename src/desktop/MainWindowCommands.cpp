@@ -9,10 +9,12 @@
 #include "desktop/dialogs/CommandPalette.h"
 #include "desktop/dialogs/SaveDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
+#include "desktop/dialogs/StylesDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/ribbon/Actions.h"
 #include "editor/CommandTexts.h"
@@ -31,7 +33,8 @@ bool MainWindow::RunCommand(const char* name) {
       {"SaveAs", &MainWindow::SaveAs},
       {"ExportPdf", &MainWindow::ExportPdf},
       {"ExportImages", &MainWindow::ExportImages},
-      {"Print", &MainWindow::Print}};
+      {"Print", &MainWindow::Print},
+      {"Styles", &MainWindow::OpenStyles}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;
     (this->*run)();
@@ -97,6 +100,15 @@ void MainWindow::ApplySurround() {
 void MainWindow::OpenPalette() { (new CommandPalette(actions_->All(), this))->show(); }
 
 void MainWindow::OpenShortcutSheet() { (new ShortcutSheet(actions_->All(), this))->open(); }
+
+void MainWindow::OpenStyles() {
+  StylesDialog dialog(this);
+  dialog.changed = [this](const std::vector<StyleRenaming>& renamings) {
+    frame_->StylesModified(renamings);
+    properties_->Reload();
+  };
+  dialog.exec();
+}
 
 // --- Saving under a name ---
 

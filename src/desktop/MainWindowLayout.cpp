@@ -84,7 +84,7 @@ void MainWindow::BuildDocks() {
     pages_->View().RevealSelection();
     RefreshSoon();
   };
-  properties_ = new PropertyPanel(*fields_, this);
+  properties_ = new PropertyPanel(*frame_, this);
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsDesk(*frame_, pages_->View(), *this);
   problems_->beforeAct = [this] { properties_->Commit(); };

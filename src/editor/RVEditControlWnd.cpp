@@ -37,14 +37,6 @@ void RVEditControlWnd::Rename(const std::wstring& name) { Edit({text::kReportRen
 
 // --- What changed elsewhere ---
 
-void RVEditControlWnd::StylesModified() {
-  ReportEdit edit = Edit({text::kStylesChanged, 0});
-  for (const auto& slot : pages_) slot->window->StylesModified();
-  edit.End();
-  ++resourcesSerial_;
-  port_.StateChanged();
-}
-
 void RVEditControlWnd::ImagesModified() {
   RVCardImage::ReLoadAllOriginalImages();
   for (const auto& slot : pages_) slot->window->ImagesManagerModified();

@@ -15,6 +15,7 @@
 
 namespace xrpt {
 
+struct StyleRenaming;
 struct TextChange;
 
 class RVEditControlWnd final : public MessageTarget, private PageHistoryListener {
@@ -121,8 +122,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   int ZoomEntry() const;
   bool SetZoomEntry(int entry);
 
-  // Style files changed: every card reads its font again.
+  // Style files changed: every card reads its font again, and goes on using a style that has a new name now.
   void StylesModified();
+  void StylesModified(const std::vector<StyleRenaming>& renamings);
   // Pictures of the image store changed.
   void ImagesModified();
 

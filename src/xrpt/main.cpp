@@ -24,6 +24,7 @@ int Run(int argc, char** argv) {
   xrpt::AddValidate(program, status);
   xrpt::AddRender(program, status);
   xrpt::AddEvaluate(program, status);
+  xrpt::AddStyle(program, status);
   xrpt::AddSearch(program, status);
   xrpt::AddReplace(program, status);
   xrpt::AddClean(program, status);

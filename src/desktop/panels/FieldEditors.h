@@ -19,6 +19,8 @@ class FieldEditorWidget {
 
   virtual ~FieldEditorWidget() = default;
   virtual QWidget* Widget() = 0;
+  // The words to choose from, for a choice whose words hang on another field.
+  virtual void Offer(std::span<const Word>) {}
   // Filling never counts as an edit.
   virtual void Show(const std::optional<std::wstring>& text) = 0;
   // Tells what was typed and not told yet.
