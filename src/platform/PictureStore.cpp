@@ -64,6 +64,7 @@ std::size_t PictureStore::Count() const {
 }
 
 bool PictureStore::MayKeep(const Picture& outline) const {
+  const std::lock_guard guard(memory_->Lock());
   const std::size_t bytes =
       kPaintedBytes * static_cast<std::size_t>(outline.width) * static_cast<std::size_t>(outline.height);
   return bytes <= kMaxKept && kept_ + bytes <= memory_->Limit() / 2;

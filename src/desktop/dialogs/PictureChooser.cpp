@@ -23,10 +23,14 @@ namespace {
 
 QImage PreviewOf(const std::wstring& name) {
   const PictureKey key = ParsePictureName(name);
-  const PicturePtr picture = ReadImageFile(CurrentHost(), key.id, key.path);
+  const QSize room(PicturesModel::kPreview, PicturesModel::kPreview);
+  PicturePtr picture = ReadImageFile(CurrentHost(), key.id, key.path);
+  if (picture && picture->source) {
+    const QSize shown = QSize(picture->width, picture->height).scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+    picture = WithPixels(picture, shown.width(), shown.height());
+  }
   if (!picture) return {};
   const QImage whole = ToImage(*picture);
-  const QSize room(PicturesModel::kPreview, PicturesModel::kPreview);
   const bool fits = whole.width() <= room.width() && whole.height() <= room.height();
   return fits ? whole.copy() : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
