@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -21,6 +22,15 @@ namespace xrpt {
 
 namespace {
 
+// In the middle of a square, so that all previews are of one size.
+QImage OnSquare(const QImage& picture) {
+  QImage square(PicturesModel::kPreview, PicturesModel::kPreview, QImage::Format_ARGB32_Premultiplied);
+  square.fill(Qt::transparent);
+  QPainter(&square).drawImage((square.width() - picture.width()) / 2, (square.height() - picture.height()) / 2,
+                              picture);
+  return square;
+}
+
 QImage PreviewOf(const std::wstring& name) {
   const PictureKey key = ParsePictureName(name);
   const QSize room(PicturesModel::kPreview, PicturesModel::kPreview);
@@ -32,7 +42,13 @@ QImage PreviewOf(const std::wstring& name) {
   if (!picture) return {};
   const QImage whole = ToImage(*picture);
   const bool fits = whole.width() <= room.width() && whole.height() <= room.height();
-  return fits ? whole.copy() : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  return OnSquare(fits ? whole : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+// Until a preview is there.
+QPixmap Placeholder() {
+  const QPixmap icon = ThemedIcon(QStringLiteral("image")).pixmap(PicturesModel::kPreview / 2);
+  return QPixmap::fromImage(OnSquare(icon.toImage()));
 }
 
 }  // namespace
@@ -75,7 +91,7 @@ QVariant PicturesModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DecorationRole) return {};
   if (rows_[row].preview.isNull()) {
     Ask(row);
-    return ThemedIcon(QStringLiteral("image")).pixmap(kPreview / 2);
+    return Placeholder();
   }
   return rows_[row].preview;
 }

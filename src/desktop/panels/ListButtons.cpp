@@ -46,7 +46,8 @@ void ListButtons::Refresh(std::size_t chosen, std::size_t first, std::size_t cou
 
 void FitHeight(QListWidget& list) {
   const int lines = std::clamp(list.count(), kFewestLines, kMostLines);
-  list.setFixedHeight(lines * (list.fontMetrics().height() + 8) + 2 * list.frameWidth());
+  const int line = list.count() > 0 ? list.sizeHintForRow(0) : list.fontMetrics().height();
+  list.setFixedHeight(lines * line + 2 * list.frameWidth() + 2);
 }
 
 }  // namespace xrpt
