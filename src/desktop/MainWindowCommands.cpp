@@ -1,13 +1,13 @@
 // The commands of the catalogue that need a window: switches of the view, sheets, saving under a name.
+#include <QApplication>
 #include <QDockWidget>
-#include <QInputDialog>
-#include <QMessageBox>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/MainWindow.h"
 #include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
+#include "desktop/dialogs/SaveDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
 #include "desktop/dialogs/StylesDialog.h"
 #include "desktop/look/Texts.h"
@@ -19,8 +19,6 @@
 #include "desktop/ribbon/Actions.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
-#include "platform/NamedFiles.h"
-#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -121,29 +119,9 @@ void MainWindow::OpenStyles() {
 // --- Saving under a name ---
 
 void MainWindow::SaveAs() {
-  QString name = ToQString(frame_->Report().name);
-  while (AskForName(name)) {
-    const std::wstring wanted = name.trimmed().toStdWString();
-    const Path folder = CurrentHost().setup->CfgPath();
-    int problem = 0;
-    if (!IsSafeFileName(wanted)) {
-      problem = text::kBadName;
-    } else if (FindNamedFile(folder, wanted, kReportEnding)) {
-      problem = text::kNameIsTaken;
-    }
-    if (problem == 0) {
-      frame_->SaveAs(wanted);
-      return;
-    }
-    QMessageBox::warning(this, Translated(text::kProgramName), Translated(problem));
-  }
-}
-
-bool MainWindow::AskForName(QString& name) {
-  bool accepted = false;
-  name = QInputDialog::getText(this, Translated(text::kSaveAs), Translated(text::kReportName), QLineEdit::Normal, name,
-                               &accepted);
-  return accepted;
+  const std::optional<SaveTarget> target = SaveDialog::Choose(frame_->Report().name, this);
+  if (!target) return;
+  target->file.empty() ? frame_->SaveAs(target->name) : frame_->SaveAsFile(target->file);
 }
 
 }  // namespace xrpt

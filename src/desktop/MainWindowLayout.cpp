@@ -147,7 +147,6 @@ void MainWindow::FocusNextArea(bool forward) {
 // The log may be written from other threads.
 void MainWindow::WatchLog() {
   WatchedLogger::Install(CurrentHost(), [this](int severity, const std::wstring& message) {
-    if (severity >= 4) writeFailed_ = true;
     QMetaObject::invokeMethod(
         this, [this, severity, text = ToQString(message)] { OnLogged(severity, text); }, Qt::QueuedConnection);
   });

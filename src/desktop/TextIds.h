@@ -63,7 +63,6 @@ inline constexpr int kReportName = 60556;
 inline constexpr int kChangedOn = 60557;
 inline constexpr int kFilterReports = 60558;
 inline constexpr int kBrowse = 60559;
-inline constexpr int kCannotOpen = 60560;
 inline constexpr int kBadName = 60561;
 inline constexpr int kNameIsTaken = 60562;
 inline constexpr int kDismiss = 60563;

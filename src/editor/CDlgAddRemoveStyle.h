@@ -3,6 +3,9 @@
 // `RVEditControlWnd::StylesModified`.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "editor/CDlgNewModifyStyle.h"
 #include "editor/EditorPort.h"
 

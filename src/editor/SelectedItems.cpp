@@ -1,6 +1,7 @@
 #include "editor/SelectedItems.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "canvas/UndoTexts.h"
 #include "platform/Numbers.h"

@@ -82,7 +82,7 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(*Services().styles, reference, styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
@@ -119,7 +119,10 @@ bool EqualSampled(const PicturePtr& left, const PicturePtr& right) {
   if (!left || !right) return false;
   const bool sameSize =
       left->encodedSize == right->encodedSize && left->width == right->width && left->height == right->height;
-  return sameSize && (left->height == 0 || (SameRow(*left, *right, 0) && SameRow(*left, *right, left->height / 2)));
+  if (!sameSize || left->height == 0) return sameSize;
+  const PicturePtr a = WithPixels(left);
+  const PicturePtr b = WithPixels(right);
+  return a && b && SameRow(*a, *b, 0) && SameRow(*a, *b, left->height / 2);
 }
 
 }  // namespace xrpt

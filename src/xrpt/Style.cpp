@@ -5,6 +5,7 @@
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "editor/CDlgAddRemoveStyle.h"
 #include "model/CommonRows.h"

@@ -145,12 +145,12 @@ TEST_F(OneCard, ThePagesBackgroundIsAPictureWithFieldsOfItsOwn) {
   SelectedFields background(frame, FieldsOf::Background);
   const FieldRow& picture = RowNamed(background.Fields(), "image");
   IsOneStep([&] { background.Assign(picture, "plants/boiler"); });
-  const RVCardImage& card = frame.CurrentPage().Page().properties.Background();
-  EXPECT_EQ(card.ImageId(), L"boiler");
-  EXPECT_EQ(card.ImagePath(), L"plants");
+  const auto card = [&]() -> const RVCardImage& { return frame.CurrentPage().Page().properties.Background(); };
+  EXPECT_EQ(card().ImageId(), L"boiler");
+  EXPECT_EQ(card().ImagePath(), L"plants");
   EXPECT_EQ(background.Find("image")->text, std::optional<std::wstring>(L"plants/boiler"));
   IsOneStep([&] { background.Assign(picture, ""); });
-  EXPECT_FALSE(card.HasImageData());
+  EXPECT_FALSE(card().HasImageData());
   Put("reportGraph", "");
   EXPECT_TRUE(background.Fields().empty()) << "a card is selected";
 }
