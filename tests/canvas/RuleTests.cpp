@@ -99,6 +99,19 @@ TEST_F(RuleTest, Orientation) {
   EXPECT_EQ(canvas.page.properties.width, 210);
 }
 
+TEST_F(RuleTest, ABackgroundThatCoversThePageGoesOnCoveringIt) {
+  Canvas canvas;
+  const auto resize = [&canvas](double width) { canvas.wnd.Edit({}).Properties().width = width; };
+  const auto covered = [&canvas] { return canvas.page.properties.Background().width; };
+  resize(150.0);
+  EXPECT_EQ(covered(), 150.0);
+  canvas.wnd.ControlUndo();
+  EXPECT_EQ(covered(), 210.0);
+  canvas.wnd.Edit({}).Properties().Background().width = 40.0;
+  resize(150.0);
+  EXPECT_EQ(covered(), 40.0) << "one that does not is left as it is";
+}
+
 TEST_F(RuleTest, Scrolling) {
   Canvas canvas;
   canvas.port.client = {0, 0, 1000, 1685};
