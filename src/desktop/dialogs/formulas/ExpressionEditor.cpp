@@ -19,13 +19,13 @@ constexpr int kLines = 2;
 
 class ExpressionEditor final : public FieldEditorWidget {
  public:
-  ExpressionEditor(const FieldRow& row, Edited edited, std::function<ExpressionSources()> sources, QWidget* parent)
-      : field_(new ExpressionField(ExpressionKind::Numeric, parent)),
+  ExpressionEditor(ExpressionKind kind, Edited edited, std::function<ExpressionSources()> sources, QWidget* parent)
+      : kind_(kind),
+        field_(new ExpressionField(kind, parent)),
         edited_(std::move(edited)),
         sources_(std::move(sources)) {
     field_->hidesEmptyLine = true;
     field_->Edit().SetLines(kLines);
-    field_->Edit().setAccessibleName(Translated(row.panel.textId));
     field_->textEdited = [this](const std::wstring& text) { edited_(ToUtf8(text)); };
     field_->entered = [this] { field_->SetSources(sources_()); };
     field_->AddButton(ThemedIcon(QStringLiteral("formulas")), Translated(text::kWizard), [this] { OpenWizard(); });
@@ -34,7 +34,8 @@ class ExpressionEditor final : public FieldEditorWidget {
   QWidget* Widget() override { return field_; }
 
   void Show(const std::optional<std::wstring>& text) override {
-    field_->Edit().setPlaceholderText(text ? QString() : Translated(text::kMixed));
+    field_->Edit().setAccessibleName(field_->accessibleName());
+    field_->Edit().setPlaceholderText(text ? Example() : Translated(text::kMixed));
     const std::wstring shown = text.value_or(L"");
     if (isShown_ && field_->Text() == shown) return;
     isShown_ = true;
@@ -43,13 +44,16 @@ class ExpressionEditor final : public FieldEditorWidget {
   }
 
  private:
+  QString Example() const { return kind_ == ExpressionKind::Logical ? Translated(text::kConditionExample) : QString(); }
+
   void OpenWizard() {
-    const auto written = FormulaWizard::Ask(sources_(), ExpressionKind::Numeric, field_->Text(), field_->window());
+    const auto written = FormulaWizard::Ask(sources_(), kind_, field_->Text(), field_->window());
     if (!written || *written == field_->Text()) return;
     field_->SetText(*written);
     edited_(ToUtf8(*written));
   }
 
+  ExpressionKind kind_;
   ExpressionField* field_;
   Edited edited_;
   std::function<ExpressionSources()> sources_;
@@ -58,9 +62,9 @@ class ExpressionEditor final : public FieldEditorWidget {
 
 }  // namespace
 
-std::unique_ptr<FieldEditorWidget> MakeExpressionEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
+std::unique_ptr<FieldEditorWidget> MakeExpressionEditor(ExpressionKind kind, FieldEditorWidget::Edited edited,
                                                         std::function<ExpressionSources()> sources, QWidget* parent) {
-  return std::make_unique<ExpressionEditor>(row, std::move(edited), std::move(sources), parent);
+  return std::make_unique<ExpressionEditor>(kind, std::move(edited), std::move(sources), parent);
 }
 
 }  // namespace xrpt
