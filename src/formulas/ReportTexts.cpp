@@ -93,6 +93,17 @@ UseCounts SourcesUsed(const RVReport& report) {
   return counts;
 }
 
+std::vector<TextUse> UsersOfSource(const RVReport& report, std::wstring_view id) {
+  std::vector<TextUse> users;
+  ForEachText(report, [&](const ReportText& text) {
+    UseCounts used;
+    CountSources(SourceKind::VirtualDevice, text, used);
+    CountSources(SourceKind::GoBackVariable, text, used);
+    if (UsesOf(used, id) > 0) users.push_back({text.place, text.Owner()});
+  });
+  return users;
+}
+
 std::size_t ApplyToCard(RVCardControl& card, const std::vector<const TextChange*>& changes) {
   std::size_t place = 0;
   return ChangeTexts(card, [&](const EditedCardText& text) -> std::optional<std::wstring> {

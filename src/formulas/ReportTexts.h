@@ -98,6 +98,14 @@ std::vector<TextChange> PreviewSourceRenamings(const RVReport& report, const std
 UseCounts FormulasUsedByCards(const RVReport& report);
 UseCounts SourcesUsed(const RVReport& report);
 
+// A text that uses something.
+struct TextUse {
+  TextPlace place;
+  TextOwner owner;
+};
+// Those that use the device or go-back variable of that identifier.
+std::vector<TextUse> UsersOfSource(const RVReport& report, std::wstring_view id);
+
 // Carries out the changes of one card, all of the same page and card, where the text is still what it was. How many
 // texts changed.
 std::size_t ApplyToCard(RVCardControl& card, const std::vector<const TextChange*>& changes);

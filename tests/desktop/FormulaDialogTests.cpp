@@ -217,6 +217,7 @@ TEST_F(FormulaDialogTest, VirtualDevicesAreDeclaredOnce) {
     dialog.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     In<CDlgIntroduceIdentification>(typeName("P1"));
+    goBacks.setFocus();
     Hit(goBacks, Qt::Key_Insert);
     Ok(dialog).click();
   });

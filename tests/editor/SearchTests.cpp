@@ -169,6 +169,22 @@ TEST_F(SearchTest, WhatIsChosenFromThePreviewIsReplacedAsOneStep) {
   EXPECT_FALSE(frame.CanUndo());
 }
 
+TEST_F(SearchTest, WhoUsesADeviceIsTold) {
+  host.WriteCfg("G.graph.xrpt",
+                "<reportLayout><id>G</id><name>graph</name><page/><page><reportGraph><id>g</id><variable>"
+                "<id>VIRTUAL_Site.P</id></variable></reportGraph><formule><id>f</id><value>[MAIN.P]</value></formule>"
+                "</page><formules><formule><name>Peak</name><text>2 * [VIRTUAL_Site.P.GOBACK@P1]</text></formule>"
+                "</formules></reportLayout>");
+  frame.Setup(L"graph");
+  const std::vector<TextUse> users = UsersOfSource(frame.Report(), L"VIRTUAL_Site");
+  ASSERT_EQ(users.size(), 2u);
+  EXPECT_EQ(users[0].place.page, 1u);
+  EXPECT_EQ(users[0].owner.cardId, L"g");
+  EXPECT_EQ(users[1].owner.id, L"Peak");
+  EXPECT_EQ(UsersOfSource(frame.Report(), L"GOBACK@P1").size(), 1u);
+  EXPECT_TRUE(UsersOfSource(frame.Report(), L"VIRTUAL_Si").empty());
+}
+
 TEST_F(SearchTest, FormulasThatWouldReferToEachOtherStayAsTheyAre) {
   ReportSearch search(frame);
   search.text = L"Load";

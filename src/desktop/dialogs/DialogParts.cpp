@@ -9,6 +9,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/look/Texts.h"
+#include "model/CardRegistry.h"
 
 namespace xrpt {
 
@@ -33,9 +34,10 @@ QPushButton* ButtonFor(QAction& action, QWidget* parent) {
   return button;
 }
 
-bool AskYesNo(QDialog& dialog, const QString& question) {
+bool AskYesNo(QDialog& dialog, const QString& question, const QString& more) {
   QMessageBox box(QMessageBox::Question, dialog.windowTitle(), question, QMessageBox::Yes | QMessageBox::No, &dialog);
   box.setDefaultButton(QMessageBox::Yes);
+  box.setInformativeText(more);
   return box.exec() == QMessageBox::Yes;
 }
 
@@ -50,6 +52,16 @@ QString TranslatedWith(int textId, const QStringList& arguments) {
     from = place.capturedStart() + argument.size();
   }
   return text;
+}
+
+QString TextOfPlace(const TextPlace& place, const TextOwner& owner) {
+  const QString separator = QStringLiteral(" · ");
+  if (place.page == TextPlace::kFormulas) return Translated(text::kFormula) + separator + ToQString(owner.id);
+  QString kind;
+  for (const RegistryRow& row : CardRegistry()) {
+    if (owner.tag == row.kind().tag) kind = Translated(row.kind().textId);
+  }
+  return Translated(text::kPageOfReport, QString::number(place.page + 1)) + separator + kind;
 }
 
 }  // namespace xrpt

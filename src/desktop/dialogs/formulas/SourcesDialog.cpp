@@ -21,6 +21,10 @@ namespace xrpt {
 
 using Setup = RVDlgReportVirtualDeviceSetup;
 
+namespace {
+constexpr qsizetype kMostUsers = 12;  // that a question lists
+}
+
 SourcesDialog::SourcesDialog(RVEditControlWnd& frame, QWidget* parent)
     : QDialog(parent),
       frame_(frame),
@@ -129,8 +133,21 @@ bool SourcesDialog::AskUpdateUses(const std::wstring& from, const std::wstring& 
   return AskYesNo(*this, TranslatedWith(text::kUpdateUses, {ToQString(from), QString::number(uses), ToQString(to)}));
 }
 
+// The first of the places that use it, as the report has them now.
+QString SourcesDialog::UsersOf(const std::wstring& id) const {
+  QStringList users;
+  for (const TextUse& use : UsersOfSource(frame_.Report(), id)) {
+    if (users.size() == kMostUsers) {
+      users.append(QString(QChar(0x2026)));
+      break;
+    }
+    users.append(TextOfPlace(use.place, use.owner));
+  }
+  return users.join(QLatin1Char('\n'));
+}
+
 bool SourcesDialog::AskDeleteUsed(const std::wstring& id, std::size_t uses) {
-  return AskYesNo(*this, TranslatedWith(text::kRemoveUsed, {ToQString(id), QString::number(uses)}));
+  return AskYesNo(*this, TranslatedWith(text::kRemoveUsed, {ToQString(id), QString::number(uses)}), UsersOf(id));
 }
 
 bool EditSources(RVEditControlWnd& frame, QWidget* parent) {

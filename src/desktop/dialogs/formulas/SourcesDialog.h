@@ -29,6 +29,8 @@ class SourcesDialog final : public QDialog, private VirtualSetupPort {
   bool AskUpdateUses(const std::wstring& from, const std::wstring& to, std::size_t uses) override;
   bool AskDeleteUsed(const std::wstring& id, std::size_t uses) override;
 
+  QString UsersOf(const std::wstring& id) const;
+
   // One of the two kinds: its list and what its buttons do.
   struct Part {
     int titleText;

@@ -1,8 +1,8 @@
 #include "desktop/dialogs/search/MatchModel.h"
 
+#include "desktop/dialogs/DialogParts.h"
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/look/Texts.h"
-#include "model/CardRegistry.h"
 
 namespace xrpt {
 
@@ -14,20 +14,9 @@ constexpr std::size_t kShownText = 200;
 const TextOwner& OwnerOf(const SearchHit& hit) { return hit.in->owner; }
 const TextOwner& OwnerOf(const TextChange& change) { return change.owner; }
 
-QString KindOf(const std::string& tag) {
-  for (const RegistryRow& row : CardRegistry()) {
-    if (tag == row.kind().tag) return Translated(row.kind().textId);
-  }
-  return {};
-}
-
 template <class Found>
 QString Place(const Found& found) {
-  const TextOwner& owner = OwnerOf(found);
-  if (found.place.page == TextPlace::kFormulas)
-    return Translated(text::kFormula) + QStringLiteral(" · ") + ToQString(owner.id);
-  const QString page = Translated(text::kPageOfReport, QString::number(found.place.page + 1));
-  return page + QStringLiteral(" · ") + KindOf(owner.tag);
+  return TextOfPlace(found.place, OwnerOf(found));
 }
 
 // One line, however many the text has.
