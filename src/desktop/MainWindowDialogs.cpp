@@ -15,6 +15,7 @@ SearchDialog& MainWindow::Searching() {
     search_->matchShown = [this] {
       Refresh();
       pages_->View().RevealSelection();
+      return pages_->View().SelectionOnScreen();
     };
     search_->formulaChosen = [this](const std::wstring& name) { EditFormulas(*frame_, search_, name); };
   }

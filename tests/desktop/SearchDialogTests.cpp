@@ -8,6 +8,7 @@
 #include <QTreeView>
 
 #include "DialogTest.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/formulas/FormulasDialog.h"
 #include "desktop/dialogs/search/MatchModel.h"
 #include "desktop/dialogs/search/SearchDialog.h"
@@ -63,6 +64,22 @@ TEST_F(SearchDialogTest, EnterStepsThroughThePageAndTellsWhere) {
   EXPECT_FALSE(Button("Next").isEnabled());
   Hit(FindField(), Qt::Key_Escape);
   EXPECT_FALSE(Dialog().isVisible());
+}
+
+TEST(DialogPlaceTest, LeavesFreeWhatItShows) {
+  const QRect screen(0, 0, 1000, 800);
+  const QSize size(300, 200);
+  const auto placed = [&](const QRect& shown, const QPoint& at) {
+    return QRect(PlaceClearOf(shown, QRect(at, size), screen), size);
+  };
+  const QRect aside = placed(QRect(400, 300, 100, 50), QPoint(350, 250));
+  EXPECT_FALSE(aside.intersects(QRect(400, 300, 100, 50)));
+  EXPECT_GT(aside.left(), 499) << "it stood more to the right";
+  EXPECT_TRUE(screen.contains(aside));
+  EXPECT_LT(placed(QRect(750, 300, 100, 50), QPoint(690, 250)).right(), 750) << "no room to the right";
+  EXPECT_GT(placed(QRect(100, 100, 800, 50), QPoint(350, 90)).top(), 149) << "no room at the sides";
+  EXPECT_EQ(placed(QRect(10, 10, 980, 780), QPoint(350, 90)).topLeft(), QPoint(350, 90)) << "no room at all";
+  EXPECT_EQ(placed(QRect(10, 10, 20, 20), QPoint(350, 90)).topLeft(), QPoint(350, 90)) << "nothing covered";
 }
 
 TEST_F(SearchDialogTest, TheListLeadsToCardsAndFormulas) {

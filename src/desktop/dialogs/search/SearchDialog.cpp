@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTreeView>
 
@@ -197,7 +198,7 @@ void SearchDialog::ShowState() {
 
 void SearchDialog::Arrived() {
   ShowCurrent();
-  if (search_.Current() && matchShown) matchShown();
+  if (search_.Current() && matchShown) move(PlaceClearOf(matchShown(), frameGeometry(), screen()->availableGeometry()));
 }
 
 void SearchDialog::FindNext() {

@@ -36,8 +36,8 @@ class SearchDialog final : public QDialog {
   bool IsEmpty() const { return search_.text.empty(); }
 
   const ReportSearch& State() const { return search_; }
-  // Another match is the current one, and its card selected.
-  std::function<void()> matchShown;
+  // Another match is the current one, and its card selected; it answers where on the screen that is.
+  std::function<QRect()> matchShown;
   // A match stands in this formula; it is shown where formulas are.
   std::function<void(const std::wstring& name)> formulaChosen;
 
