@@ -2,8 +2,19 @@
 #include "canvas/PageEdit.h"
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "model/RVCardImage.h"
 
 namespace xrpt {
+
+namespace {
+
+// A background picture that covers the page goes on doing so.
+void CoverAsBefore(RVGlobalProperties& page, const RVGlobalProperties& before) {
+  if (before.Background().width == before.width) page.Background().width = page.width;
+  if (before.Background().height == before.height) page.Background().height = page.height;
+}
+
+}  // namespace
 
 PageEdit::PageEdit(PageEdit&& other) noexcept
     : window_(std::exchange(other.window_, nullptr)), name_(other.name_), joins_(std::move(other.joins_)) {}
@@ -33,7 +44,10 @@ PageEdit RVEditTemplateWnd::Edit(UndoName name, JoinKey joins) {
 bool RVEditTemplateWnd::FinishEdit(UndoName name, const JoinKey& joins, bool announces) {
   const RVGlobalProperties& now = page_.properties;
   const RVGlobalProperties& before = history_.IsEmpty() ? now : history_.Newest().Page();
-  if (before.width != now.width || before.height != now.height) RefitAfterPageChange();
+  if (before.width != now.width || before.height != now.height) {
+    CoverAsBefore(editedPage_.properties, before);
+    RefitAfterPageChange();
+  }
   const bool changed = Record(false, name, joins);
   if (changed) AnnounceAnimations();
   DropGoneFromSelection();

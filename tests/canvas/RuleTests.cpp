@@ -99,6 +99,20 @@ TEST_F(RuleTest, Orientation) {
   EXPECT_EQ(canvas.page.properties.width, 210);
 }
 
+TEST_F(RuleTest, ABackgroundThatCoversThePageGoesOnCoveringIt) {
+  Canvas canvas;
+  const auto resize = [&canvas](double width) { canvas.wnd.Edit({text::kChangePage, 0}).Properties().width = width; };
+  const RVCardImage& background = canvas.page.properties.Background();
+  resize(150.0);
+  EXPECT_EQ(background.width, 150.0);
+  EXPECT_EQ(background.height, 297.0);
+  canvas.wnd.ControlUndo();
+  EXPECT_EQ(background.width, 210.0);
+  canvas.wnd.Edit({text::kChangePage, 0}).Properties().Background().width = 40.0;
+  resize(150.0);
+  EXPECT_EQ(background.width, 40.0) << "one that does not is left as it is";
+}
+
 TEST_F(RuleTest, Scrolling) {
   Canvas canvas;
   canvas.port.client = {0, 0, 1000, 1685};
