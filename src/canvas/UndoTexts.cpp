@@ -17,14 +17,17 @@ std::wstring Inside(std::wstring label) {
   return label;
 }
 
+bool HasTextForOne(int textId) {
+  return (textId >= text::kMove && textId <= text::kChange) || textId == text::kReplace ||
+         textId == text::kBringCardsBack;
+}
+
 }  // namespace
 
 std::wstring UndoText(const UndoName& name) {
   if (name.textId == 0) return {};
   if (name.fieldTextId != 0) return FormatText(HostText(name.textId), Inside(HostText(name.fieldTextId)));
-  const bool countsCards =
-      (name.textId >= text::kMove && name.textId <= text::kChange) || name.textId == text::kReplace;
-  const bool forOne = name.count == 1 && countsCards;
+  const bool forOne = name.count == 1 && HasTextForOne(name.textId);
   const std::wstring pattern = HostText(forOne ? name.textId + text::kOneCardOffset : name.textId);
   return FormatText(pattern, std::to_wstring(name.count));
 }
