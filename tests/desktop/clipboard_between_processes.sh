@@ -37,7 +37,7 @@ start() {
 keys() {
   xdotool windowfocus --sync "$1"
   shift
-  for key in "$@"; do xdotool key "$key"; sleep 0.4; done
+  for key in "$@"; do xdotool key "$key"; sleep "$pause"; done
 }
 cards() { grep -c '<horizontalAlign>' "$work/$1"/*.Line_comparison.xrpt; }
 
@@ -46,12 +46,16 @@ first=$window
 start second Line_comparison
 second=$window
 before=$(cards second)
-keys "$first" ctrl+e ctrl+c
-keys "$second" ctrl+v ctrl+s
-for _ in $(seq 30); do
-  after=$(cards second)
-  [ "$after" -gt "$before" ] && break
-  sleep 0.3
+after=$before
+# A machine that is busy may not be ready for the first keys.
+for pause in 0.4 1 2; do
+  keys "$first" ctrl+e ctrl+c
+  keys "$second" ctrl+v ctrl+s
+  for _ in $(seq 20); do
+    after=$(cards second)
+    [ "$after" -gt "$before" ] && break 2
+    sleep 0.3
+  done
 done
 echo "texts and pictures in the second editor's report: $before before, $after after pasting"
 [ "$after" -gt "$before" ]
