@@ -38,10 +38,22 @@ std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<con
   return same ? std::optional(std::move(text)) : std::nullopt;
 }
 
+// What a choice offers may hang on another field of the card.
+std::span<const Word> CommonWords(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  const std::span<const Word> words = row.WordsFor(*cards.front());
+  const bool same = std::all_of(cards.begin(), cards.end(),
+                                [&](const RVCardControl* card) { return row.WordsFor(*card).data() == words.data(); });
+  return same ? words : std::span<const Word>();
+}
+
+FieldState StateOf(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  return {&row, CommonText(row, cards), CommonWords(row, cards)};
+}
+
 // What people read: a word of a list in their language.
 std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
   const std::wstring text = row.text(card);
-  for (const Word& word : row.words) {
+  for (const Word& word : row.WordsFor(card)) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }
   return text;
@@ -108,11 +120,11 @@ std::vector<FieldState> SelectedFields::Fields() const {
   if (cards.empty()) {
     const RVGlobalProperties& page = frame_.CurrentPage().Page().properties;
     ForEachField(RVGlobalProperties::Table(), [&](const PageRow& row) {
-      if (row.panel.textId != 0) fields.push_back({&row, row.text(page)});
+      if (row.panel.textId != 0) fields.push_back({&row, row.text(page), row.WordsFor(page)});
     });
     return fields;
   }
-  for (const CardRow* row : CommonRows(cards)) fields.push_back({row, CommonText(*row, cards)});
+  for (const CardRow* row : CommonRows(cards)) fields.push_back(StateOf(*row, cards));
   return fields;
 }
 
@@ -120,7 +132,7 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
   const auto cards = Cards();
   if (cards.empty()) return std::nullopt;
   for (const CardRow* row : CommonRows(cards)) {
-    if (row->FullName() == name) return FieldState{row, CommonText(*row, cards)};
+    if (row->FullName() == name) return StateOf(*row, cards);
   }
   return std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,7 @@ class RVEditTemplateWnd;
 struct FieldState {
   const FieldRow* row;
   std::optional<std::wstring> text;  // nothing: the cards differ
+  std::span<const Word> words;       // of a choice; empty where the cards have different ones
 };
 
 class SelectedFields {

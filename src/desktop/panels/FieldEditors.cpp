@@ -158,6 +158,17 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
                      [this](int index) { Tell(control_->itemData(index).toString()); });
   }
   void Offer(const QString& label, const QString& text) { control_->addItem(label, text); }
+  // They change with another field of the card.
+  void Offer(std::span<const Word> words) override {
+    if (words.data() == words_.data()) return;
+    const QSignalBlocker quiet(control_);
+    control_->clear();
+    for (const Word& word : words) {
+      const QString text = QString::fromLatin1(word.text);
+      Offer(word.textId ? Translated(word.textId) : text, text);
+    }
+    words_ = words;
+  }
   void Show(const std::optional<std::wstring>& text) override {
     const QSignalBlocker quiet(control_);
     int index = text ? control_->findData(ToQString(*text)) : -1;
@@ -168,6 +179,9 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
     control_->setCurrentIndex(index);
     control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
   }
+
+ private:
+  std::span<const Word> words_;
 };
 
 class FaceEditor final : public EditorOf<QFontComboBox> {
@@ -198,15 +212,6 @@ QStringList VariableNames() {
       names.append(ToQString(CurrentHost().variables->JoinDriverVariable({device.id, variable.id, {}, {}})));
   }
   return names;
-}
-
-std::unique_ptr<FieldEditorWidget> MakeChoice(const FieldRow& row, FieldEditorWidget::Edited edited, QWidget* parent) {
-  auto choice = std::make_unique<ChoiceEditor>(std::move(edited), parent);
-  for (const Word& word : row.words) {
-    const QString text = QString::fromLatin1(word.text);
-    choice->Offer(word.textId ? Translated(word.textId) : text, text);
-  }
-  return choice;
 }
 
 std::unique_ptr<FieldEditorWidget> MakeStyle(FieldEditorWidget::Edited edited, QWidget* parent) {
@@ -245,7 +250,7 @@ std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEdi
     case FieldEditor::Color:
       return std::make_unique<ColorEditor>(std::move(edited), parent);
     case FieldEditor::Choice:
-      return MakeChoice(row, std::move(edited), parent);
+      return std::make_unique<ChoiceEditor>(std::move(edited), parent);
     case FieldEditor::FontFace:
       return std::make_unique<FaceEditor>(std::move(edited), parent);
     case FieldEditor::Style:

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "model/FieldTable.h"
@@ -19,6 +20,8 @@ class FieldEditorWidget {
 
   virtual ~FieldEditorWidget() = default;
   virtual QWidget* Widget() = 0;
+  // The words to choose from, where that is asked of a choice.
+  virtual void Offer(std::span<const Word>) {}
   // Filling never counts as an edit.
   virtual void Show(const std::optional<std::wstring>& text) = 0;
   // Tells what was typed and not told yet.

@@ -48,7 +48,9 @@ void PropertyPanel::Refresh() {
   for (const FieldState& state : states) {
     const auto entry =
         std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.row == state.row; });
-    if (entry != entries_.end()) entry->editor->Show(state.text);
+    if (entry == entries_.end()) continue;
+    entry->editor->Offer(state.words);
+    entry->editor->Show(state.text);
   }
 }
 
