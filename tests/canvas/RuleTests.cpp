@@ -101,16 +101,15 @@ TEST_F(RuleTest, Orientation) {
 
 TEST_F(RuleTest, ABackgroundThatCoversThePageGoesOnCoveringIt) {
   Canvas canvas;
-  const auto resize = [&canvas](double width) { canvas.wnd.Edit({text::kChangePage, 0}).Properties().width = width; };
-  const RVCardImage& background = canvas.page.properties.Background();
+  const auto resize = [&canvas](double width) { canvas.wnd.Edit({}).Properties().width = width; };
+  const auto covered = [&canvas] { return canvas.page.properties.Background().width; };
   resize(150.0);
-  EXPECT_EQ(background.width, 150.0);
-  EXPECT_EQ(background.height, 297.0);
+  EXPECT_EQ(covered(), 150.0);
   canvas.wnd.ControlUndo();
-  EXPECT_EQ(background.width, 210.0);
-  canvas.wnd.Edit({text::kChangePage, 0}).Properties().Background().width = 40.0;
+  EXPECT_EQ(covered(), 210.0);
+  canvas.wnd.Edit({}).Properties().Background().width = 40.0;
   resize(150.0);
-  EXPECT_EQ(background.width, 40.0) << "one that does not is left as it is";
+  EXPECT_EQ(covered(), 40.0) << "one that does not is left as it is";
 }
 
 TEST_F(RuleTest, Scrolling) {
