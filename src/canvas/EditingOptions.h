@@ -26,12 +26,16 @@ struct EditingOptions {
   bool keepsFit = false;
   // The undo keys mean the whole report, and a report undone to what was saved counts as unmodified.
   bool reportHistory = false;
+  // A report goes back to the file it was opened from, and nothing is lost or written over unasked: unsaved changes,
+  // what others wrote, reports that somebody else has open. What is not saved survives a crash.
+  bool guardsFiles = false;
 
   // What the desktop, and scripts that ask for it, turn on.
   static constexpr EditingOptions Comfort() {
     EditingOptions options{501, false};
     options.countsGrid = options.keepsStoredDigits = options.returnsToPointer = true;
     options.rightClickSelects = options.bandsBesidePage = options.keepsFit = options.reportHistory = true;
+    options.guardsFiles = true;
     return options;
   }
 };

@@ -8,10 +8,14 @@
 #include <QRegularExpression>
 
 #include "canvas/RVEditTemplateWnd.h"
+#include "desktop/FileKeeper.h"
 #include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
+#include "desktop/dialogs/DifferencesDialog.h"
 #include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/QuestionBox.h"
+#include "desktop/dialogs/SaveDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
 #include "desktop/page/ClipboardPictures.h"
@@ -29,6 +33,7 @@
 #include "editor/CommandTexts.h"
 #include "editor/EditorTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 
 namespace xrpt {
@@ -59,6 +64,7 @@ MainWindow::MainWindow() {
   BuildStatusBar();
   BuildKeys();
   WatchLog();
+  files_ = std::make_unique<FileKeeper>(*frame_, *messages_, *this);
   RestoreLayout();
   ApplySurround();
   // What pages have posted is delivered before the program falls asleep.
@@ -72,6 +78,7 @@ MainWindow::MainWindow() {
 // A field that the keyboard leaves now still tells what was typed.
 MainWindow::~MainWindow() {
   if (QWidget* field = focusWidget()) field->clearFocus();
+  files_.reset();
   problems_->Stop();
   WatchedLogger::Remove(CurrentHost());
   ThemedScreen::Remove(CurrentHost());
@@ -96,12 +103,17 @@ void MainWindow::OpenLast() {
 
 void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
-  if (result.loaded) return CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
-  const QString file = ToQString(result.file.filename().wstring());
-  const QString reason = QString::fromStdString(result.error.message);
-  const QString message = Translated(text::kCannotOpen, file) + QLatin1Char(' ') + reason;
+  if (result.loaded) {
+    CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
+    return files_->ReportOpened(result);
+  }
+  const QString message = ToQString(TextOf(result));
   messages_->Show(message, true);
   problems_->AddNotice(Severity::Error, message);
+}
+
+void MainWindow::SaveFailed(const SaveResult& result) {
+  messages_->Show(ToQString(TextOf(result)), true, {{Translated(text::kSaveAs), [this] { SaveAs(); }}});
 }
 
 std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
@@ -163,11 +175,13 @@ void MainWindow::Refresh() {
   ShowSelectionGeometry();
   ShowCaption();
   pages_->Refresh();
+  files_->Refresh();
   problems_->Refresh();
 }
 
 void MainWindow::ShowCaption() {
-  setWindowTitle(ToQString(frame_->Caption()) + QStringLiteral("[*] — ") + Translated(text::kProgramName));
+  const QString state = frame_->IsReadOnly() ? QStringLiteral(" (%1)").arg(Translated(text::kReadOnly)) : QString();
+  setWindowTitle(ToQString(frame_->Caption()) + state + QStringLiteral("[*] — ") + Translated(text::kProgramName));
   setWindowModified(frame_->IsModified());
 }
 
@@ -204,32 +218,29 @@ void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
 
 void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
 
-// A failed write is logged by whoever wrote; what could not be written waits in a recovery file.
+std::size_t MainWindow::Decide(const Question& question) { return AskInBox(question, this); }
+
+std::optional<std::wstring> MainWindow::AskForName(const std::wstring& proposed) {
+  return SaveDialog::ChooseName(proposed, this);
+}
+
+void MainWindow::ShowDifferences(const Path& file, const RVReport& report) {
+  DifferencesDialog(file, report, this).exec();
+}
+
+// What is shown above the page already says more.
 void MainWindow::OnLogged(int severity, const QString& logged) {
   constexpr int kWarning = 3;
   constexpr int kError = 4;
   if (severity < kWarning) return;
   const QString message = WithoutOrigin(logged);
   problems_->AddNotice(severity >= kError ? Severity::Error : Severity::Warning, message);
-  if (severity < kError) return;
-  writeFailed_ = true;
-  messages_->Show(message, true, {{Translated(text::kSaveAs), [this] { SaveAs(); }}});
-}
-
-bool MainWindow::MayClose() {
-  properties_->Commit();
-  if (!frame_->IsModified()) return true;
-  QMessageBox box(QMessageBox::Question, Translated(text::kProgramName), Translated(text::kSaveChanges),
-                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, this);
-  box.setDefaultButton(QMessageBox::Yes);
-  const int answer = box.exec();
-  if (answer != QMessageBox::Yes) return answer == QMessageBox::No;
-  writeFailed_ = false;
-  return frame_->Save() && !writeFailed_;
+  if (severity >= kError && messages_->Message().isEmpty()) messages_->Show(message, true);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (!MayClose()) return event->ignore();
+  properties_->Commit();
+  if (!frame_->MayClose()) return event->ignore();
   StoreLayout();
   event->accept();
 }

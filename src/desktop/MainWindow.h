@@ -15,6 +15,7 @@ namespace xrpt {
 
 class Actions;
 class CornerBar;
+class FileKeeper;
 class FontGroup;
 class MessageBar;
 class Outline;
@@ -39,6 +40,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel& Properties() { return *properties_; }
   MessageBar& Messages() { return *messages_; }
   ProblemsDesk& Problems() { return *problems_; }
+  FileKeeper& Files() { return *files_; }
   Ribbon& Tabs() { return *ribbon_; }
 
   // Opens by name or path. What cannot be opened says why, above the page.
@@ -57,11 +59,15 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) override;
   void PageWindowGone(WindowPort& port) override;
   void ReportOpened(const LoadResult& result) override;
+  void SaveFailed(const SaveResult& result) override;
   void PagesChanged() override;
   void StateChanged() override;
   bool RunCommand(const char* name) override;
   Answer Ask(int textId) override;
   void Tell(int textId) override;
+  std::size_t Decide(const Question& question) override;
+  std::optional<std::wstring> AskForName(const std::wstring& proposed) override;
+  void ShowDifferences(const Path& file, const RVReport& report) override;
   std::optional<std::wstring> ChooseReport(const std::wstring& current) override;
 
   // Construction
@@ -86,7 +92,6 @@ class MainWindow final : public QMainWindow, private EditorPort {
 
   // Commands that need a window
   void SaveAs();
-  bool AskForName(QString& name);
   void ToggleSmartGuides();
   void ToggleAnimation();
   void ToggleRulers();
@@ -94,6 +99,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ApplySurround();
   void OpenPalette();
   void OpenShortcutSheet();
+  void OpenStyles();
   void ExportPdf();
   void ExportImages();
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
@@ -102,7 +108,6 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ShowSwitches();
   void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);
-  bool MayClose();
 
   PageFrame* pages_ = nullptr;
   MessageBar* messages_ = nullptr;
@@ -118,9 +123,9 @@ class MainWindow final : public QMainWindow, private EditorPort {
   StatusBar* status_ = nullptr;
   std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;
+  std::unique_ptr<FileKeeper> files_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
-  bool writeFailed_ = false;
   bool smartGuides_ = false;
 };
 

@@ -1,24 +1,24 @@
 // The commands of the catalogue that need a window: switches of the view, sheets, saving under a name.
+#include <QApplication>
 #include <QDockWidget>
-#include <QInputDialog>
-#include <QMessageBox>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/MainWindow.h"
 #include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
+#include "desktop/dialogs/SaveDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
+#include "desktop/dialogs/StylesDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/ribbon/Actions.h"
 #include "editor/CommandTexts.h"
 #include "editor/RVEditControlWnd.h"
-#include "platform/NamedFiles.h"
-#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -33,7 +33,8 @@ bool MainWindow::RunCommand(const char* name) {
       {"SaveAs", &MainWindow::SaveAs},
       {"ExportPdf", &MainWindow::ExportPdf},
       {"ExportImages", &MainWindow::ExportImages},
-      {"Print", &MainWindow::Print}};
+      {"Print", &MainWindow::Print},
+      {"Styles", &MainWindow::OpenStyles}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;
     (this->*run)();
@@ -100,32 +101,21 @@ void MainWindow::OpenPalette() { (new CommandPalette(actions_->All(), this))->sh
 
 void MainWindow::OpenShortcutSheet() { (new ShortcutSheet(actions_->All(), this))->open(); }
 
+void MainWindow::OpenStyles() {
+  StylesDialog dialog(this);
+  dialog.changed = [this](const std::vector<StyleRenaming>& renamings) {
+    frame_->StylesModified(renamings);
+    properties_->Reload();
+  };
+  dialog.exec();
+}
+
 // --- Saving under a name ---
 
 void MainWindow::SaveAs() {
-  QString name = ToQString(frame_->Report().name);
-  while (AskForName(name)) {
-    const std::wstring wanted = name.trimmed().toStdWString();
-    const Path folder = CurrentHost().setup->CfgPath();
-    int problem = 0;
-    if (!IsSafeFileName(wanted)) {
-      problem = text::kBadName;
-    } else if (FindNamedFile(folder, wanted, kReportEnding)) {
-      problem = text::kNameIsTaken;
-    }
-    if (problem == 0) {
-      frame_->SaveAs(wanted);
-      return;
-    }
-    QMessageBox::warning(this, Translated(text::kProgramName), Translated(problem));
-  }
-}
-
-bool MainWindow::AskForName(QString& name) {
-  bool accepted = false;
-  name = QInputDialog::getText(this, Translated(text::kSaveAs), Translated(text::kReportName), QLineEdit::Normal, name,
-                               &accepted);
-  return accepted;
+  const std::optional<SaveTarget> target = SaveDialog::Choose(frame_->Report().name, this);
+  if (!target) return;
+  target->file.empty() ? frame_->SaveAs(target->name) : frame_->SaveAsFile(target->file);
 }
 
 }  // namespace xrpt

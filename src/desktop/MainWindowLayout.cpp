@@ -84,7 +84,7 @@ void MainWindow::BuildDocks() {
     pages_->View().RevealSelection();
     RefreshSoon();
   };
-  properties_ = new PropertyPanel(*fields_, this);
+  properties_ = new PropertyPanel(*frame_, this);
   properties_->edited = [this] { RefreshSoon(); };
   problems_ = new ProblemsDesk(*frame_, pages_->View(), *this);
   problems_->beforeAct = [this] { properties_->Commit(); };
@@ -147,7 +147,6 @@ void MainWindow::FocusNextArea(bool forward) {
 // The log may be written from other threads.
 void MainWindow::WatchLog() {
   WatchedLogger::Install(CurrentHost(), [this](int severity, const std::wstring& message) {
-    if (severity >= 4) writeFailed_ = true;
     QMetaObject::invokeMethod(
         this, [this, severity, text = ToQString(message)] { OnLogged(severity, text); }, Qt::QueuedConnection);
   });

@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QLocale>
+#include <QTimer>
 
+#include "desktop/FileKeeper.h"
 #include "desktop/MainWindow.h"
 #include "desktop/TextIds.h"
 #include "desktop/look/Icons.h"
@@ -73,6 +75,7 @@ int main(int argc, char** argv) {
       window.Open(xrpt::FromUtf8(arguments.report));
     }
     window.show();
+    QTimer::singleShot(0, &window, [&window] { window.Files().OfferRecovered(); });
     status = QApplication::exec();
   }
   xrpt::InstallHost(nullptr);

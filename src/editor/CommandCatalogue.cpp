@@ -281,6 +281,7 @@ constexpr Command kCommands[] = {
     {"Save", kReport, text::kFileGroup, text::kSave, "save", "Ctrl+S", true, IsModified, nullptr,
      OnFrame<&Frame::Save>},
     {"SaveAs", kReport, text::kFileGroup, text::kSaveAs, "save-as", "Ctrl+Shift+S", true, Always, nullptr, nullptr},
+    {"Styles", kReport, text::kResourcesGroup, text::kStyles, "styles", "Ctrl+Shift+Y", true, Always, nullptr, nullptr},
     {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},
     {"NextProblem", kReport, text::kChecksGroup, text::kNextProblem, "chevron-down", "F8", false, Always, nullptr,
      nullptr},

@@ -107,6 +107,8 @@ inline constexpr int kPanelsGroup = 61540;
 inline constexpr int kOutlinePanel = 61541;
 inline constexpr int kPropertiesPanel = 61542;
 inline constexpr int kProblemsPanel = 61543;
+inline constexpr int kResourcesGroup = 61560;
+inline constexpr int kStyles = 61561;
 inline constexpr int kBringBack = 61544;
 
 }  // namespace xrpt::text

@@ -8,11 +8,14 @@
 #include <string>
 #include <vector>
 
+#include "editor/Question.h"
+#include "platform/Files.h"
 #include "platform/Window.h"
 
 namespace xrpt {
 
 class RVEditTemplateWnd;
+class RVReport;
 struct LoadResult;
 
 enum class Answer { Yes, No };
@@ -27,8 +30,11 @@ class EditorPort {
   virtual void PageWindowReady(WindowPort& port, RVEditTemplateWnd& window) = 0;
   virtual void PageWindowGone(WindowPort& port) = 0;
 
-  // A report was opened, or could not be and is a new one: the result says why.
+  // A report was opened, or could not be: the result says why. Then it is a new one, or with guarded files the one that
+  // was open before.
   virtual void ReportOpened(const LoadResult&) {}
+  // The user's work could not be saved; it is still there.
+  virtual void SaveFailed(const SaveResult&) {}
   // Pages were added, removed or reordered, or another one is shown.
   virtual void PagesChanged() = 0;
   // The selection, a card, the zoom, the history or the modified mark changed: refresh panels, menus and caption.
@@ -42,6 +48,15 @@ class EditorPort {
   // A Yes/No question or a message by text id.
   virtual Answer Ask(int textId) = 0;
   virtual void Tell(int textId) = 0;
+  // A question with answers of its own: the chosen one's place in the list. Who knows only Yes and No answers with
+  // those.
+  virtual std::size_t Decide(const Question& question) {
+    return Ask(question.textId) == Answer::Yes ? question.yes : question.no;
+  }
+  // What a report that was never saved shall be called. Nothing when cancelled.
+  virtual std::optional<std::wstring> AskForName(const std::wstring& proposed) { return proposed; }
+  // The user wants to see how the file on disk differs from the report.
+  virtual void ShowDifferences(const Path&, const RVReport&) {}
   // The report list in its choosing mode, `current` preselected. Nothing when cancelled.
   virtual std::optional<std::wstring> ChooseReport(const std::wstring& current) = 0;
 };

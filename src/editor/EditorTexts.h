@@ -8,5 +8,7 @@ inline constexpr int kSaveChanges = 32472;  // a question
 inline constexpr int kReplaceDone = 34899;
 inline constexpr int kFormulasInCircle = 32445;
 inline constexpr int kDeletePageQuestion = 60448;
+inline constexpr int kPictureNotRead = 62450;
+inline constexpr int kNoPictureFile = 62451;
 
 }  // namespace xrpt::text

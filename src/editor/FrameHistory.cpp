@@ -80,7 +80,7 @@ void RVEditControlWnd::OnStepTaken(RVEditTemplateWnd& page, const UndoName& name
 }
 
 void RVEditControlWnd::Take(ReportStep step) {
-  if (step.changesReport) report_.modified = true;
+  if (step.changesReport) Touch();
   for (const auto& slot : pages_) {
     if (!step.Holds(*slot->window)) slot->window->ForgetRedo();
   }
@@ -89,7 +89,7 @@ void RVEditControlWnd::Take(ReportStep step) {
 }
 
 void RVEditControlWnd::OnStepJoined(RVEditTemplateWnd&) {
-  report_.modified = true;
+  Touch();
   port_.StateChanged();
 }
 
@@ -164,6 +164,7 @@ void RVEditControlWnd::MarkSaved() {
 
 // After going back or forth, or a step that came to nothing.
 void RVEditControlWnd::MarkByHistory(bool changesReport) {
+  ++changes_;
   if (options_.reportHistory) {
     report_.modified = history_.Serial() != savedSerial_;
   } else if (changesReport) {

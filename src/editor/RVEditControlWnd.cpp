@@ -4,8 +4,6 @@
 #include "editor/EditorTexts.h"
 #include "model/RVCardImage.h"
 #include "platform/Host.h"
-#include "platform/NamedFiles.h"
-#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -21,6 +19,7 @@ std::wstring RVEditControlWnd::Caption() const {
 
 // Whoever says so knows of a change that no step tells of: going back in the history does not take it back.
 void RVEditControlWnd::SetModified(bool modified) {
+  if (modified) Touch();
   report_.modified = modified;
   savedSerial_ = modified ? kNever : history_.Serial();
   port_.StateChanged();
@@ -28,96 +27,15 @@ void RVEditControlWnd::SetModified(bool modified) {
 
 // --- The report ---
 
-template <class Load>
-LoadResult RVEditControlWnd::LoadWith(const Load& load) {
-  DropPages();
-  report_.ResetDocuments();
-  LoadResult result = load(report_);
-  StartAnew();
-  port_.ReportOpened(result);
-  return result;
-}
-
-LoadResult RVEditControlWnd::Setup(const std::wstring& nameOrPath) {
-  return LoadWith([&](RVReport& report) { return report.Load(nameOrPath); });
-}
-
-LoadResult RVEditControlWnd::OpenFile(const Path& file, const std::wstring* askedName) {
-  return LoadWith([&](RVReport& report) { return report.LoadFile(file, askedName); });
-}
-
 void RVEditControlWnd::StartAnew() {
   history_.Clear();
   BuildPages();
   MarkSaved();
 }
 
-bool RVEditControlWnd::OpenFromList() {
-  if (!LetGoOfChanges()) return false;
-  const std::optional<std::wstring> chosen = port_.ChooseReport(report_.name);
-  if (!chosen || *chosen == report_.name) return false;
-  OpenByName(*chosen);
-  CurrentHost().settings->SetRegistryText(kLastReportValue, report_.name);
-  return true;
-}
-
-// A report of the list may be stored under its bare name, without an identifier before it.
-LoadResult RVEditControlWnd::OpenByName(const std::wstring& name) {
-  const Path folder = CurrentHost().setup->CfgPath();
-  if (FindNamedFile(folder, name, kReportEnding)) return Setup(name);
-  return Setup(FromUtf8((folder / ToUtf8(name + std::wstring(kReportEnding))).string()));
-}
-
-bool RVEditControlWnd::NewReport() {
-  if (!LetGoOfChanges()) return false;
-  DropPages();
-  report_ = RVReport();
-  StartAnew();
-  return true;
-}
-
-bool RVEditControlWnd::LetGoOfChanges() {
-  return !report_.modified || port_.Ask(text::kSaveChanges) == Answer::No || Save();
-}
-
-bool RVEditControlWnd::Save() {
-  EndEdits();
-  lastSave_ = report_.Save();
-  if (lastSave_) {
-    MarkSaved();
-    ReportListChanged();
-  }
-  port_.StateChanged();
-  return static_cast<bool>(lastSave_);
-}
-
-bool RVEditControlWnd::SaveAs(const std::wstring& name) {
-  report_.name = name;
-  report_.id = CurrentHost().guids->NewGuidText();
-  report_.modified = true;
-  return Save();
-}
-
-bool RVEditControlWnd::SaveUnderGeneratedName() {
-  const std::wstring former = std::exchange(report_.name, std::wstring());
-  const bool saved = Save();
-  if (!saved) report_.name = former;
-  return saved;
-}
-
 void RVEditControlWnd::Rename(const std::wstring& name) { Edit({text::kReportRenamed, 0}).Rename(name); }
 
-void RVEditControlWnd::ReportListChanged() { CurrentHost().identifiers->invalidateGuid(GuidKind::Reports, true); }
-
 // --- What changed elsewhere ---
-
-void RVEditControlWnd::StylesModified() {
-  ReportEdit edit = Edit({text::kStylesChanged, 0});
-  for (const auto& slot : pages_) slot->window->StylesModified();
-  edit.End();
-  ++resourcesSerial_;
-  port_.StateChanged();
-}
 
 void RVEditControlWnd::ImagesModified() {
   RVCardImage::ReLoadAllOriginalImages();
@@ -150,7 +68,7 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
       if (options_.returnsToPointer) SetTool(tool::kPointer);
       [[fallthrough]];
     case Message::CardAboutToBeDeleted:
-      report_.modified = true;
+      Touch();
       break;
     case Message::SelectionOrGeometryChanged:
     case Message::CardChanged:

@@ -9,11 +9,13 @@
 #include "canvas/InsertTools.h"
 #include "editor/EditorPort.h"
 #include "editor/ReportEdit.h"
+#include "editor/ReportGuard.h"
 #include "model/RVReport.h"
 #include "platform/Messages.h"
 
 namespace xrpt {
 
+struct StyleRenaming;
 struct TextChange;
 
 class RVEditControlWnd final : public MessageTarget, private PageHistoryListener {
@@ -30,24 +32,44 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   // The report's name, or the text for one that has none.
   std::wstring Caption() const;
 
-  // Opens by name or path; what could not be read opens as a new report, and the result says why.
+  // Opens by name or path; what could not be read opens as a new report, and the result says why. With guarded files it
+  // leaves the open report alone, and so does a user who would rather not open what somebody else has open.
   LoadResult Setup(const std::wstring& nameOrPath);
   // The same for a name of the report list.
   LoadResult OpenByName(const std::wstring& name);
   LoadResult OpenFile(const Path& file, const std::wstring* askedName);
+  // The file of the open report again, as it is on disk now.
+  LoadResult Reload();
+  // Work that an earlier session did not save: it counts as modified, and goes back to where it came from.
+  LoadResult OpenRecovered(const Recovered& work);
   // Asks about unsaved changes, lets the user choose, opens. False when nothing was opened.
   bool OpenFromList();
-  // Asks about unsaved changes, then starts an empty report. False when the user's save failed.
+  // Asks about unsaved changes, then starts an empty report. False when the user's save failed or the user cancelled.
   bool NewReport();
+  // Asks about unsaved changes before the end. True when nothing is left to be kept.
+  bool MayClose();
   // True when the report was written; what happened otherwise is the last save's to tell, and the report stays
   // modified.
   bool Save();
   const SaveResult& LastSave() const { return lastSave_; }
   // Under a name of the user's or the host's: a report of its own with a new identity.
   bool SaveAs(const std::wstring& name);
+  // The same in any file, which gives the name. Whoever chose the file knows whether it is there already.
+  bool SaveAsFile(const Path& file);
   // Under the next free reportN, keeping the identity.
   bool SaveUnderGeneratedName();
   void Rename(const std::wstring& name);
+
+  // --- Guarded files: for whoever has timers ---
+  // Keeps what is not saved where a crash cannot take it; costs nothing when nothing changed.
+  void KeepUnsaved();
+  // Every LockService::kBeatSeconds: says that we are still there. True when somebody took the report over.
+  bool Beat() { return guard_.Beat(); }
+  // Somebody else has the open report's file.
+  bool IsReadOnly() const { return guard_.IsReadOnly(); }
+  const LockHolder& Holder() const { return guard_.Holder(); }
+  // References to text styles that the next save will lose.
+  int LostStyles() const { return lostStyles_; }
 
   // --- Changes: one door, one history (see ReportEdit.h) ---
   ReportEdit Edit(UndoName name);
@@ -100,8 +122,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   int ZoomEntry() const;
   bool SetZoomEntry(int entry);
 
-  // Style files changed: every card reads its font again.
+  // Style files changed: every card reads its font again, and goes on using a style that has a new name now.
   void StylesModified();
+  void StylesModified(const std::vector<StyleRenaming>& renamings);
   // Pictures of the image store changed.
   void ImagesModified();
 
@@ -142,11 +165,22 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void OnStepRedone(RVEditTemplateWnd& page) override;
   void OnHistoryCleared(RVEditTemplateWnd& page) override { history_.PageCleared(page); }
 
-  // The report, see RVEditControlWnd.cpp
+  // The report, see FrameFiles.cpp
   template <class Load>
   LoadResult LoadWith(const Load& load);
-  // False when the user wanted to save and that failed.
+  std::optional<LockState> Enter(const LoadResult& result);
+  std::optional<LockState> LockOf(const Path& file);
+  void Show(RVReport report, const LockState& lock);
+  // False when the user wanted to save and that failed, or cancelled.
   bool LetGoOfChanges();
+  SaveResult SaveGuarded();
+  SaveResult Attempt();
+  SaveResult AfterRefusal(const SaveResult& refused);
+  bool Conclude(SaveResult result);
+  bool MayLoseStyles();
+  bool HasName();
+  template <class SaveIt>
+  bool SaveAsAnother(const std::wstring& name, const SaveIt& save);
   void ReportListChanged();
   void StartAnew();
   void OnKey(const MessageData& message);
@@ -168,6 +202,10 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void Apply(const ReportChange& change, bool back);
   void ShowPageOf(const ReportStep& step);
   XmlDocument& Table(ReportTable table);
+  void Touch() {
+    report_.modified = true;
+    ++changes_;
+  }
   void MarkSaved();
   void MarkByHistory(bool changesReport);
 
@@ -193,7 +231,10 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   MessageQueue queue_;
   RVReport report_;
   SaveResult lastSave_;
-  PageSlots pages_;  // one a page of the report, same order
+  ReportGuard guard_;
+  int lostStyles_ = 0;
+  std::uint64_t changes_ = 0;  // counts what may have changed the report, there and back
+  PageSlots pages_;            // one a page of the report, same order
   std::size_t current_ = 0;
   int tool_ = tool::kPointer;
   bool marksShown_ = true;

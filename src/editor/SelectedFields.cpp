@@ -4,7 +4,6 @@
 #include <memory>
 #include <set>
 
-#include "canvas/KeepOnPage.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -31,37 +30,41 @@ std::vector<const CardRow*> CommonRows(const std::vector<const RVCardControl*>& 
   return common;
 }
 
-std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
-  std::wstring text = row.text(*cards.front());
-  const bool same =
-      std::all_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.text(*card) == text; });
-  return same ? std::optional(std::move(text)) : std::nullopt;
+// A background is its picture and where that lies: it has no data, no colours and no movement.
+bool IsOfBackground(const CardRow& row) {
+  const FieldGroup group = row.panel.group;
+  return row.panel.editor == FieldEditor::Picture || group == FieldGroup::Geometry || group == FieldGroup::Alignment ||
+         group == FieldGroup::Scale;
 }
 
-// What a choice offers may hang on another field of the card.
-std::span<const Word> CommonWords(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
-  const std::span<const Word> words = row.WordsFor(*cards.front());
-  const bool same = std::all_of(cards.begin(), cards.end(),
-                                [&](const RVCardControl* card) { return row.WordsFor(*card).data() == words.data(); });
-  return same ? words : std::span<const Word>();
+// Fields that none of the cards has a use for are left out. An inner card fills its container, whatever its own place.
+bool IsOfUse(const CardRow& row, const std::vector<const RVCardControl*>& cards, FieldsOf whose) {
+  if (whose == FieldsOf::Alternative && row.panel.group == FieldGroup::Geometry) return false;
+  if (whose == FieldsOf::Background && !IsOfBackground(row)) return false;
+  return std::any_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.Applies(*card); });
+}
+
+std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  const auto same = [&](const RVCardControl* card) {
+    return row.same ? row.same(*cards.front(), *card) : row.text(*cards.front()) == row.text(*card);
+  };
+  return std::all_of(cards.begin() + 1, cards.end(), same) ? std::optional(row.text(*cards.front())) : std::nullopt;
 }
 
 FieldState StateOf(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
-  return {&row, CommonText(row, cards), CommonWords(row, cards)};
+  return {&row, CommonText(row, cards), row.WordsFor(*cards.front())};
 }
 
 // What people read: a word of a list in their language.
 std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
   const std::wstring text = row.text(card);
-  for (const Word& word : row.WordsFor(card)) {
+  for (const Word& word : row.words) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }
   return text;
 }
 
 }  // namespace
-
-namespace {
 
 const CardRow* StyleRow(const RVCardControl& card) {
   const CardRow* found = nullptr;
@@ -70,6 +73,8 @@ const CardRow* StyleRow(const RVCardControl& card) {
   });
   return found;
 }
+
+namespace {
 
 // What the card's style says of a field holds when the report is read again: an edit that it would take back lets go of
 // the style.
@@ -98,13 +103,6 @@ std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page) {
   return indexes;
 }
 
-std::vector<const RVCardControl*> SelectedFields::Cards() const {
-  const RVEditTemplateWnd& page = frame_.CurrentPage();
-  std::vector<const RVCardControl*> cards;
-  for (const std::size_t index : SelectedIndexes(page)) cards.push_back(&page.Page().cards[index]);
-  return cards;
-}
-
 int SelectedFields::KindTextId() const {
   const auto cards = Cards();
   if (cards.empty()) return 0;
@@ -117,14 +115,16 @@ int SelectedFields::KindTextId() const {
 std::vector<FieldState> SelectedFields::Fields() const {
   std::vector<FieldState> fields;
   const auto cards = Cards();
-  if (cards.empty()) {
+  if (IsAboutPage()) {
     const RVGlobalProperties& page = frame_.CurrentPage().Page().properties;
     ForEachField(RVGlobalProperties::Table(), [&](const PageRow& row) {
-      if (row.panel.textId != 0) fields.push_back({&row, row.text(page), row.WordsFor(page)});
+      if (row.panel.textId != 0) fields.push_back({&row, row.text(page), row.words});
     });
-    return fields;
   }
-  for (const CardRow* row : CommonRows(cards)) fields.push_back(StateOf(*row, cards));
+  if (cards.empty()) return fields;
+  for (const CardRow* row : CommonRows(cards)) {
+    if (IsOfUse(*row, cards, whose_)) fields.push_back(StateOf(*row, cards));
+  }
   return fields;
 }
 
@@ -138,19 +138,18 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
 }
 
 void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
-  RVEditTemplateWnd& page = frame_.CurrentPage();
-  const std::vector<std::size_t> indexes = SelectedIndexes(page);
-  if (indexes.empty()) return AssignToPage(page, row, text);
-  const CardRow* common = RowOfTable(page.Page().cards[indexes.front()].GetRuntimeClass().table, row);
+  if (IsAboutPage()) return AssignToPage(frame_.CurrentPage(), row, text);
+  const auto cards = Cards();
+  const CardRow* common = cards.empty() ? nullptr : RowOfTable(cards.front()->GetRuntimeClass().table, row);
   if (!common) return;
-  PageEdit edit = page.Edit({text::kChangeField, static_cast<int>(indexes.size()), row.panel.textId}, row.FullName());
-  const RVGlobalProperties& properties = page.Page().properties;
-  for (const std::size_t index : indexes) {
-    RVCardControl& card = edit.Card(index);
-    const CardRect before = RectOf(card);
-    AssignToCard(card, *common, text);
-    if (RectOf(card) != before) SetRect(card, KeepOnPage(RectOf(card), before, {properties.width, properties.height}));
-  }
+  ChangeMeant(frame_, whose_, {text::kChangeField, static_cast<int>(cards.size()), row.panel.textId}, JoinKeyOf(row),
+              [&](RVCardControl& card) { AssignToCard(card, *common, text); });
+}
+
+// A row without a name in the file has one on the panel.
+JoinKey SelectedFields::JoinKeyOf(const FieldRow& row) const {
+  const JoinKey field = row.name ? row.FullName() : "#" + std::to_string(row.panel.textId);
+  return whose_ == FieldsOf::Selection ? field : std::to_string(static_cast<int>(whose_)) + field;
 }
 
 void SelectedFields::AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text) {

@@ -4,33 +4,33 @@
 
 #include <functional>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "editor/MeantCards.h"
 #include "model/RVCardControl.h"
 
 namespace xrpt {
 
-class RVEditControlWnd;
 class RVEditTemplateWnd;
 
 struct FieldState {
   const FieldRow* row;
   std::optional<std::wstring> text;  // nothing: the cards differ
-  std::span<const Word> words;       // of a choice; empty where the cards have different ones
+  std::span<const Word> words;       // of a choice
 };
 
 class SelectedFields {
  public:
-  explicit SelectedFields(RVEditControlWnd& frame) : frame_(frame) {}
+  explicit SelectedFields(RVEditControlWnd& frame, FieldsOf whose = FieldsOf::Selection)
+      : frame_(frame), whose_(whose) {}
 
   // How many cards are meant; 0: the page is.
   std::size_t Count() const { return Cards().size(); }
   // The cards' kind when all are of one, else 0 (0 for the page, too).
   int KindTextId() const;
-  // Those that a panel shows, in the tables' order.
+  // Those that a panel shows, in the tables' order: no field that does nothing for any of the cards.
   std::vector<FieldState> Fields() const;
   // One field by its full name ("font/size"), when all have it.
   std::optional<FieldState> Find(std::string_view name) const;
@@ -42,16 +42,22 @@ class SelectedFields {
   void Commit();
 
  private:
-  std::vector<const RVCardControl*> Cards() const;
+  JoinKey JoinKeyOf(const FieldRow& row) const;
+  bool IsAboutPage() const { return whose_ == FieldsOf::Selection && Count() == 0; }
+  std::vector<const RVCardControl*> Cards() const { return MeantCards(frame_, whose_); }
 
   static void AssignToPage(RVEditTemplateWnd& page, const FieldRow& row, std::string_view text);
 
   RVEditControlWnd& frame_;
+  FieldsOf whose_;
 };
 
 // Writes a text into one field of a card. A style's name alone changes nothing to see: the card takes its font, too. A
 // field that the card's style governs lets go of the style.
 void AssignToCard(RVCardControl& card, const CardRow& row, std::string_view text);
+
+// The row of the style that a kind of card takes its font from; null for a kind without.
+const CardRow* StyleRow(const RVCardControl& card);
 
 // Where the selected cards of a page stand, in selection order.
 std::vector<std::size_t> SelectedIndexes(const RVEditTemplateWnd& page);

@@ -63,16 +63,10 @@ void MoveFile(const Path& from, const Path& to) {
   if (!files.Rename(from, to)) files.Remove(from);
 }
 
-bool SaveDocument(XmlDocument& document, const std::wstring& id, const std::wstring& name) {
+SaveResult SaveDocument(XmlDocument& document, const std::wstring& id, const std::wstring& name) {
   CurrentHost().files->CreateFolder(Folder());
   document.SetFileName(NamedFilePath(Folder(), id, name, kStyleEnding));
-  return static_cast<bool>(document.Save());
-}
-
-std::vector<std::wstring> Names() {
-  std::vector<std::wstring> names;
-  for (StyleListRow& row : ListStyles()) names.push_back(std::move(row.name));
-  return names;
+  return document.Save();
 }
 
 // The name under which a style of the clipboard was saved; empty when its name cannot be a style's.
@@ -103,16 +97,25 @@ bool tagStyleCfg::operator==(const tagStyleCfg& other) const {
 
 bool IsValidId(std::wstring_view name) { return IsSafeFileName(name) && ToUtf8(name).size() <= kLongestName; }
 
-std::vector<StyleListRow> ListStyles() {
-  std::vector<StyleListRow> rows;
+std::vector<tagStyleCfg> ListStyles() {
+  std::vector<tagStyleCfg> rows;
   for (const Path& file : CurrentHost().files->List(Folder(), kStyleEnding)) {
     XmlDocument document;
     if (!document.Load(file) || !document.Node("font")) continue;
-    const std::wstring color = document.Node("font").Value("color", L"000000");
-    rows.push_back({document.Root().Value("name"), ParseColor(color)});
+    tagStyleCfg& row = rows.emplace_back();
+    row.name = document.Root().Value("name");
+    ReadFields(tagStyleCfg::Table(), row, document.Root());
   }
   return rows;
 }
+
+std::vector<std::wstring> StyleNames() {
+  std::vector<std::wstring> names;
+  for (tagStyleCfg& row : ListStyles()) names.push_back(std::move(row.name));
+  return names;
+}
+
+bool HasStyle(const std::wstring& name) { return FileOf(name).has_value(); }
 
 tagStyleCfg OpenStyle(const std::wstring& name) {
   tagStyleCfg style;
@@ -133,7 +136,7 @@ int CheckStyle(const tagStyleCfg& style, const StyleEdit& edit) {
 
 // A copy under another name becomes a style of its own: two styles must not share an identifier. A style that another
 // one takes the name of goes, for it could not be found any more.
-bool SaveStyle(const tagStyleCfg& style, const StyleEdit& edit) {
+SaveResult SaveStyle(const tagStyleCfg& style, const StyleEdit& edit) {
   const std::wstring& formerName = edit.openedName.empty() ? style.name : edit.openedName;
   const bool renamed = formerName != style.name;
   const std::optional<Path> replaced = renamed ? FileOf(style.name) : std::nullopt;
@@ -147,7 +150,7 @@ bool SaveStyle(const tagStyleCfg& style, const StyleEdit& edit) {
     MoveFile(NamedFilePath(Folder(), id, formerName, kStyleEnding),
              NamedFilePath(Folder(), id, style.name, kStyleEnding));
   }
-  const bool saved = SaveDocument(document, id, style.name);
+  const SaveResult saved = SaveDocument(document, id, style.name);
   if (saved && replaced && *replaced != document.FileName()) CurrentHost().files->Remove(*replaced);
   TellHost();
   return saved;
@@ -178,7 +181,7 @@ std::vector<std::wstring> PasteStyles(std::string clipboard) {
   while (!clipboard.empty() && clipboard.back() == '\0') clipboard.pop_back();
   XmlDocument document;
   if (!document.Parse(std::move(clipboard)) || document.Root().Tag() != kClipboardRoot) return pasted;
-  std::vector<std::wstring> taken = Names();
+  std::vector<std::wstring> taken = StyleNames();
   for (const XmlNode& child : document.Root()) {
     if (child.Tag() != "style") continue;
     const std::wstring name = PasteStyle(child, taken);

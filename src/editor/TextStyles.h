@@ -7,6 +7,7 @@
 
 #include "model/FieldTable.h"
 #include "platform/Color.h"
+#include "platform/Files.h"
 #include "platform/Fonts.h"
 #include "platform/SystemNames.h"
 
@@ -24,10 +25,10 @@ struct tagStyleCfg {
   Color color = kBlack;
 };
 
-// One line of the list.
-struct StyleListRow {
-  std::wstring name;
-  Color color = kBlack;
+// A style that goes by another name now.
+struct StyleRenaming {
+  std::wstring from;
+  std::wstring to;
 };
 
 // How an edit began and what it may do.
@@ -49,15 +50,16 @@ inline constexpr int kStyleNameNotValid = 32764;
 bool IsValidId(std::wstring_view name);
 
 // Styles of the configuration folder that can be read and have a font.
-std::vector<StyleListRow> ListStyles();
+std::vector<tagStyleCfg> ListStyles();
+std::vector<std::wstring> StyleNames();
+bool HasStyle(const std::wstring& name);
 // The style of a name; a new one's values for an empty name or a file that cannot be read.
 tagStyleCfg OpenStyle(const std::wstring& name);
 // 0 when the style can be saved, else the text id of the message; kAskOverwriteStyle is a question, and anything but No
 // allows saving.
 int CheckStyle(const tagStyleCfg& style, const StyleEdit& edit);
-// Saves a style that was checked. A renamed style keeps its identifier, and its file moves. False when the file could
-// not be written; the file service has logged why.
-bool SaveStyle(const tagStyleCfg& style, const StyleEdit& edit);
+// Saves a style that was checked. A renamed style keeps its identifier, and its file moves.
+SaveResult SaveStyle(const tagStyleCfg& style, const StyleEdit& edit);
 // Deletes the files; how many there were.
 int RemoveStyles(const std::vector<std::wstring>& names);
 

@@ -4,6 +4,7 @@
 
 #include "host/DeviceFile.h"
 #include "host/DiskFiles.h"
+#include "host/FileLocks.h"
 #include "host/FileLogger.h"
 #include "host/FileStyles.h"
 #include "host/FixedScreen.h"
@@ -17,6 +18,7 @@
 #include "host/PlainFonts.h"
 #include "host/PlantVariables.h"
 #include "host/RandomGuids.h"
+#include "host/RecoveryStore.h"
 #include "host/SystemLocale.h"
 #include "host/TextCatalogue.h"
 #include "host/VariableNames.h"
@@ -64,6 +66,13 @@ void AddScreenAndPaper(Host& host, const HostOptions& options) {
 
 }  // namespace
 
+void LimitPictures(Host& host, const HostOptions& options) {
+  constexpr int kUsual = PictureMemory::kUsualLimit >> 20;
+  const int wanted = options.pictureMegabytes > 0 ? options.pictureMegabytes
+                                                  : host.settings->ProfileInt(L"Pictures", L"MemoryMegabytes", kUsual);
+  host.pictureStore.Memory()->SetLimit(static_cast<std::size_t>(std::clamp(wanted, 16, 16384)) << 20);
+}
+
 HostOptions WithUserFolders(HostOptions options) {
   const Path user = UserFolder("XDG_CONFIG_HOME", ".config");
   if (options.settingsFile.empty()) options.settingsFile = user / "settings.ini";
@@ -79,6 +88,8 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->setup = std::make_unique<FixedSetup>(options.cfgFolder, options.imagesFolder);
   host->logger = std::make_unique<FileLogger>(options.stateFolder, options.logToStderr);
   host->files = std::make_unique<DiskFiles>(*host, options.stateFolder);
+  host->locks = std::make_unique<FileLocks>();
+  host->recovery = std::make_unique<RecoveryStore>(*host, options.stateFolder);
   host->texts = std::make_unique<TextCatalogue>(LanguageFrom(options.language));
   host->settings = std::make_unique<IniSettings>(*host, options.settingsFile);
   host->guids = std::make_unique<RandomGuids>();
@@ -88,6 +99,7 @@ std::unique_ptr<Host> MakeDefaultHost(HostOptions given) {
   host->debugInfo = std::make_unique<WarningList>();
   AddStyles(*host);
   AddScreenAndPaper(*host, options);
+  LimitPictures(*host, options);
   return host;
 }
 

@@ -16,7 +16,11 @@ struct HostOptions {
   std::string language;  // "es", "en_GB.UTF-8" ...; empty: as the environment says
   int dpi = 0;           // of the screen; 0: the screen's own, or 96 without one
   bool logToStderr = true;
+  int pictureMegabytes = 0;  // for all decoded pictures together; 0: as the user's settings say
 };
+
+// Sets the pictures' limit by the options, or by the value "MemoryMegabytes" of the settings' section "Pictures".
+void LimitPictures(Host& host, const HostOptions& options);
 
 // Replace any service of the result before installing it.
 std::unique_ptr<Host> MakeDefaultHost(HostOptions options);

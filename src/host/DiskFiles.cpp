@@ -33,7 +33,7 @@ Path InState(const Path& stateFolder, const Path& file) {
   std::error_code ignored;
   const std::string whole = fs::absolute(file, ignored).string();
   const std::string name = file.filename().string().substr(0, 200);
-  return stateFolder / "recovered" / (name + "-" + Hex(std::hash<std::string>()(whole)) + kBesideEnding);
+  return stateFolder / kKeptFolder / (name + "-" + Hex(std::hash<std::string>()(whole)) + kBesideEnding);
 }
 
 }  // namespace
@@ -123,8 +123,8 @@ FileStamp DiskFiles::Stamp(const Path& file) {
 
 std::vector<Path> DiskFiles::ClearLeftovers(const Path& folder) {
   std::vector<Path> cleared;
-  for (const Path& file : FindLeftovers(folder)) {
-    if (Remove(file)) cleared.push_back(file);
+  for (const std::vector<Path>& found : {FindLeftovers(folder), FindOldRecoveries(folder)}) {
+    std::copy_if(found.begin(), found.end(), std::back_inserter(cleared), [this](const Path& f) { return Remove(f); });
   }
   return cleared;
 }

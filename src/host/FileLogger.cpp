@@ -26,20 +26,12 @@ std::string Now() {
 
 }  // namespace
 
-std::string LogLine(std::wstring_view message) {
-  std::wstring line(message);
-  for (wchar_t& c : line) {
-    if (c < 0x20 || (c >= 0x7F && c < 0xA0)) c = L' ';
-  }
-  return ToUtf8(line);
-}
-
 FileLogger::~FileLogger() {
   if (file_) std::fclose(file_);
 }
 
 void FileLogger::Log(int severity, std::wstring_view message) {
-  const std::string line = LogLine(message);
+  const std::string line = ForTerminal(ToUtf8(message));
   if (toStderr_ && severity >= kWarning) std::fprintf(stderr, "%s: %s\n", WordFor(severity), line.c_str());
   {
     const std::lock_guard lock(mutex_);

@@ -21,7 +21,8 @@ class FileLogger final : public LoggerService {
 
   int Add(List::Function listener) { return listeners_.Add(std::move(listener)); }
   void Remove(int number) { listeners_.Remove(number); }
-  // From any thread. A log that cannot be written is given up silently: there is nowhere left to say so.
+  // From any thread, as one line that no terminal takes for a command. A log that cannot be written is given up
+  // silently: there is nowhere left to say so.
   void Log(int severity, std::wstring_view message) override;
 
  private:
@@ -36,8 +37,5 @@ class FileLogger final : public LoggerService {
   std::FILE* file_ = nullptr;
   List listeners_;
 };
-
-// A message as one line that no terminal takes for a command: control characters become spaces.
-std::string LogLine(std::wstring_view message);
 
 }  // namespace xrpt

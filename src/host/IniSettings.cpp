@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/SetAside.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 
@@ -47,7 +48,8 @@ std::wstring_view CutLine(std::wstring_view& rest) {
 
 }  // namespace
 
-IniSections ParseIni(std::string_view bytes) {
+IniSections ParseIni(std::string_view bytes, bool* isWhole) {
+  bool whole = FindInvalidUtf8(bytes) == std::string_view::npos;
   IniSections sections;
   std::wstring section;
   const std::wstring text = FromUtf8(bytes);
@@ -56,10 +58,13 @@ IniSections ParseIni(std::string_view bytes) {
     const std::size_t equals = line.find(L'=');
     if (line.size() > 1 && line.front() == L'[' && line.back() == L']') {
       section = Unescaped(line.substr(1, line.size() - 2));
-    } else if (equals != std::wstring_view::npos && line.front() != L';') {
+    } else if (!line.empty() && line.front() != L';') {
+      whole = whole && equals != std::wstring_view::npos;
+      if (equals == std::wstring_view::npos) continue;
       sections[section][Unescaped(line.substr(0, equals))] = Unescaped(line.substr(equals + 1));
     }
   }
+  if (isWhole) *isWhole = whole;
   return sections;
 }
 
@@ -72,9 +77,11 @@ std::string WriteIni(const IniSections& sections) {
   return ToUtf8(text);
 }
 
-IniSections IniSettings::Load() const {
+IniSections IniSettings::Load(bool* isWhole) const {
   const std::optional<std::string> bytes = host_.files->Read(file_, kLimit);
-  return bytes ? ParseIni(*bytes) : IniSections();
+  if (bytes) return ParseIni(*bytes, isWhole);
+  if (isWhole) *isWhole = !host_.files->Stamp(file_).exists;
+  return {};
 }
 
 const std::wstring* IniSettings::Find(std::wstring_view section, std::wstring_view name) const {
@@ -121,7 +128,9 @@ void IniSettings::SetProfileText(std::wstring_view section, std::wstring_view na
 void IniSettings::Flush() {
   const std::lock_guard lock(mutex_);
   if (changed_.empty()) return;
-  IniSections all = Load();
+  bool isWhole = true;
+  IniSections all = Load(&isWhole);
+  if (!isWhole && !SetAside(file_, *host_.logger)) return;
   for (const auto& [section, values] : changed_) {
     for (const auto& [name, value] : values) all[section][name] = value;
   }

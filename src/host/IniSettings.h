@@ -1,5 +1,6 @@
 // The user's settings in one small text file: [section], name=value, UTF-8. Stands in for the registry and the profile
-// where there is neither; what another running editor wrote meanwhile is kept.
+// where there is neither; what another running editor wrote meanwhile is kept, and a file that is not all settings is
+// set aside before it is replaced.
 #pragma once
 
 #include <map>
@@ -12,8 +13,9 @@ namespace xrpt {
 using IniSection = std::map<std::wstring, std::wstring, std::less<>>;
 using IniSections = std::map<std::wstring, IniSection, std::less<>>;
 
-// Lines that are neither a section nor a value are skipped.
-IniSections ParseIni(std::string_view bytes);
+// Lines that are neither a section nor a value are skipped; `isWhole` receives whether there were none and all was
+// UTF-8.
+IniSections ParseIni(std::string_view bytes, bool* isWhole = nullptr);
 std::string WriteIni(const IniSections& sections);
 
 class IniSettings final : public SettingsService {
@@ -32,7 +34,7 @@ class IniSettings final : public SettingsService {
   void Flush();
 
  private:
-  IniSections Load() const;
+  IniSections Load(bool* isWhole = nullptr) const;
   const std::wstring* Find(std::wstring_view section, std::wstring_view name) const;
 
   Host& host_;

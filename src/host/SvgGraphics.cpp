@@ -255,7 +255,8 @@ void SvgGraphics::DrawText(const TextRun& run) {
 std::string SvgGraphics::NameOf(const PicturePtr& picture) {
   const auto [found, isNew] = pictures_.try_emplace(picture);
   if (!isNew) return found->second;
-  const std::string png = EncodePng(*picture);
+  const PicturePtr pixels = WithPixels(picture);
+  const std::string png = pixels ? EncodePng(*pixels) : std::string();
   if (png.empty()) return {};
   found->second = "p" + std::to_string(pictures_.size());
   out_ += "<defs><image" + Attribute("id", found->second) + Attribute("width", picture->width);

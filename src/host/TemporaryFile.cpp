@@ -13,24 +13,25 @@ constexpr std::string_view kPrefix = ".xrpt-";
 constexpr std::string_view kEnding = ".tmp";
 constexpr int kAttempts = 8;
 
-enum class Lock { Mine, Others, NotToBeHad };
+}  // namespace
 
-Lock TryLock(int descriptor) {
-  if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) return Lock::Mine;
-  return errno == EWOULDBLOCK ? Lock::Others : Lock::NotToBeHad;
+FileLock TryLock(int descriptor) {
+  if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) return FileLock::Mine;
+  return errno == EWOULDBLOCK ? FileLock::Others : FileLock::NotToBeHad;
 }
 
-// Only where the file system can say so in one step is nothing replaced for certain.
+// Most file systems can do it in one step; others can give a file a second name. Only where neither works may somebody
+// come in between.
 int RenameToFreeName(const char* from, const char* to) {
   if (::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) return 0;
   if (errno != EINVAL && errno != ENOSYS) return -1;
+  if (::link(from, to) == 0) return ::unlink(from);
+  if (errno == EEXIST) return -1;
   struct stat found {};
   if (::lstat(to, &found) != 0) return ::rename(from, to);
   errno = EEXIST;
   return -1;
 }
-
-}  // namespace
 
 TemporaryFile::~TemporaryFile() {
   if (!name_.empty()) ::unlink(name_.c_str());
@@ -54,7 +55,7 @@ std::error_code TemporaryFile::Create(const Path& target, mode_t mode) {
 TemporaryFile::Attempt TemporaryFile::Try(const Path& name, mode_t mode) {
   file_ = OpenFile(name, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
   if (!file_) return errno == EEXIST ? Attempt::TakenAway : Attempt::Failed;
-  if (TryLock(file_.Descriptor()) != Lock::Others && IsStillThere()) return Attempt::Made;
+  if (TryLock(file_.Descriptor()) != FileLock::Others && IsStillThere()) return Attempt::Made;
   ::unlink(name.c_str());
   return Attempt::TakenAway;
 }
@@ -79,11 +80,11 @@ bool IsAbandoned(const Path& temporary) {
   const OpenFile file(temporary, O_RDWR | O_NOFOLLOW | O_NONBLOCK);
   if (!file) return IsOfAge(temporary, kTemporaryAge);
   switch (TryLock(file.Descriptor())) {
-    case Lock::Mine:
+    case FileLock::Mine:
       return true;
-    case Lock::Others:
+    case FileLock::Others:
       return false;
-    case Lock::NotToBeHad:
+    case FileLock::NotToBeHad:
       break;
   }
   return IsOfAge(temporary, kTemporaryAge);

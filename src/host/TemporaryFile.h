@@ -20,6 +20,8 @@ class TemporaryFile {
   int Descriptor() const { return file_.Descriptor(); }
   // Takes the target's place; or only its name, when nothing may be replaced (`Changed` then).
   std::error_code RenameTo(const Path& target, bool mayReplace);
+  // The open file, whose lock lasts as long as it.
+  OpenFile Take() { return std::move(file_); }
 
  private:
   enum class Attempt { Made, TakenAway, Failed };
@@ -29,6 +31,12 @@ class TemporaryFile {
   Path name_;
   OpenFile file_;
 };
+
+enum class FileLock { Mine, Others, NotToBeHad };
+// Locks an open file against every process that can ask for it; not to be had where the file system knows no locks.
+FileLock TryLock(int descriptor);
+// Fails with EEXIST when the name is taken.
+int RenameToFreeName(const char* from, const char* to);
 
 // Whether a file name is that of a temporary file of ours.
 bool IsTemporaryName(std::string_view name);

@@ -226,6 +226,28 @@ constexpr RowOf<Owner> Irregular(const char* name = nullptr) {
   return NotCompared(ReadBy<Owner, Read>(WriteBy<Owner, Write>(row)));
 }
 
+// A value that people know by one text, however the file holds it: `void Assign(std::string_view)` and
+// `std::wstring Text() const`.
+template <class Owner, auto Assign, auto Text>
+constexpr RowOf<Owner> KnownBy(RowOf<Owner> row, const FieldPanel& panel) {
+  using Root = typename Owner::FieldRoot;
+  row.panel = panel;
+  row.assign = [](Root& object, std::string_view text) { (detail::As<Owner>(object).*Assign)(text); };
+  row.text = [](const Root& object) { return (detail::As<Owner>(object).*Text)(); };
+  return row;
+}
+
+// Another way to what other rows hold: without a name, for it is not in the file, and never what tells two objects
+// apart.
+template <class Owner>
+constexpr RowOf<Owner> OtherWay() {
+  using Root = typename Owner::FieldRoot;
+  RowOf<Owner> row;
+  row.equal = [](const Root&, const Root&) { return true; };
+  row.same = row.equal;
+  return row;
+}
+
 // Read after the rows before it, which it completes.
 template <class Owner, auto Read>
 constexpr RowOf<Owner> ReadAfter() {

@@ -17,7 +17,21 @@
 namespace xrpt {
 
 // How a property panel lets the user edit a field.
-enum class FieldEditor { None, Text, Lines, Check, Decimal, Integer, Color, Choice, FontFace, Style, Angle, Variable };
+enum class FieldEditor {
+  None,
+  Text,
+  Lines,
+  Check,
+  Decimal,
+  Integer,
+  Color,
+  Choice,
+  FontFace,
+  Style,
+  Angle,
+  Variable,
+  Picture
+};
 
 // Panels show fields in these groups, in this order.
 enum class FieldGroup { Geometry, Content, Font, Alignment, Colors, Format, Animation, Scale, Series, Page };

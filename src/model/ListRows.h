@@ -72,6 +72,13 @@ constexpr ListOf<Root> NotRemoved(ListOf<Root> row) {
   return row;
 }
 
+// What a new item's entry begins with.
+template <class Root>
+constexpr ListOf<Root> Beginning(const char* fresh, ListOf<Root> row) {
+  row.fresh = fresh;
+  return row;
+}
+
 template <class Root>
 constexpr ListOf<Root> Needs(const char* name, ListOf<Root> row) {
   row.needs = name;

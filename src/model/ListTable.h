@@ -14,6 +14,7 @@ namespace xrpt {
 template <class Root>
 struct ListOf : FieldRow {
   const char* needs = nullptr;  // a group is read only when the item has this element too
+  const char* fresh = nullptr;  // what a new item begins with; null: as a missing element
   bool removed = true;          // whether the entry goes with its item
   std::span<const Word> (*wordsOf)(const Root& object, std::size_t index) = nullptr;
 
@@ -28,6 +29,7 @@ struct ListOf : FieldRow {
   bool (*equal)(const Root& left, const Root& right) = nullptr;  // as in a field's row
   bool (*same)(const Root& left, const Root& right) = nullptr;
 
+  const char* Fresh() const { return fresh ? fresh : missing ? missing : ""; }
   bool Has(const Root& object, std::size_t index) const { return index < size(object); }
   std::span<const Word> WordsFor(const Root& object, std::size_t index) const {
     return wordsOf ? wordsOf(object, index) : words;

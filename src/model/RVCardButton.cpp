@@ -1,7 +1,9 @@
 #include "model/RVCardButton.h"
 
 #include "model/StyleReference.h"
+#include "platform/PictureName.h"
 #include "platform/SystemNames.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -22,6 +24,8 @@ std::span<const CardRow> RVCardButton::Rows() {
   static constexpr CardRow kRows[] = {
       Field<Button, VisualizationCodec, &Button::visualization>(
           nullptr, "visualization", nullptr, {text::kVisualization, FieldGroup::Content, FieldEditor::Choice}),
+      Only<Button, &Button::IsImage>(KnownBy<Button, &Button::AssignPicture, &Button::PictureName>(
+          OtherWay<Button>(), {text::kPicture, FieldGroup::Content, FieldEditor::Picture})),
       Only<Button, &Button::IsButton>(
           Constant<Button>(nullptr, [](const RVCardControl&, XmlWriter& out) { out.Bool("button", true); })),
       // A missing caption reads as none, not as a new button's.
@@ -40,11 +44,11 @@ std::span<const CardRow> RVCardButton::Rows() {
       Only<Button, &Button::HasTextPart>(ReadBy<Button, &Button::ReadStyle>(
           WriteBy<Button, &Button::WriteStyle>(Field<Button, codec::String, &Button::styleName>(
               nullptr, "style", nullptr, {text::kStyle, FieldGroup::Font, FieldEditor::Style})))),
-      Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(Field<Button, codec::String, &Button::imageId>(
-          "image", "imageId", "", {text::kImageId, FieldGroup::Content, FieldEditor::Text}))),
+      Only<Button, &Button::IsImage>(
+          When<Button, &Button::HasImageId>(Field<Button, codec::String, &Button::imageId>("image", "imageId", ""))),
       Only<Button, &Button::IsImage>(When<Button, &Button::HasImageId>(
           NotCompared(Field<Button, codec::String, &Button::imagePath, &NotCopied<std::wstring>::value>(
-              "image", "imagePath", "", {text::kImagePath, FieldGroup::Content, FieldEditor::Text})))),
+              "image", "imagePath", "")))),
       ComparedBy<Button, &Button::EqualPicture, &Button::SamePicture>(
           Only<Button, &Button::IsImage>(ReadAfter<Button, &Button::ReadImage>())),
       Only<Button, &Button::IsAligned>(aligned[0]),
@@ -78,7 +82,7 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(*Services().styles, reference, styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }
@@ -86,6 +90,16 @@ void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Servi
 void RVCardButton::ReadImage(const XmlNode& node) {
   if (node.Node("image")) LoadImage();
 }
+
+void RVCardButton::AssignPicture(std::string_view name) {
+  const PictureKey key = ParsePictureName(FromUtf8(name));
+  imageId = key.id;
+  imagePath.value = key.id.empty() ? std::wstring() : key.path;
+  image_.reset();
+  if (!imageId.empty()) LoadImage();
+}
+
+std::wstring RVCardButton::PictureName() const { return xrpt::PictureName({imageId, imagePath.value}); }
 
 void RVCardButton::LoadImage() {
   ImageRecordPtr record = Services().pictureStore.Attach(imageId, imagePath.value);
@@ -105,7 +119,10 @@ bool EqualSampled(const PicturePtr& left, const PicturePtr& right) {
   if (!left || !right) return false;
   const bool sameSize =
       left->encodedSize == right->encodedSize && left->width == right->width && left->height == right->height;
-  return sameSize && (left->height == 0 || (SameRow(*left, *right, 0) && SameRow(*left, *right, left->height / 2)));
+  if (!sameSize || left->height == 0) return sameSize;
+  const PicturePtr a = WithPixels(left);
+  const PicturePtr b = WithPixels(right);
+  return a && b && SameRow(*a, *b, 0) && SameRow(*a, *b, left->height / 2);
 }
 
 }  // namespace xrpt

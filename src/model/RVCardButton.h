@@ -29,6 +29,9 @@ class RVCardButton : public RVCardControl {
 
   // Takes the picture that id and path name. One that cannot be read leaves the card the picture it has.
   void LoadImage();
+  // The picture as people name it (see PictureName); nothing lets go of it.
+  void AssignPicture(std::string_view name);
+  std::wstring PictureName() const;
   // Null without one.
   PicturePtr GetPicture() const { return image_ ? image_->Current() : nullptr; }
 

@@ -116,6 +116,13 @@ void RVCardConditioned::Clear() {
   Initialize();
 }
 
+void RVCardConditioned::AddAlternative(CardPointer card) {
+  card->SetParent(parent);
+  cards.push_back(std::move(card));
+  conditions.resize(cards.size());
+  current = static_cast<std::int32_t>(cards.size()) - 1;
+}
+
 bool RVCardConditioned::DeleteCondition(std::int32_t index) {
   const auto count = static_cast<std::int32_t>(cards.size());
   if (index < 0 || index >= count) return false;

@@ -31,6 +31,8 @@ class RVCardConditioned : public RVCardControl {
   void Initialize();
   // Lets go of all alternatives.
   void Clear();
+  // Adds an alternative behind the others, without a condition, and shows it.
+  void AddAlternative(std::unique_ptr<RVCardControl> card);
   // Removes one alternative; false for an index that names none.
   bool DeleteCondition(std::int32_t index);
   static const ListTable<RVCardControl>& Conditions();

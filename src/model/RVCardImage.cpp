@@ -1,5 +1,8 @@
 #include "model/RVCardImage.h"
 
+#include "platform/PictureName.h"
+#include "platform/Text.h"
+
 namespace xrpt {
 namespace {
 
@@ -13,8 +16,10 @@ std::span<const CardRow> RVCardImage::Rows() {
   using Image = RVCardImage;
   static constexpr auto kRows = JoinRows(
       // Id and path name one thing together, so they are read and written together.
-      RowsOf(ComparedBy<Image, &Image::EqualImage, &Image::SameImage>(
-          Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image"))),
+      RowsOf(KnownBy<Image, &Image::AssignPicture, &Image::PictureName>(
+          ComparedBy<Image, &Image::EqualImage, &Image::SameImage>(
+              Irregular<Image, &Image::ReadImage, &Image::WriteImage>("image")),
+          {text::kPicture, FieldGroup::Content, FieldEditor::Picture})),
       AlignmentRows<Image, &Image::horizontalAlign, &Image::verticalAlign>(),
       ScalingRows<Image, &Image::maintainAspectRatio, &Image::maintainRealSize>(),
       AnimationRows<Image, &Image::animation, &Image::IsAnimated>());
@@ -52,6 +57,13 @@ bool RVCardImage::ReLoadOriginalImage() {
 }
 
 void RVCardImage::ReLoadAllOriginalImages() { InstalledServices().pictureStore.ReloadAll(); }
+
+void RVCardImage::AssignPicture(std::string_view name) {
+  const PictureKey key = ParsePictureName(FromUtf8(name));
+  key.id.empty() ? DeleteOriginalImage() : LoadOriginalImage(key.id, key.path);
+}
+
+std::wstring RVCardImage::PictureName() const { return xrpt::PictureName({ImageId(), ImagePath()}); }
 
 void RVCardImage::ReadImage(const XmlNode& image) {
   if (image) LoadOriginalImage(image.Value("imageId"), image.Value("imagePath"));

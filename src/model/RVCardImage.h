@@ -38,6 +38,10 @@ class RVCardImage : public RVCardControl {
   bool maintainRealSize = false;
   Animation animation;
 
+  // The picture as people name it (see PictureName); nothing lets go of it.
+  void AssignPicture(std::string_view name);
+  std::wstring PictureName() const;
+
  private:
   static std::span<const CardRow> Rows();
   void ReadImage(const XmlNode& image);

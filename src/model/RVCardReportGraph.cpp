@@ -51,8 +51,8 @@ const ListTable<RVCardControl>& RVCardReportGraph::Series() {
       NotRemoved(NotCompared(
           ShownBy<Graph, &Graph::LineStyleText, &Graph::LineStyleWords>(List<Graph, LineStyleCodec, &Graph::lineStyles>(
               nullptr, "style", nullptr, SeriesPanel(text::kLineStyle, FieldEditor::Choice))))),
-      NotRemoved(NotCompared(List<Graph, codec::Integer, &Graph::widths>(
-          nullptr, "width", nullptr, SeriesPanel(text::kLineWidth, FieldEditor::Integer)))),
+      Beginning("1", NotRemoved(NotCompared(List<Graph, codec::Integer, &Graph::widths>(
+                         nullptr, "width", nullptr, SeriesPanel(text::kLineWidth, FieldEditor::Integer))))),
       Bound<codec::Bool, &Graph::fminBind>("fminbind", "F", text::kFixMinimum, FieldEditor::Check),
       Bound<codec::Bool, &Graph::fmaxBind>("fmaxbind", "F", text::kFixMaximum, FieldEditor::Check),
       Bound<codec::Exact, &Graph::minBind>("minbind", "-1", text::kMinimum, FieldEditor::Decimal),
@@ -105,7 +105,7 @@ bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) {
 }
 
 void RVCardReportGraph::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(*Services().styles, node.Node("style"), styleName)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*Services().styles, node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }

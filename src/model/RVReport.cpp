@@ -1,5 +1,8 @@
 #include "model/RVReport.h"
 
+#include <algorithm>
+
+#include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
@@ -7,10 +10,43 @@
 namespace xrpt {
 namespace {
 
+constexpr std::string_view kRoot = "reportLayout";
+
 void CopyChildren(const XmlNode& from, std::string_view tag, const XmlDocument& to) {
   for (const XmlNode& child : from) {
     if (child.Tag() == tag) to.Root().Append(child);
   }
+}
+
+// A document of another name is a report's all the same when it holds a page, a formula or a value of one. Documents of
+// our own other kinds have identifiers and names, too.
+bool MayBeReport(const XmlNode& root) {
+  constexpr std::string_view kDistinct[] = {"page",    "formules",       "revision",       "dpiFont",
+                                            "hasZoom", "virtualEnabled", "virtualDevices", "goBackVariables"};
+  constexpr std::string_view kCommon[] = {"id", "name", "version"};
+  constexpr std::string_view kOtherKinds[] = {"style",  "styleClipboard", "formulesClipboard", "controlClipboard",
+                                              "device", "devices",        "warnings"};
+  if (root.Tag() == kRoot) return true;
+  const auto isOneOf = [](std::string_view tag, const auto& tags) {
+    return std::find(std::begin(tags), std::end(tags), tag) != std::end(tags);
+  };
+  const bool isOtherKind = isOneOf(root.Tag(), kOtherKinds);
+  return std::any_of(root.begin(), root.end(), [&](const XmlNode& child) {
+    return isOneOf(child.Tag(), kDistinct) || (!isOtherKind && isOneOf(child.Tag(), kCommon));
+  });
+}
+
+// What may stand in a file's name stays; an identifier read from a file may hold anything.
+std::wstring FileNamePart(std::wstring text) {
+  for (wchar_t& c : text) {
+    if (!IsSafeFileName(std::wstring(1, c)) && c != L'.') c = L'_';
+  }
+  return text;
+}
+
+bool IsSameFile(const Path& a, const Path& b) {
+  std::error_code ignored;
+  return a == b || std::filesystem::equivalent(a, b, ignored);
 }
 
 bool HasChildren(const XmlDocument& document) { return document.Root().Size() > 0; }
@@ -20,6 +56,13 @@ void WriteCopy(XmlWriter& out, std::string_view tag, const XmlDocument& document
 }
 
 }  // namespace
+
+std::wstring TextOf(const LoadResult& result) {
+  constexpr int kTexts[] = {0, text::kUnreadable, text::kDamaged, text::kOtherDocument};
+  if (result.loaded) return {};
+  const std::wstring reason = FromUtf8(result.error.message);
+  return FillIn(HostText(kTexts[static_cast<int>(result.fault)]), {FromUtf8(result.file.filename().string()), reason});
+}
 
 RVReport::RVReport(Host& host)
     : id(host.guids->NewGuidText()), version(kFormatVersion), dpiFont(host.screen->DpiY()), host_(&host) {
@@ -36,13 +79,55 @@ LoadResult RVReport::Load(const std::wstring& nameOrPath) {
 }
 
 LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
-  LoadResult result{file, false, {}};
+  LoadResult result;
+  result.file = file;
   XmlDocument document;
-  result.loaded = document.Load(*host_->files, file, &result.error);
-  if (!result.loaded) document.Create("reportLayout");
+  result.loaded = ReadDocument(result, document);
+  if (!result.loaded) document.Create(kRoot);
   ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
+  for (const auto& page : pages) result.lostStyles += page->lostStyles;
+  fileName_ = name;
   modified = false;
   return result;
+}
+
+bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
+  file_.clear();
+  FileService& files = *host_->files;
+  const FileStamp stamp = files.Stamp(result.file);
+  FileError unreadable;
+  std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &unreadable);
+  if (!bytes) {
+    result.fault = LoadFault::Unreadable;
+    result.error.message = unreadable.reason;
+    return false;
+  }
+  const FileVersion version(stamp, *bytes);
+  if (!document.Parse(std::move(*bytes), &result.error)) {
+    result.fault = LoadFault::Damaged;
+    return false;
+  }
+  if (!MayBeReport(document.Root())) {
+    result.fault = LoadFault::OtherDocument;
+    result.error.message = "not a report but a document of <" + std::string(document.Root().Tag()) + ">";
+    return false;
+  }
+  Remember(result.file, version);
+  return true;
+}
+
+void RVReport::BelongTo(const Path& file) {
+  FileService& files = *host_->files;
+  const FileStamp stamp = file.empty() ? FileStamp() : files.Stamp(file);
+  const std::optional<std::string> bytes = stamp.exists ? files.Read(file, XmlDocument::kMaxBytes) : std::nullopt;
+  Remember(file, bytes ? FileVersion(stamp, *bytes) : FileVersion());
+  modified = true;
+}
+
+void RVReport::Remember(const Path& file, const FileVersion& version) {
+  file_ = file;
+  onDisk_ = version;
+  fileName_ = name;
 }
 
 void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
@@ -101,29 +186,58 @@ void RVReport::ResetDocuments() {
   goBackVariables.Create("goBackVariables");
 }
 
-bool RVReport::EnsureName() {
-  for (int n = 1; name.empty(); ++n) {
-    const std::wstring candidate = L"report" + std::to_wstring(n);
-    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) name = candidate;
+std::wstring RVReport::FreeName() const {
+  for (int n = 1;; ++n) {
+    std::wstring candidate = L"report" + std::to_wstring(n);
+    if (!FindNamedFile(*host_->files, ConfigFolder(), candidate, kReportEnding)) return candidate;
   }
+}
+
+bool RVReport::EnsureName() {
+  if (name.empty()) name = FreeName();
   return IsSafeFileName(name);
 }
 
-SaveResult RVReport::Save() {
-  if (!EnsureName()) {
+SaveResult RVReport::Save(const SaveRules& rules) {
+  if (!GoesBack(rules) && !EnsureName()) {
     modified = true;
     return {SaveOutcome::BadName, {}, {}, {}};
   }
-  host_->settings->SetRegistryText(kLastReportValue, name);
   host_->files->CreateFolder(ConfigFolder());
-  return SaveTo(FilePath());
+  if (const Path other = FileOfAnother(rules); !other.empty()) return {SaveOutcome::Taken, other, {}, {}};
+  host_->settings->SetRegistryText(kLastReportValue, name);
+  return SaveTo(FilePath(rules), rules);
 }
 
-Path RVReport::FilePath() const { return NamedFilePath(ConfigFolder(), id, name, kReportEnding); }
+// Two reports of one name: whichever is found first would hide the other.
+Path RVReport::FileOfAnother(const SaveRules& rules) const {
+  if (!rules.asksFirst || GoesBack(rules)) return {};
+  std::vector<Path> files = FilesOfName(*host_->files, ConfigFolder(), name, kReportEnding);
+  std::erase_if(files, [this](const Path& file) { return !file_.empty() && IsSameFile(file, file_); });
+  return files.empty() ? Path() : files.front();
+}
 
-SaveResult RVReport::SaveTo(const Path& file) {
-  SaveResult result = WriteTo(file);
+bool RVReport::GoesBack(const SaveRules& rules) const {
+  return rules.backToItsFile && !file_.empty() && !name.empty() && name == fileName_;
+}
+
+Path RVReport::FilePath(const SaveRules& rules) const {
+  if (GoesBack(rules)) return file_;
+  return NamedFilePath(ConfigFolder(), FileNamePart(id), name, kReportEnding);
+}
+
+bool RVReport::HasChangedOnDisk() const { return !file_.empty() && HasChanged(*host_->files, file_, onDisk_); }
+
+SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
+  const bool isOwn = !file_.empty() && IsSameFile(file, file_);
+  const FileVersion none;
+  std::string text;
+  XmlWriter out(text);
+  WriteTemplate(out);
+  SaveResult result = SaveText(file, out, rules.asksFirst ? (isOwn ? &onDisk_ : &none) : nullptr);
+  if (result.outcome == SaveOutcome::Changed && !isOwn) result.outcome = SaveOutcome::Taken;
   modified = !result;
+  if (result) Remember(file, FileVersion(host_->files->Stamp(file), text));
   return result;
 }
 
@@ -144,7 +258,7 @@ std::string RVReport::TemplateText(XmlError* fault) const {
 
 void RVReport::WriteTemplate(XmlWriter& out) const {
   out.Declaration();
-  const XmlElement root(out, "reportLayout");
+  const XmlElement root(out, kRoot);
   out.Value("id", id);
   out.Value("name", name);
   out.Value("version", version);

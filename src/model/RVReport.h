@@ -12,11 +12,27 @@
 
 namespace xrpt {
 
+enum class LoadFault { None, Unreadable, Damaged, OtherDocument };
+
 // What a load found, for whoever wants to tell the user. A report is there in any case.
 struct LoadResult {
   Path file;
-  bool loaded = false;  // false: the file was missing or unreadable, and the report is new and empty
+  bool loaded = false;  // false: the file was missing, unreadable or no report, and the report is new and empty
   XmlError error;
+  LoadFault fault = LoadFault::None;
+  bool cancelled = false;  // it could have been opened, but the user let it be
+  int lostStyles = 0;      // references to text styles that nobody knows, which the report no longer has
+};
+
+// One sentence for the user: which file could not be opened and why. Empty for one that could.
+std::wstring TextOf(const LoadResult& result);
+
+// How careful a save is, and where it goes.
+struct SaveRules {
+  bool backToItsFile = false;  // to the file that was opened, as long as the report keeps its name
+  // Nothing is written over a file that is not the one that was read or written last (`Taken`), nor over that one when
+  // somebody else wrote it since (`Changed`).
+  bool asksFirst = false;
 };
 
 class RVReport {
@@ -36,15 +52,26 @@ class RVReport {
 
   // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
   // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
-  SaveResult Save();
-  SaveResult SaveTo(const Path& file);
+  SaveResult Save(const SaveRules& rules = {});
+  SaveResult SaveTo(const Path& file, const SaveRules& rules = {});
   // A copy for others: the report stays as modified as it was.
   SaveResult WriteTo(const Path& file) const;
   // The whole template as text, with a fresh revision. `fault` receives what keeps it from being read again.
   std::string TemplateText(XmlError* fault = nullptr) const;
 
-  // Where Save writes.
-  Path FilePath() const;
+  // Where Save writes: id.name in the configuration folder. What cannot be part of a file's name is left out of the id.
+  Path FilePath(const SaveRules& rules = {}) const;
+  // The file that was read or written last; empty for a report that has none.
+  const Path& File() const { return file_; }
+  // Whether somebody else wrote or removed it since.
+  bool HasChangedOnDisk() const;
+  // How it was then, for whoever watches it.
+  const FileVersion& OnDisk() const { return onDisk_; }
+  // The file is this report's, as it is on disk now: for work that was kept elsewhere and goes back to where it came
+  // from. Without a file it has none.
+  void BelongTo(const Path& file);
+  // The name that Save would give a nameless report: the lowest reportN that no file has.
+  std::wstring FreeName() const;
   // Empties the formulas, virtual devices and go-back variables.
   void ResetDocuments();
   RVReportPage& AddPage();
@@ -70,10 +97,17 @@ class RVReport {
   void ReadVirtualLists(const XmlNode& root);
   void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
+  bool GoesBack(const SaveRules& rules) const;
+  Path FileOfAnother(const SaveRules& rules) const;
   void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;
+  bool ReadDocument(LoadResult& result, XmlDocument& document);
+  void Remember(const Path& file, const FileVersion& version);
 
   Host* host_;
+  Path file_;
+  FileVersion onDisk_;     // as read or written last
+  std::wstring fileName_;  // the report's name at that time
 };
 
 }  // namespace xrpt

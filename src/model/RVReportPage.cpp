@@ -9,6 +9,7 @@ bool RVReportPage::Read(XmlNode page, bool takes) {
   if (!page) return false;
   properties.DeleteBackground();
   cards.Clear();
+  lostStyles = 0;
   for (auto next = page.begin(); next != page.end();) {
     const XmlNode element = *next++;
     if (ReadCard(element) && takes) page.Remove(element);

@@ -30,6 +30,7 @@ class RVReportPage {
   RVGlobalProperties properties;
   CardList cards;
   double fontFactor = 1.0;  // font sizes are multiplied by it
+  int lostStyles = 0;       // references of its cards to text styles that nobody knows, dropped when they were read
 
  private:
   bool Read(XmlNode page, bool takes);

@@ -58,7 +58,7 @@ PageInfo PageInfoOf(const RVReportPage& page, ReportInfo& info) {
 }
 
 void Line(std::string& out, int depth, const std::string& text) {
-  out += std::string(static_cast<std::size_t>(2 * depth), ' ') + text + "\n";
+  out += std::string(static_cast<std::size_t>(2 * depth), ' ') + ForTerminal(text) + "\n";
 }
 
 void Section(std::string& out, const char* title, const CountByName& counts) {

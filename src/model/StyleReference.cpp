@@ -1,12 +1,16 @@
 #include "model/StyleReference.h"
 
+#include "model/RVReportPage.h"
+
 namespace xrpt {
 
-bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName) {
+bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName, RVReportPage* page) {
   if (!reference) return false;
-  const bool known = styles.StyleId2Name(reference.Value(), styleName);
-  if (!known) styleName.clear();
-  return known;
+  const std::wstring id = reference.Value();
+  if (styles.StyleId2Name(id, styleName)) return true;
+  styleName.clear();
+  if (page && !id.empty()) ++page->lostStyles;
+  return false;
 }
 
 void WriteStyleReference(StyleTable& styles, XmlWriter& out, const std::wstring& styleName) {

@@ -11,9 +11,12 @@
 
 namespace xrpt {
 
+class RVReportPage;
+
 // Takes the name of the style whose identifier a "style" element holds. True when the style is known and should be
-// applied now; an unknown identifier empties the name, and an element that is missing leaves it alone.
-bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName);
+// applied now; an unknown identifier empties the name and is counted on the page, when there is one, and an element
+// that is missing leaves the name alone.
+bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName, RVReportPage* page);
 
 // Writes "style" when the name is known; a style nobody knows is not written.
 void WriteStyleReference(StyleTable& styles, XmlWriter& out, const std::wstring& styleName);

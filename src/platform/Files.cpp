@@ -21,17 +21,34 @@ bool HasChanged(FileService& files, const Path& file, const FileVersion& since) 
   return !bytes || FileVersion(now, *bytes).hash != since.hash;
 }
 
+std::wstring FillIn(std::wstring_view pattern, std::initializer_list<std::wstring> arguments) {
+  std::wstring out;
+  for (const std::wstring& argument : arguments) {
+    const std::size_t at = pattern.find(L"%s");
+    if (at == std::wstring_view::npos) break;
+    out.append(pattern.substr(0, at)).append(argument);
+    pattern.remove_prefix(at + 2);
+  }
+  return out.append(pattern);
+}
+
 std::wstring TextOf(const SaveResult& result) {
   const std::wstring file = FromUtf8(result.file.filename().string());
   switch (result.outcome) {
     case SaveOutcome::Saved:
       break;
     case SaveOutcome::Failed:
-      return FormatText(FormatText(HostText(text::kNotSaved), file), FromUtf8(result.reason));
+      return FillIn(HostText(text::kNotSaved), {file, FromUtf8(result.reason)});
     case SaveOutcome::Changed:
       return FormatText(HostText(text::kChangedOnDisk), file);
+    case SaveOutcome::Taken:
+      return FormatText(HostText(text::kFileIsAnothers), file);
     case SaveOutcome::BadName:
       return HostText(text::kNameIsNoFile);
+    case SaveOutcome::Locked:
+      return FormatText(HostText(text::kOpenElsewhere), file);
+    case SaveOutcome::Cancelled:
+      return HostText(text::kSaveCancelled);
   }
   return {};
 }

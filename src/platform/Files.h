@@ -42,9 +42,12 @@ struct FileVersion {
 
 enum class SaveOutcome {
   Saved,
-  Failed,   // `reason` says why
-  Changed,  // the file on disk is another than the one that was read: nothing was written
-  BadName,  // the name cannot be a file's, or there is none
+  Failed,     // `reason` says why
+  Changed,    // the file on disk is another than the one that was read: nothing was written
+  Taken,      // there is a file already, which is not the one that was opened: nothing was written
+  BadName,    // the name cannot be a file's, or there is none
+  Locked,     // somebody else has the report open: nothing was written
+  Cancelled,  // the user let it be
 };
 
 // What became of a save. The old file is whole whenever it did not succeed.

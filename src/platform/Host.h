@@ -15,8 +15,10 @@
 #include "platform/Expressions.h"
 #include "platform/Files.h"
 #include "platform/Fonts.h"
+#include "platform/Locks.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
+#include "platform/Recovery.h"
 
 namespace xrpt {
 
@@ -97,6 +99,10 @@ class PictureService {
   virtual bool CanDecode() const { return true; }
   // Format by content. Nothing for what is no picture, is truncated or is larger than the bounds.
   virtual PicturePtr Decode(std::string_view bytes) = 0;
+  // What it would be decoded to, without its pixels, where that can be told without decoding; otherwise nothing.
+  virtual PicturePtr Outline(std::string_view) { return nullptr; }
+  // Decoded to so many pixels.
+  virtual PicturePtr DecodeScaled(std::string_view bytes, int, int) { return Decode(bytes); }
 };
 
 // What one copy puts on the clipboard: the text, and pictures of the same thing for other programs (either may be
@@ -244,6 +250,8 @@ struct ModelServices {
 struct Host : ModelServices {
   std::unique_ptr<SetupService> setup;
   std::unique_ptr<FileService> files;
+  std::unique_ptr<LockService> locks;
+  std::unique_ptr<RecoveryService> recovery;
   std::unique_ptr<SettingsService> settings;
   std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<ClipboardService> clipboard;

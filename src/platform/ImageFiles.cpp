@@ -15,15 +15,39 @@ std::optional<Path> ImageFile(const Path& folder, const std::wstring& id, const 
   return (path == L"./" ? folder : folder / Path(ToUtf8(path))) / Path(ToUtf8(id + std::wstring(kImageEnding)));
 }
 
+std::optional<std::string> ReadEncoded(const Host& host, const std::wstring& id, const std::wstring& path) {
+  const std::optional<Path> where = ImageFile(host.setup->ImagesPath(), id, path);
+  const std::optional<std::string> file = where ? host.files->Read(*where, kMaxImageFile) : std::nullopt;
+  return file ? DecodeBase64(Xml2Text(*file)) : std::nullopt;
+}
+
+class StoredPicture final : public PictureSource {
+ public:
+  StoredPicture(Host& host, std::wstring id, std::wstring path)
+      : host_(host), id_(std::move(id)), path_(std::move(path)) {}
+  PicturePtr Decode(int width, int height) const override {
+    const std::optional<std::string> bytes = ReadEncoded(host_, id_, path_);
+    PicturePtr picture = bytes ? host_.pictures->DecodeScaled(*bytes, width, height) : nullptr;
+    if (!picture) host_.pictureStore.Lose(id_, path_);
+    return picture;
+  }
+
+ private:
+  Host& host_;
+  std::wstring id_;
+  std::wstring path_;
+};
+
 }  // namespace
 
-PicturePtr ReadImageFile(const Host& host, const std::wstring& id, const std::wstring& path) {
-  const std::optional<Path> where = ImageFile(host.setup->ImagesPath(), id, path);
-  if (!where) return nullptr;
-  const std::optional<std::string> file = host.files->Read(*where, kMaxImageFile);
-  if (!file) return nullptr;
-  const std::optional<std::string> bytes = DecodeBase64(Xml2Text(*file));
-  return bytes ? host.pictures->Decode(*bytes) : nullptr;
+PicturePtr ReadImageFile(Host& host, const std::wstring& id, const std::wstring& path) {
+  const std::optional<std::string> bytes = ReadEncoded(host, id, path);
+  if (!bytes) return nullptr;
+  const PicturePtr outline = host.pictures->Outline(*bytes);
+  if (!outline || host.pictureStore.MayKeep(*outline)) return host.pictures->Decode(*bytes);
+  auto picture = std::make_shared<Picture>(*outline);
+  picture->source = std::make_shared<StoredPicture>(host, id, path);
+  return picture;
 }
 
 bool HasImageFile(const Host& host, const std::wstring& id, const std::wstring& path) {

@@ -10,7 +10,7 @@
 namespace xrpt {
 namespace {
 
-std::string Escaped(unsigned char c) {
+std::string Escaped(wchar_t c) {
   switch (c) {
     case '"':
       return "\\\"";
@@ -26,7 +26,7 @@ std::string Escaped(unsigned char c) {
       break;
   }
   std::array<char, 8> code;
-  std::snprintf(code.data(), code.size(), "\\u%04x", c);
+  std::snprintf(code.data(), code.size(), "\\u%04x", static_cast<unsigned>(c));
   return code.data();
 }
 
@@ -43,12 +43,11 @@ void JsonWriter::String(std::wstring_view text) { String(std::string_view(ToUtf8
 void JsonWriter::String(std::string_view utf8) {
   Separate();
   text_ += '"';
-  for (char c : utf8) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte == '"' || byte == '\\') {
-      text_ += Escaped(byte);
+  for (const wchar_t c : FromUtf8(utf8)) {
+    if (c == L'"' || c == L'\\' || IsTerminalCommand(c)) {
+      text_ += Escaped(c);
     } else {
-      text_ += c;
+      AppendUtf8(text_, static_cast<char32_t>(c));
     }
   }
   text_ += '"';

@@ -32,6 +32,14 @@ std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, st
   return FindNamedFile(*CurrentHost().files, folder, name, ending);
 }
 
+std::vector<Path> FilesOfName(FileService& files, const Path& folder, std::wstring_view name,
+                              std::wstring_view ending) {
+  if (!IsSafeFileName(name)) return {};
+  std::vector<Path> found = files.List(folder, std::wstring(name) + std::wstring(ending));
+  std::erase_if(found, [&](const Path& file) { return NameOfFile(file, ending) != name; });
+  return found;
+}
+
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending) {
   std::wstring fileName(id);
   fileName += L'.';

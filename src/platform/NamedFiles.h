@@ -15,6 +15,9 @@ std::optional<Path> FindNamedFile(FileService& files, const Path& folder, std::w
 // The same with the installed host's files.
 std::optional<Path> FindNamedFile(const Path& folder, std::wstring_view name, std::wstring_view ending);
 
+// All files of exactly that name: more than one when reports or styles of several identifiers are called alike.
+std::vector<Path> FilesOfName(FileService& files, const Path& folder, std::wstring_view name, std::wstring_view ending);
+
 // folder / (id + "." + name + ending).
 Path NamedFilePath(const Path& folder, std::wstring_view id, std::wstring_view name, std::wstring_view ending);
 

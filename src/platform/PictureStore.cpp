@@ -1,24 +1,44 @@
 #include "platform/PictureStore.h"
 
 namespace xrpt {
+namespace {
 
-ImageRecord::~ImageRecord() { store_.Forget(*this); }
+// A picture of a million pixels is decoded anew in no time that anybody notices.
+constexpr std::size_t kMaxKept = 4u << 20;
+constexpr std::size_t kPaintedBytes = 4;  // a pixel, as painters keep it
+
+}  // namespace
+
+ImageRecord::~ImageRecord() {
+  Keep(nullptr);
+  store_.Forget(*this);
+}
 
 PicturePtr ImageRecord::Current() const {
-  const std::lock_guard guard(store_.lock_);
-  if (!read_) picture_ = store_.Read(*this);
+  const std::lock_guard guard(store_.memory_->Lock());
+  if (!read_) Keep(store_.Read(*this));
   read_ = true;
   return picture_;
 }
 
 void ImageRecord::Reload() {
-  const std::lock_guard guard(store_.lock_);
-  picture_.reset();
+  const std::lock_guard guard(store_.memory_->Lock());
+  Keep(nullptr);
   read_ = false;
 }
 
+void ImageRecord::Keep(PicturePtr picture) const {
+  const std::lock_guard guard(store_.memory_->Lock());
+  const std::size_t former = picture_ ? picture_->Bytes() : 0;
+  const std::size_t now = picture ? picture->Bytes() : 0;
+  picture_ = std::move(picture);
+  store_.kept_ += now - former;
+  store_.memory_->Give(former);
+  store_.memory_->Take(now);
+}
+
 ImageRecordPtr PictureStore::Attach(const std::wstring& id, const std::wstring& path) {
-  const std::lock_guard guard(lock_);
+  const std::lock_guard guard(memory_->Lock());
   std::weak_ptr<ImageRecord>& entry = records_[{id, path}];
   ImageRecordPtr record = entry.lock();
   if (!record) {
@@ -31,7 +51,7 @@ ImageRecordPtr PictureStore::Attach(const std::wstring& id, const std::wstring& 
 // The records are held until the walk is over: the last holder of one may let go meanwhile, and with it the entry goes.
 void PictureStore::ReloadAll() {
   std::vector<ImageRecordPtr> held;
-  const std::lock_guard guard(lock_);
+  const std::lock_guard guard(memory_->Lock());
   for (const auto& [key, entry] : records_) held.push_back(entry.lock());
   for (const ImageRecordPtr& record : held) {
     if (record) record->Reload();
@@ -39,13 +59,27 @@ void PictureStore::ReloadAll() {
 }
 
 std::size_t PictureStore::Count() const {
-  const std::lock_guard guard(lock_);
+  const std::lock_guard guard(memory_->Lock());
   return records_.size();
+}
+
+bool PictureStore::MayKeep(const Picture& outline) const {
+  const std::lock_guard guard(memory_->Lock());
+  const std::size_t bytes =
+      kPaintedBytes * static_cast<std::size_t>(outline.width) * static_cast<std::size_t>(outline.height);
+  return bytes <= kMaxKept && kept_ + bytes <= memory_->Limit() / 2;
+}
+
+void PictureStore::Lose(const std::wstring& id, const std::wstring& path) {
+  const std::lock_guard guard(memory_->Lock());
+  const auto entry = records_.find({id, path});
+  const ImageRecordPtr record = entry == records_.end() ? nullptr : entry->second.lock();
+  if (record) record->Keep(nullptr);
 }
 
 // A record may have been made anew under the same key while its predecessor was dying; that one stays.
 void PictureStore::Forget(const ImageRecord& record) {
-  const std::lock_guard guard(lock_);
+  const std::lock_guard guard(memory_->Lock());
   const auto entry = records_.find({record.id_, record.path_});
   if (entry != records_.end() && entry->second.expired()) records_.erase(entry);
 }

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/Picture.h"
+#include "platform/PictureMemory.h"
 
 namespace xrpt {
 
@@ -25,13 +26,16 @@ class ImageRecord {
 
   const std::wstring& Id() const { return id_; }
   const std::wstring& ImagePath() const { return path_; }
-  // The picture, read from the folder when first asked for; null when there is none to read.
+  // The picture, read from the folder when first asked for; null when there is none to read. A large one comes without
+  // its pixels (`WithPixels`).
   PicturePtr Current() const;
   // Reads the file again.
   void Reload();
 
  private:
   friend class PictureStore;
+  void Keep(PicturePtr picture) const;
+
   PictureStore& store_;
   std::wstring id_;
   std::wstring path_;  // sub-folder of the images folder
@@ -51,6 +55,14 @@ class PictureStore {
   ImageRecordPtr Attach(const std::wstring& id, const std::wstring& path);
   void ReloadAll();
   std::size_t Count() const;
+  // The limit of all decoded pictures, the painters' included.
+  const std::shared_ptr<PictureMemory>& Memory() const { return memory_; }
+
+  // Whether a picture of this size may stay decoded; the painters need half of the memory. A larger one is decoded anew
+  // whenever it is painted.
+  bool MayKeep(const Picture& outline) const;
+  // Its pixels turned out not to be readable: from now on there is no such picture, until it is reloaded.
+  void Lose(const std::wstring& id, const std::wstring& path);
 
  private:
   friend class ImageRecord;
@@ -59,7 +71,9 @@ class PictureStore {
   void Forget(const ImageRecord& record);
 
   Reader reader_;
-  mutable std::recursive_mutex lock_;  // the list, and the picture of every record
+  // Its lock guards the list, and the picture of every record.
+  std::shared_ptr<PictureMemory> memory_ = std::make_shared<PictureMemory>();
+  std::size_t kept_ = 0;  // bytes of decoded pictures
   std::map<Key, std::weak_ptr<ImageRecord>> records_;
 };
 

@@ -131,6 +131,20 @@ std::size_t FindInvalidUtf8(std::string_view bytes) {
   return std::string_view::npos;
 }
 
+bool IsTerminalCommand(wchar_t c) {
+  if (c < 0x20 || (c >= 0x7F && c < 0xA0)) return true;
+  return c == 0x2028 || c == 0x2029 || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
+std::string ForTerminal(std::string_view utf8, bool keepsLines) {
+  std::wstring text = FromUtf8(utf8);
+  for (wchar_t& c : text) {
+    if (IsTerminalCommand(c) && !(keepsLines && (c == L'\n' || c == L'\t'))) c = L' ';
+  }
+  return ToUtf8(text);
+}
+
 bool IsSafeFileName(std::wstring_view name) {
   if (name.empty() || name == L"." || name == L"..") return false;
   for (wchar_t c : name) {

@@ -17,6 +17,11 @@ void AppendUtf8(std::string& out, char32_t code);
 // Offset of the first byte that is no valid UTF-8, or npos when all of it is.
 std::size_t FindInvalidUtf8(std::string_view bytes);
 
+// Whether a terminal acts on a character instead of showing it: control characters, line separators, direction marks.
+bool IsTerminalCommand(wchar_t c);
+// The same text with a space for every such character. Lines and tabs stay when `keepsLines`.
+std::string ForTerminal(std::string_view utf8, bool keepsLines = false);
+
 // True for a name that stays one plain file name inside a folder: not empty, no separator, no drive colon, no control
 // character, not "." or "..".
 bool IsSafeFileName(std::wstring_view name);

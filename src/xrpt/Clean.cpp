@@ -1,8 +1,8 @@
 // xrpt clean: clears away what interrupted and failed saves left in a folder.
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <memory>
 
+#include "platform/Text.h"
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
 
@@ -18,7 +18,7 @@ int Clean(const std::string& folder) {
     PrintError(folder, error ? error.message() : "not a folder");
     return kCouldNotRun;
   }
-  for (const Path& file : CurrentHost().files->ClearLeftovers(folder)) std::cout << file.string() << '\n';
+  for (const Path& file : CurrentHost().files->ClearLeftovers(folder)) Print(ForTerminal(file.string()) + "\n");
   return kNothingToReport;
 }
 

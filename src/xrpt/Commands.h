@@ -14,6 +14,7 @@ void AddEdit(CLI::App& program, int& status);
 void AddEvaluate(CLI::App& program, int& status);
 void AddValidate(CLI::App& program, int& status);
 void AddRender(CLI::App& program, int& status);
+void AddStyle(CLI::App& program, int& status);
 void AddSearch(CLI::App& program, int& status);
 void AddReplace(CLI::App& program, int& status);
 void AddClean(CLI::App& program, int& status);

@@ -1,6 +1,5 @@
 // xrpt edit: drives the page window by the lines of a file, without a screen, and saves.
 #include <CLI/CLI.hpp>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -18,24 +17,23 @@ struct EditOptions : CommonOptions {
   bool comfort = false;
 };
 
-std::optional<std::string> ReadScript(const std::string& file) {
+constexpr std::size_t kMaxScript = 64u << 20;
+
+std::optional<std::string> ReadScript(const std::string& file, FileError& error) {
+  if (file != "-") return CurrentHost().files->Read(file, kMaxScript, &error);
   std::ostringstream text;
-  if (file == "-") {
-    text << std::cin.rdbuf();
-    return text.str();
-  }
-  const std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
-  text << stream.rdbuf();
+  text << std::cin.rdbuf();
   return text.str();
 }
 
 std::string AtLine(const std::string& file, int line) { return file + ":" + std::to_string(line); }
 
 int Edit(const EditOptions& options) {
-  const std::optional<std::string> text = ReadScript(options.actions);
+  const HostSession session(options);
+  FileError unreadable;
+  const std::optional<std::string> text = ReadScript(options.actions, unreadable);
   if (!text) {
-    PrintError(options.actions, "could not be read");
+    PrintError(options.actions, unreadable.reason);
     return kCouldNotRun;
   }
   ScriptError error;
@@ -44,7 +42,6 @@ int Edit(const EditOptions& options) {
     PrintError(AtLine(options.actions, error.line), error.message);
     return kCouldNotRun;
   }
-  const HostSession session(options);
   ScriptRunner runner(options.comfort ? EditingOptions::Comfort() : EditingOptions());
   if (!OpenIn(runner.Frame(), options)) return kCouldNotRun;
   for (const Action& action : *actions) {
@@ -78,6 +75,7 @@ void AddEdit(CLI::App& program, int& status) {
       "  press X Y [ctrl] [shift] | move X Y | release X Y | lose-capture\n"
       "  key NAME [ctrl] [shift] | select ID... | command NAME [ARGUMENT...] | tick N\n"
       "  set ID FIELD VALUE | answer yes|no | print\n"
+      "  new | open NAME | save | save-as [NAME] | rename NAME\n"
       "  formula-add NAME TEXT | formula-modify OLD NAME TEXT | formula-delete NAME... | formula-copy NAME...\n"
       "  formula-paste | device-add NAME | device-modify OLD NEW | device-delete NAME | goback-add|modify|delete "
       "alike\n"

@@ -84,7 +84,7 @@ std::string AsText(const std::string& expression, const ExpressionReport& report
 int Evaluate(const EvaluateOptions& options) {
   const HostSession session(options);
   RVReport report;
-  if (!options.report.empty() && !OpenReport(options, {}, report)) return kCouldNotRun;
+  if (!options.report.empty() && !OpenReport(options, report)) return kCouldNotRun;
   CDlgNewFormule dialog(ReadFormulas(report.formules), FromUtf8(options.was));
   dialog.name = FromUtf8(options.name);
   dialog.text = FromUtf8(options.expression);

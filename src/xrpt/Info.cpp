@@ -1,6 +1,5 @@
 // xrpt info: what a report holds.
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <memory>
 
 #include "model/ReportInfo.h"
@@ -18,9 +17,9 @@ struct InfoOptions : CommonOptions {
 int Info(const InfoOptions& options) {
   const HostSession session(options);
   RVReport report;
-  if (!OpenReport(options, {}, report)) return kCouldNotRun;
+  if (!OpenReport(options, report)) return kCouldNotRun;
   const ReportInfo info = InfoOf(report);
-  std::cout << (options.format == "json" ? info.AsJson() : info.AsText());
+  Print(options.format == "json" ? info.AsJson() : info.AsText());
   return kNothingToReport;
 }
 

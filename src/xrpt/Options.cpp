@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstring>
-#include <iostream>
 
 #include "editor/RVEditControlWnd.h"
 #include "host/DefaultHost.h"
@@ -18,6 +17,14 @@ Path FileOf(const CommonOptions& options) {
   const Path file = options.report;
   if (CurrentHost().files->Stamp(file).exists) return file;
   return FindNamedFile(ConfigFolderOf(options), FromUtf8(options.report), kReportEnding).value_or(file);
+}
+
+// One line, and no more than a line: scripts rely on the exit status.
+void AnnounceLosses(const LoadResult& result) {
+  if (result.lostStyles == 0) return;
+  PrintError(result.file.string(),
+             "warning: " + std::to_string(result.lostStyles) +
+                 " references to text styles that are not in the configuration folder are left out");
 }
 
 bool IsLoaded(const LoadResult& result) {
@@ -35,7 +42,7 @@ bool IsSaved(const std::string& file, const SaveResult& result) {
 bool PrintReport(const RVReport& report) {
   XmlError fault;
   const std::string text = report.TemplateText(&fault);
-  if (fault.message.empty() && !(std::cout << text << std::flush)) fault.message = std::strerror(errno);
+  if (fault.message.empty() && !PrintDocument(text)) fault.message = std::strerror(errno);
   if (!fault.message.empty()) PrintError("standard output", fault.message);
   return fault.message.empty();
 }
@@ -86,17 +93,19 @@ HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), f
 
 HostSession::~HostSession() { InstallHost(former_); }
 
-bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report) {
+bool OpenReport(const CommonOptions& options, RVReport& report) { return IsLoaded(report.LoadFile(FileOf(options))); }
+
+bool OpenToSave(const CommonOptions& options, const std::string& name, RVReport& report) {
   const std::wstring asked = FromUtf8(name);
-  return IsLoaded(report.LoadFile(FileOf(options), name.empty() ? nullptr : &asked));
+  const LoadResult result = report.LoadFile(FileOf(options), name.empty() ? nullptr : &asked);
+  AnnounceLosses(result);
+  return IsLoaded(result);
 }
 
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options) {
-  return IsLoaded(frame.OpenFile(FileOf(options), nullptr));
-}
-
-void PrintError(const std::string& file, const std::string& reason) {
-  std::cerr << "xrpt: " << file << ": " << reason << '\n';
+  const LoadResult result = frame.OpenFile(FileOf(options), nullptr);
+  AnnounceLosses(result);
+  return IsLoaded(result);
 }
 
 bool WriteOutput(const std::string& file, const std::string& bytes) {

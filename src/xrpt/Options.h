@@ -6,6 +6,7 @@
 
 #include "host/DefaultHost.h"
 #include "model/RVReport.h"
+#include "xrpt/Output.h"
 
 namespace CLI {
 class App;
@@ -51,14 +52,15 @@ HostOptions HostOptionsOf(const CommonOptions& options);
 Path ConfigFolderOf(const CommonOptions& options);
 Path ImagesFolderOf(const CommonOptions& options);
 
-// Opens the report of the options; under `name` when one is given. False, and a line on standard error, when there is
-// no such file or it cannot be read.
-bool OpenReport(const CommonOptions& options, const std::string& name, RVReport& report);
+// Opens the report of the options. False, and a line on standard error, when there is no such file, it cannot be read
+// or is no report.
+bool OpenReport(const CommonOptions& options, RVReport& report);
+// The same for a report that will be written, under `name` when one is given: what loading left out is counted on
+// standard error.
+bool OpenToSave(const CommonOptions& options, const std::string& name, RVReport& report);
 // The same in an editor's frame, under the stored name.
 bool OpenIn(RVEditControlWnd& frame, const CommonOptions& options);
 
-// "xrpt: FILE: REASON" on standard error.
-void PrintError(const std::string& file, const std::string& reason);
 // Writes a file through the host; false and a line on standard error when that fails.
 bool WriteOutput(const std::string& file, const std::string& bytes);
 // The same for a report; the file "-" is standard output.

@@ -81,7 +81,7 @@ int Render(const RenderOptions& options) {
   }
   const HostSession session(MakeRenderHost(HostOptionsOf(options)));
   RVReport report;
-  if (!OpenReport(options, {}, report)) return kCouldNotRun;
+  if (!OpenReport(options, report)) return kCouldNotRun;
   const auto pages = static_cast<int>(report.pages.size());
   if (options.page != 0 || EndingOf(options.output) == ".pdf" || pages == 1) {
     return RenderOne(options, report, {options.output, options.page, options.dpi});

@@ -16,7 +16,7 @@ struct ResaveOptions : CommonOptions {
 int Resave(const ResaveOptions& options) {
   const HostSession session(options);
   RVReport report;
-  if (!OpenReport(options, options.name, report)) return kCouldNotRun;
+  if (!OpenToSave(options, options.name, report)) return kCouldNotRun;
   return SaveReport(report, options.output) ? kNothingToReport : kCouldNotRun;
 }
 

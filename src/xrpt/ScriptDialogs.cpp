@@ -1,11 +1,10 @@
 // The actions of what dialogs decide: formulas, virtual devices and go-back variables, search and replace. Each opens
 // the dialog, does the one thing and closes it with OK, and prints what came of it.
-#include <iostream>
-
 #include "editor/ReportDialogs.h"
 #include "platform/Host.h"
 #include "platform/Json.h"
 #include "platform/Text.h"
+#include "xrpt/Output.h"
 #include "xrpt/ScriptRunner.h"
 
 namespace xrpt {
@@ -93,7 +92,7 @@ std::string PrintObject(const Write& write) {
   out.BeginObject();
   write(out);
   out.EndObject();
-  std::cout << out.Text() << std::endl;
+  xrpt::Print(out.Text() + "\n");
   return {};
 }
 

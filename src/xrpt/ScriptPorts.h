@@ -55,9 +55,10 @@ class ScriptEditor final : public EditorPort {
     return answer;
   }
   void Tell(int) override {}
-  std::optional<std::wstring> ChooseReport(const std::wstring&) override { return std::nullopt; }
+  std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
 
   Answer answer = Answer::No;
+  std::optional<std::wstring> chosen;  // of the list of reports
   std::vector<int> asked;
 
  private:

@@ -1,13 +1,12 @@
 #include "xrpt/ScriptRunner.h"
 
-#include <iostream>
-
 #include "canvas/UndoTexts.h"
 #include "editor/CommandCatalogue.h"
 #include "editor/SelectedFields.h"
 #include "platform/Json.h"
 #include "platform/Text.h"
 #include "xrpt/ActionNames.h"
+#include "xrpt/Output.h"
 
 namespace xrpt {
 namespace {
@@ -53,6 +52,11 @@ const std::vector<ScriptRunner::Row>& ScriptRunner::Steps() {
                                          {"tick", &R::Tick},
                                          {"set", &R::Set},
                                          {"answer", &R::SetAnswer},
+                                         {"new", &R::New},
+                                         {"open", &R::Open},
+                                         {"save", &R::Save},
+                                         {"save-as", &R::SaveAs},
+                                         {"rename", &R::Rename},
                                          {"formula-add", &R::FormulaAdd},
                                          {"formula-modify", &R::FormulaModify},
                                          {"formula-delete", &R::FormulaDelete},
@@ -213,7 +217,7 @@ std::string ScriptRunner::SetAnswer(Arguments arguments) {
 }
 
 std::string ScriptRunner::Print(Arguments) {
-  std::cout << StateAsJson(frame_) << std::endl;
+  xrpt::Print(StateAsJson(frame_) + "\n");
   return {};
 }
 

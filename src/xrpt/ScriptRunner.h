@@ -47,6 +47,14 @@ class ScriptRunner {
   std::string SetAnswer(Arguments arguments);
   std::string Print(Arguments arguments);
 
+  // Files, see ScriptFiles.cpp
+  std::string New(Arguments arguments);
+  std::string Open(Arguments arguments);
+  std::string Save(Arguments arguments);
+  std::string SaveAs(Arguments arguments);
+  std::string Rename(Arguments arguments);
+  std::string Conclude(bool done);
+
   // What dialogs decide, see ScriptDialogs.cpp
   std::string FormulaAdd(Arguments arguments);
   std::string FormulaModify(Arguments arguments);

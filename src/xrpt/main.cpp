@@ -1,10 +1,11 @@
 // xrpt: report templates in scripts.
 #include <CLI/CLI.hpp>
 #include <exception>
-#include <iostream>
+#include <sstream>
 
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
+#include "xrpt/Output.h"
 
 namespace {
 
@@ -23,13 +24,19 @@ int Run(int argc, char** argv) {
   xrpt::AddValidate(program, status);
   xrpt::AddRender(program, status);
   xrpt::AddEvaluate(program, status);
+  xrpt::AddStyle(program, status);
   xrpt::AddSearch(program, status);
   xrpt::AddReplace(program, status);
   xrpt::AddClean(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return program.exit(error) == 0 ? xrpt::kNothingToReport : xrpt::kCouldNotRun;
+    std::ostringstream out;
+    std::ostringstream aside;
+    const bool isHelp = program.exit(error, out, aside) == 0;
+    xrpt::Print(out.str());
+    xrpt::PrintAside(aside.str());
+    return isHelp ? xrpt::kNothingToReport : xrpt::kCouldNotRun;
   }
   return status;
 }
@@ -37,10 +44,11 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const xrpt::TerminalGuard guard;
   try {
     return Run(argc, argv);
   } catch (const std::exception& fault) {
-    std::cerr << "xrpt: " << fault.what() << '\n';
+    xrpt::PrintAside(std::string("xrpt: ") + fault.what() + "\n");
     return xrpt::kCouldNotRun;
   }
 }

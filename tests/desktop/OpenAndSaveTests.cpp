@@ -1,14 +1,21 @@
 // What the user is told when a report cannot be read or written, and the question before changes are lost.
 #include <gmock/gmock.h>
 
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 
+#include "desktop/FileKeeper.h"
 #include "desktop/ProblemsDesk.h"
+#include "desktop/TextIds.h"
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/RecoveryDialog.h"
+#include "desktop/look/Texts.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/ProblemsWatch.h"
+#include "model/RVCardLabel.h"
+#include "platform/FileTexts.h"
 
 namespace xrpt {
 namespace {
@@ -18,55 +25,64 @@ using ::testing::HasSubstr;
 class OpenAndSave : public WindowTest {
  protected:
   std::string Message() { return Window().Messages().Message().toStdString(); }
-  // Presses a button of the question that is about to be asked.
-  void AnswerWith(QMessageBox::StandardButton button) {
-    QTimer::singleShot(0, &Window(), [this, button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  // Presses a button of the question that is about to be asked; 0 presses Escape.
+  void AnswerWith(int textId) {
+    QTimer::singleShot(0, &Window(), [this, textId] {
+      QWidget* box = QApplication::activeModalWidget();
       asked_ = box != nullptr;
-      if (box) box->button(button)->click();
+      if (!box) return;
+      if (textId == 0) return QTest::keyClick(box, Qt::Key_Escape);
+      for (QPushButton* button : box->findChildren<QPushButton*>()) {
+        if (button->text().remove(QLatin1Char('&')) == Translated(textId)) return button->click();
+      }
+      box->close();
+      ADD_FAILURE() << "no such button: " << Translated(textId).toStdString();
     });
   }
   bool asked_ = false;
 };
 
-TEST_F(OpenAndSave, WhatCannotBeReadSaysWhyAndOpensAsANewReport) {
+TEST_F(OpenAndSave, WhatCannotBeReadSaysWhyAndLeavesTheOpenReportAlone) {
+  OpenSample();
+  Run("Landscape");
   std::filesystem::create_directory(host.Cfg() / "folder.xrpt");
   const std::pair<Path, const char*> rows[] = {{host.WriteCfg("1.broken.xrpt", "<reportLayout><page>"), "broken"},
                                                {host.WriteCfg("2.empty.xrpt", ""), "empty"},
+                                               {host.WriteCfg("3.other.xrpt", "<svg/>"), "no report"},
                                                {host.Cfg() / "folder.xrpt", "folder"},
-                                               {host.Cfg() / "3.missing.xrpt", "missing"}};
+                                               {host.Cfg() / "4.missing.xrpt", "No such file"}};
   for (const auto& [file, name] : rows) {
     Window().Open(file.wstring());
     Settle();
     EXPECT_THAT(Message(), HasSubstr(name));
-    EXPECT_THAT(Message(), HasSubstr("this is a new report")) << name;
-    EXPECT_EQ(Frame().PageCount(), 1u) << name;
-    EXPECT_FALSE(Frame().IsModified()) << name;
+    EXPECT_EQ(Frame().Report().name, kSample) << name;
+    EXPECT_TRUE(Frame().IsModified()) << name;
   }
-  EXPECT_EQ(Window().Problems().Watch().Problems().Count(Severity::Error), 4u);
-  OpenSample();
+  EXPECT_GE(Window().Problems().Watch().Problems().Count(Severity::Error), 5u);
+  Window().Open(kSample);
+  Settle();
   EXPECT_EQ(Message(), "");
 }
 
 TEST_F(OpenAndSave, AFailedWriteIsShownAndOffersAnotherName) {
   OpenSample();
-  const Path file = Frame().Report().FilePath();
-  std::filesystem::remove(file);
-  std::filesystem::create_directories(file / "in the way");
-  Frame().SetModified(true);
+  Frame().Rename(std::wstring(300, L'x'));
   Settle();
   Run("Save");
-  EXPECT_THAT(Message(), HasSubstr(file.filename().string()));
+  EXPECT_THAT(Message(), HasSubstr("xxx"));
+  EXPECT_THAT(Message(), HasSubstr("name too long"));
   const auto buttons = Window().Messages().findChildren<QPushButton*>();
   ASSERT_EQ(buttons.size(), 1);
   EXPECT_EQ(buttons[0]->text().toStdString(), "Save as");
+  AnswerWith(text::kSaveAnswer);
+  EXPECT_FALSE(Window().close()) << "the work is still there";
 }
 
-TEST_F(OpenAndSave, ClosingAsksAboutChanges) {
+TEST_F(OpenAndSave, ClosingAsksAboutChangesAndEscapeCancels) {
   OpenSample();
-  const Path file = Frame().Report().FilePath();
+  const Path file = Frame().Report().File();
   const std::string before = TestHost::ReadFile(file);
-  const auto close = [&](QMessageBox::StandardButton answer) {
+  const auto close = [&](int answer) {
     Frame().SetModified(true);
     AnswerWith(answer);
     const bool closed = Window().close();
@@ -74,21 +90,89 @@ TEST_F(OpenAndSave, ClosingAsksAboutChanges) {
     Window().show();
     return closed;
   };
-  EXPECT_FALSE(close(QMessageBox::Cancel));
-  EXPECT_TRUE(close(QMessageBox::No));
+  EXPECT_FALSE(close(text::kCancel));
+  EXPECT_FALSE(close(0));
+  EXPECT_TRUE(close(text::kDontSave));
   EXPECT_EQ(TestHost::ReadFile(file), before);
-  EXPECT_TRUE(close(QMessageBox::Yes));
+  EXPECT_TRUE(close(text::kSaveAnswer));
   EXPECT_NE(TestHost::ReadFile(file), before);
 }
 
-TEST_F(OpenAndSave, AWindowStaysOpenWhenItsReportCannotBeWritten) {
+TEST_F(OpenAndSave, WhatOthersChangedIsOfferedAndReloaded) {
   OpenSample();
-  const Path file = Frame().Report().FilePath();
+  const Path file = Frame().Report().File();
+  Frame().ShowPage(1);
+  std::string text = TestHost::ReadFile(file);
+  text.replace(text.find("<version>"), 9, "<version>9");
+  TestHost::WriteFile(file, text);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Message().empty(); }, 3000));
+  EXPECT_THAT(Message(), HasSubstr(file.filename().string()));
+  PartsOf<QPushButton>(Window().Messages()).at(0)->click();
+  Settle();
+  EXPECT_EQ(Frame().Report().version.substr(0, 1), L"9");
+  EXPECT_EQ(Frame().CurrentPageIndex(), 1u);
+  EXPECT_EQ(Message(), "");
+  Run("Landscape");
+  Run("Save");
+  QTest::qWait(1600);
+  EXPECT_EQ(Message(), "") << "our own save is no news";
   std::filesystem::remove(file);
-  std::filesystem::create_directories(file / "in the way");
-  Frame().SetModified(true);
-  AnswerWith(QMessageBox::Yes);
-  EXPECT_FALSE(Window().close());
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Message().empty(); }, 3000));
+  EXPECT_TRUE(Frame().IsModified()) << "to be saved anew";
+}
+
+TEST_F(OpenAndSave, StylesThatOthersChangeReachTheOpenReport) {
+  const Path style =
+      host.WriteCfg("S.Loud.XSTY", "<style><id>S</id><name>Loud</name><font><size>10</size></font></style>");
+  host.WriteCfg("A.styled.xrpt",
+                "<reportLayout><id>A</id><name>styled</name><page><label><id>L</id><style>S</style></label></page></"
+                "reportLayout>");
+  Window().Open(L"styled");
+  Settle();
+  QTest::qWait(900);
+  TestHost::WriteFile(style, "<style><id>S</id><name>Loud</name><font><size>30</size></font></style>");
+  const auto size = [this] { return dynamic_cast<const RVCardLabel&>(Card(L"L")).font.size; };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return size() == 30.0; }, 3000)) << size();
+}
+
+TEST_F(OpenAndSave, ReportsOfOneNameAreListedWithTheirFiles) {
+  host.WriteCfg("A.twin.xrpt", "<reportLayout><id>A</id><name>twin</name></reportLayout>");
+  host.WriteCfg("B.twin.xrpt", "<reportLayout><id>B</id><name>twin</name></reportLayout>");
+  QTimer::singleShot(0, &Window(), [] {
+    auto* dialog = dynamic_cast<OpenDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    auto* list = dialog->findChild<QTreeWidget*>();
+    EXPECT_FALSE(list->isColumnHidden(2));
+    list->setCurrentItem(list->findItems(QStringLiteral("B.twin.xrpt"), Qt::MatchExactly, 2).at(0));
+    dialog->accept();
+  });
+  Run("Open");
+  EXPECT_EQ(Frame().Report().id, L"B");
+  EXPECT_EQ(Frame().Report().File().filename(), "B.twin.xrpt");
+}
+
+TEST_F(OpenAndSave, UnsavedWorkOfACrashIsOfferedBesideTheFile) {
+  const auto kept = std::filesystem::path(host.State() / "recovery" / "gone");
+  OpenSample();
+  const Path file = Frame().Report().File();
+  TestHost::WriteFile(kept / "1.xrpt", "<reportLayout><id>A</id><name>mine</name><page/><page/></reportLayout>");
+  TestHost::WriteFile(kept / "1.ini", "[report]\nname=mine\nfile=" + file.string() + "\n");
+  TestHost::WriteFile(kept / "2.xrpt", "<reportLayout><id>B</id><name>other</name></reportLayout>");
+  TestHost::WriteFile(kept / "2.ini", "[report]\nname=other\n");
+  QTimer::singleShot(0, &Window(), [] {
+    auto* dialog = dynamic_cast<RecoveryDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    auto* list = dialog->findChild<QTreeWidget*>();
+    EXPECT_EQ(list->topLevelItemCount(), 2);
+    list->setCurrentItem(list->findItems(QStringLiteral("mine"), Qt::MatchExactly).at(0));
+    dialog->accept();
+  });
+  Window().Files().OfferRecovered();
+  Settle();
+  EXPECT_EQ(Frame().PageCount(), 2u);
+  EXPECT_TRUE(Frame().IsModified());
+  EXPECT_EQ(Frame().Report().File(), file);
+  EXPECT_EQ(PartsOf<QPushButton>(Window().Messages()).size(), 1u) << "the other one is still waiting";
 }
 
 TEST_F(OpenAndSave, TheLastReportOpensAgain) {

@@ -34,7 +34,7 @@ class TextStyles : public HostTest {
   }
   static std::vector<std::string> Listed() {
     std::vector<std::string> names;
-    for (const StyleListRow& row : ListStyles()) names.push_back(ToUtf8(row.name));
+    for (const tagStyleCfg& row : ListStyles()) names.push_back(ToUtf8(row.name));
     return names;
   }
 };

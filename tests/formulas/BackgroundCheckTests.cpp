@@ -1,6 +1,7 @@
 // The check beside the editor with its thread really running: it finds what a check at once finds, follows a report
 // that changes meanwhile, and who edits never waits.
 #include <chrono>
+#include <semaphore>
 #include <thread>
 
 #include "formulas/FormulaTable.h"
@@ -11,6 +12,23 @@
 
 namespace xrpt {
 namespace {
+
+// Stands still at the first date it is asked about, until it is let go.
+class StuckDates final : public DateService {
+ public:
+  StuckDates(std::binary_semaphore& reached, std::binary_semaphore& goOn) : reached_(reached), goOn_(goOn) {}
+  bool String2DateTime(std::wstring_view, RVDateTime&) const override {
+    if (!isFirst_.exchange(false)) return false;
+    reached_.release();
+    goOn_.acquire();
+    return false;
+  }
+
+ private:
+  std::binary_semaphore& reached_;
+  std::binary_semaphore& goOn_;
+  mutable std::atomic<bool> isFirst_ = true;
+};
 
 class BackgroundCheckTest : public ReportCheckTest {
  protected:
@@ -106,6 +124,28 @@ TEST_F(BackgroundCheckTest, FollowsAReportThatGoesOnChanging) {
   std::vector<Finding> findings;
   for (const Problem& problem : *found) findings.push_back(problem.finding);
   EXPECT_EQ(findings, atOnce.Findings());
+}
+
+TEST_F(BackgroundCheckTest, WhoEditsDoesNotWait) {
+  std::binary_semaphore reached(0), goOn(0);
+  host->dates = std::make_unique<StuckDates>(reached, goOn);
+  Load({"<date><id>d</id></date>" + Formule("", "f")});
+  BackgroundCheck check(*host, CheckChoice::AllHost(), [this] { ++told; });
+  check.Check(report);
+  reached.acquire();
+  for (const wchar_t* value : {L"1", L"1 +", L"2"}) {
+    Edit(1).value = value;
+    check.Check(report);
+    EXPECT_FALSE(check.Take());
+    EXPECT_FALSE(check.IsDone());
+  }
+  goOn.release();
+  Wait(check);
+  const auto found = check.Take();
+  ASSERT_TRUE(found);
+  ASSERT_EQ(found->size(), 1u) << "the formula is in order by now";
+  EXPECT_EQ(found->at(0).finding.code->name, L"DATECTRL_DATE_ERROR");
+  EXPECT_EQ(told, 1) << "of what was overtaken nothing is told";
 }
 
 TEST_F(BackgroundCheckTest, LooksAgainAtWhatLiesOutsideTheReport) {

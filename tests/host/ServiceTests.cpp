@@ -56,6 +56,20 @@ TEST_F(Settings, BrokenFileIsReadAsFarAsItGoes) {
   EXPECT_EQ(IniSettings(*host, file).ProfileText(L"a", L"x"), L"9");
 }
 
+TEST_F(Settings, FileThatIsNotAllSettingsIsSetAsideBeforeItIsReplaced) {
+  const Path file = host.Folder() / "s.ini";
+  for (const char* foreign : {"[a]\nx=1\nsomebody's notes\n", "\xFF\xFE[a]\nx=1\n"}) {
+    TestHost::WriteFile(file, foreign);
+    IniSettings(*host, file).SetRegistryText(L"LastInforme", L"ours");
+    EXPECT_EQ(IniSettings(*host, file).RegistryText(L"LastInforme"), L"ours");
+  }
+  EXPECT_EQ(TestHost::ReadFile(host.Folder() / "s.ini.set-aside"), "[a]\nx=1\nsomebody's notes\n");
+  EXPECT_EQ(TestHost::ReadFile(host.Folder() / "s.ini.set-aside-2").substr(0, 2), "\xFF\xFE");
+  EXPECT_THAT(host.logger->Text(3), HasSubstr("s.ini.set-aside-2"));
+  IniSettings(*host, file).SetRegistryText(L"LastInforme", L"ours again");
+  EXPECT_EQ(host->files->List(host.Folder(), L".set-aside").size(), 1u) << "our own file is whole";
+}
+
 TEST(Guids, AreUniqueUpperCaseAndFitForAFileName) {
   RandomGuids guids;
   std::set<std::wstring> seen;

@@ -15,7 +15,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
-class Painting : public ::testing::Test {
+class Painting : public HostTest {
  protected:
   Painting() { EnsureHeadlessQt(); }
 
@@ -133,18 +133,23 @@ TEST_F(Painting, PicturesAreScaledIntoTheirPlaceWithTheirAlpha) {
   EXPECT_EQ(Map(Painted(3, 2, draw)), (Rows{"#..", "#.."}));
 }
 
-TEST_F(Painting, PictureCacheIsBoundedAndKeepsTheLastUsed) {
+TEST_F(Painting, PictureCachesShareOneLimitAndKeepTheLastUsed) {
   auto picture = std::make_shared<Picture>();
   picture->width = picture->height = 1;
   picture->rgb = {1, 2, 3};
+  PictureMemory& memory = *host->pictureStore.Memory();
   PictureCache cache;
+  PictureCache other;
   const qint64 first = cache.Scaled(picture, {10, 10}).cacheKey();
-  for (int side = 3000; side < 3010; ++side) {
-    cache.Scaled(picture, {side, side});
+  for (int side = 3000; side < 3020; ++side) {
+    (side % 2 ? cache : other).Scaled(picture, {side, side});
     EXPECT_EQ(cache.Scaled(picture, {10, 10}).cacheKey(), first);
+    EXPECT_LE(memory.Used(), memory.Limit());
   }
-  const qint64 whole = cache.Whole(picture).cacheKey();
-  EXPECT_NE(whole, first);
+  EXPECT_GT(memory.Used(), memory.Limit() / 2);
+  memory.SetLimit(1);
+  EXPECT_EQ(memory.Used(), 400u) << "what was used last stays, however large";
+  EXPECT_NE(cache.Whole(picture).cacheKey(), first);
   const std::weak_ptr<Picture> gone = picture;
   picture.reset();
   EXPECT_FALSE(gone.expired()) << "its address must not be used again while the cache knows it";

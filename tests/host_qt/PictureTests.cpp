@@ -6,9 +6,11 @@
 #include <QImage>
 
 #include "host/PngEncoder.h"
+#include "host/qt/PictureCache.h"
 #include "host/qt/QtHost.h"
 #include "host/qt/QtPictures.h"
 #include "platform/Base64.h"
+#include "support/TestHost.h"
 
 namespace xrpt {
 namespace {
@@ -141,6 +143,82 @@ TEST_F(Pictures, SvgThatReachesOutsideItselfIsRefused) {
                               Svg("<!-- " + std::string(9 << 20, 'x') + " -->"),
                               std::string("\x1F\x8B\x08\0\0\0\0\0", 8)};
   for (const std::string& row : rows) EXPECT_EQ(Size(row), "refused") << row.substr(0, 200);
+}
+
+// Large pictures of the image store, as cards see them.
+class StoredPictures : public HostTest {
+ protected:
+  StoredPictures() {
+    EnsureHeadlessQt();
+    host->pictures = std::make_unique<QtPictures>();
+  }
+  // Left half black, right half white.
+  void Store(const std::string& id, QSize size, const char* format = "png") {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    for (int y = 0; y < size.height(); ++y) {
+      auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+      std::fill(row + size.width() / 2, row + size.width(), 0xFFFFFFFFu);
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(image.save(&buffer, format, 30));
+    TestHost::WriteFile(host.Images() / (id + ".img"), EncodeBase64(buffer.data().toStdString()));
+  }
+  PicturePtr Of(const std::wstring& id) {
+    records.push_back(host->pictureStore.Attach(id, L"./"));
+    return records.back()->Current();
+  }
+  std::vector<ImageRecordPtr> records;
+};
+
+TEST_F(StoredPictures, LargeOnesAreDecodedAtTheSizeShownAndShareTheLimit) {
+  PictureMemory& memory = *host->pictureStore.Memory();
+  memory.SetLimit(8u << 20);
+  PictureCache cache;
+  for (int i = 0; i < 6; ++i) {
+    Store("p" + std::to_string(i), {3000, 2000}, i % 2 ? "png" : "jpg");
+    const PicturePtr picture = Of(L"p" + std::to_wstring(i));
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(std::pair(picture->width, picture->height), std::pair(3000, 2000));
+    const QImage shown = cache.Scaled(picture, {300, 200});
+    EXPECT_EQ(shown.size(), QSize(300, 200));
+    EXPECT_LT(qGray(shown.pixel(50, 100)), 10);
+    EXPECT_GT(qGray(shown.pixel(250, 100)), 245);
+    EXPECT_LE(cache.Whole(picture).sizeInBytes(), 4 << 20) << "even whole it is no larger than half the memory";
+    EXPECT_LE(memory.Used(), memory.Limit());
+  }
+}
+
+TEST_F(StoredPictures, SmallOnesAreKeptUntilThereAreTooMany) {
+  PictureMemory& memory = *host->pictureStore.Memory();
+  memory.SetLimit(8u << 20);
+  int kept = 0;
+  for (int i = 0; i < 12; ++i) {
+    Store("s" + std::to_string(i), {500, 500});
+    const PicturePtr picture = Of(L"s" + std::to_wstring(i));
+    kept += picture->source ? 0 : 1;
+    EXPECT_EQ(WithPixels(picture)->rgb.size(), 750'000u);
+  }
+  EXPECT_GT(kept, 2);
+  EXPECT_LT(kept, 12);
+  EXPECT_LE(memory.Used(), memory.Limit() / 2);
+  records.clear();
+  EXPECT_EQ(memory.Used(), 0u);
+}
+
+TEST_F(StoredPictures, OneThatTurnsOutUnreadableIsNoneFromThenOn) {
+  Store("cut", {3000, 2000});
+  const Path file = host.Images() / "cut.img";
+  TestHost::WriteFile(file, TestHost::ReadFile(file).substr(0, 2000));
+  const PicturePtr picture = Of(L"cut");
+  PictureCache cache;
+  ASSERT_TRUE(picture) << "its head is whole";
+  EXPECT_TRUE(cache.Scaled(picture, {30, 20}).isNull());
+  EXPECT_FALSE(records[0]->Current());
+  Store("cut", {3000, 2000});
+  records[0]->Reload();
+  EXPECT_TRUE(records[0]->Current());
 }
 
 }  // namespace

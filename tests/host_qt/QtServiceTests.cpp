@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -93,18 +94,33 @@ TEST_F(QtServices, ClipboardOfOthersMayHoldAnything) {
 TEST_F(QtServices, SettingsComeBackAsTheyWere) {
   const TemporaryFolder folder;
   const Path file = folder.Folder() / "s.ini";
+  RecordingLogger logger;
   const std::wstring awkward[] = {L"%s-SCBar-%d", L"a/b\\c", L"ñ=;", L"\"quoted\", list", L"@Variant", L"line\nline"};
   {
-    QtSettings settings(L"Software\\X", file);
+    QtSettings settings(L"Software\\X", file, logger);
     for (const std::wstring& text : awkward) settings.SetProfileText(text, text, text);
     settings.SetProfileInt(L"bars", L"width", -12);
     settings.SetRegistryText(L"LastInforme", L"report1, a");
   }
-  const QtSettings settings(L"Software\\X", file);
+  const QtSettings settings(L"Software\\X", file, logger);
   for (const std::wstring& text : awkward) EXPECT_EQ(settings.ProfileText(text, text), text);
   EXPECT_EQ(settings.ProfileInt(L"bars", L"width", 7), -12);
   EXPECT_EQ(settings.ProfileInt(L"bars", L"height", 7), 7);
   EXPECT_EQ(settings.RegistryText(L"LastInforme"), L"report1, a");
+}
+
+TEST_F(QtServices, SettingsThatCannotBeReadAreSetAside) {
+  const TemporaryFolder folder;
+  RecordingLogger logger;
+  const Path broken = TestHost::WriteFile(folder.Folder() / "s.ini", "somebody's notes\nx=1\n");
+  const Path pipe = folder.Folder() / "pipe.ini";
+  ::mkfifo(pipe.c_str(), 0600);
+  for (const Path& file : {broken, pipe}) {
+    QtSettings(L"Software\\X", file, logger).SetRegistryText(L"LastInforme", L"ours");
+    EXPECT_EQ(QtSettings(L"Software\\X", file, logger).RegistryText(L"LastInforme"), L"ours");
+  }
+  EXPECT_EQ(TestHost::ReadFile(folder.Folder() / "s.ini.set-aside"), "somebody's notes\nx=1\n");
+  EXPECT_TRUE(std::filesystem::is_fifo(folder.Folder() / "pipe.ini.set-aside"));
 }
 
 TEST_F(QtServices, LocaleNamesAndSeparatorsFollowTheLanguage) {

@@ -4,6 +4,7 @@
 #include "CardSupport.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "platform/NamedFiles.h"
 
 namespace xrpt {
 namespace {
@@ -101,6 +102,88 @@ TEST_F(ReportFiles, AFailedSaveSaysWhyAndLeavesTheReportModified) {
   EXPECT_TRUE(report.modified);
   EXPECT_TRUE(report.SaveTo(host.Cfg() / "free.xrpt"));
   EXPECT_FALSE(report.modified);
+}
+
+TEST_F(ReportFiles, GoBackToTheFileTheyWereReadFrom) {
+  const SaveRules back{true, true};
+  const Path elsewhere = TestHost::WriteFile(host.Folder() / "other" / "copy.xrpt",
+                                             "<reportLayout><id>A</id><name>Energy</name></reportLayout>");
+  RVReport report;
+  report.LoadFile(elsewhere);
+  EXPECT_TRUE(report.Save(back));
+  EXPECT_EQ(FileNames().size(), 0u);
+  EXPECT_EQ(report.File(), elsewhere);
+  report.name = L"Renamed";
+  EXPECT_TRUE(report.Save(back));
+  EXPECT_EQ(FileNames(), std::vector<std::string>{"A.Renamed.xrpt"});
+  EXPECT_TRUE(report.Save(back)) << "its own file by now";
+  EXPECT_EQ(FilesOfName(*host->files, host.Cfg(), L"Renamed", kReportEnding).size(), 1u);
+  Write("B.Renamed.xrpt", "");
+  Write("C.Not.Renamed.xrpt", "");
+  EXPECT_EQ(FilesOfName(*host->files, host.Cfg(), L"Renamed", kReportEnding).size(), 2u);
+}
+
+TEST_F(ReportFiles, AskBeforeTheyReplaceWhatOthersWrote) {
+  const SaveRules asking{true, true};
+  const Path file = Write("A.Energy.xrpt", "<id>A</id><name>Energy</name>");
+  RVReport report;
+  report.Load(L"Energy");
+  EXPECT_FALSE(report.HasChangedOnDisk());
+  Write("A.Energy.xrpt", "<id>A</id><name>Energy</name><version>2</version>");
+  EXPECT_TRUE(report.HasChangedOnDisk());
+  const SaveResult changed = report.Save(asking);
+  EXPECT_EQ(changed.outcome, SaveOutcome::Changed);
+  EXPECT_EQ(changed.file, file);
+  EXPECT_TRUE(report.modified);
+  EXPECT_TRUE(report.Save({true, false})) << "the user said so";
+  EXPECT_TRUE(report.Save(asking)) << "nobody wrote since";
+  std::filesystem::remove(file);
+  EXPECT_EQ(report.Save(asking).outcome, SaveOutcome::Changed) << "gone";
+  Write("A.Taken.xrpt", "");
+  report.name = L"Taken";
+  EXPECT_EQ(report.Save(asking).outcome, SaveOutcome::Taken);
+  EXPECT_NE(TextOf(report.Save(asking)).find(L"A.Taken.xrpt"), std::wstring::npos);
+}
+
+TEST_F(ReportFiles, NoIdentifierLeadsOutOfTheFolder) {
+  for (const char* id : {"../../out", "/etc/x", "..", "a/../../b", "c:\\d"}) {
+    RVReport report;
+    report.LoadFile(Write("A.x.xrpt", "<id>" + std::string(id) + "</id><name>x</name>"));
+    ASSERT_TRUE(report.Save()) << id;
+    EXPECT_EQ(report.File().parent_path(), host.Cfg()) << id;
+    EXPECT_EQ(ValueOf(TestHost::ReadFile(report.File()), "id"), id) << "the identifier itself stays";
+  }
+}
+
+TEST_F(ReportFiles, EvidentlyAnotherDocumentIsRefused) {
+  const std::pair<const char*, bool> rows[] = {{"<svg><g/></svg>", false},
+                                               {"<style><id>1</id><name>Title</name><font/></style>", false},
+                                               {"<devices><device><id>D</id></device></devices>", false},
+                                               {"<controlClipboard><label/></controlClipboard>", false},
+                                               {"<reportLayout/>", true},
+                                               {"<layout><page/></layout>", true},
+                                               {"<layout><formules/></layout>", true},
+                                               {"<layout><name>n</name></layout>", true},
+                                               {"<style><page/></style>", true}};
+  for (const auto& [bytes, isReport] : rows) {
+    RVReport report;
+    const LoadResult result = report.LoadFile(host.WriteCfg("A.x.xrpt", bytes));
+    EXPECT_EQ(result.loaded, isReport) << bytes;
+    EXPECT_EQ(result.error.message.empty(), isReport) << bytes;
+    EXPECT_EQ(report.File().empty(), !isReport) << "it will not be saved over " << bytes;
+  }
+}
+
+TEST_F(ReportFiles, ReferencesToUnknownStylesAreCounted) {
+  host.WriteCfg("KNOWN.Title.XSTY", "<style><id>KNOWN</id><name>Title</name><font/></style>");
+  const std::string gone = "<style>GONE</style>";
+  RVReport report;
+  const LoadResult result = report.LoadFile(Write(
+      "A.x.xrpt", "<page><label><style>KNOWN</style></label><label>" + gone + "</label><date/><label><style/></label>" +
+                      "<reportGraph>" + gone + "</reportGraph><conditioned><control><condition/><label>" + gone +
+                      "</label></control></conditioned></page><page><formule>" + gone + "</formule></page>"));
+  EXPECT_EQ(result.lostStyles, 4);
+  EXPECT_EQ(report.LoadFile(Write("A.x.xrpt", "<page/>")).lostStyles, 0);
 }
 
 TEST_F(ReportFiles, WhatCouldNotBeOpenedAgainIsNotWritten) {

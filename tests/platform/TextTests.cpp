@@ -89,13 +89,14 @@ TEST(Base64Texts, AreRefusedOrUnescaped) {
   for (const auto& [escaped, text] : rows) EXPECT_EQ(Xml2Text(escaped), text) << escaped;
 }
 
-TEST(Json, EscapesWhatWouldEndAText) {
+TEST(Json, EscapesWhatWouldEndATextOrCommandATerminal) {
   JsonWriter out;
   out.BeginObject();
   out.Key("a \"key\"");
   out.String(L"q\" b\\ n\n r\r t\t \x01 \x1F \x7F \xE9 </script>");
   out.EndObject();
-  EXPECT_EQ(out.Text(), "{\"a \\\"key\\\"\":\"q\\\" b\\\\ n\\n r\\r t\\t \\u0001 \\u001f \x7F \xC3\xA9 </script>\"}");
+  EXPECT_EQ(out.Text(),
+            "{\"a \\\"key\\\"\":\"q\\\" b\\\\ n\\n r\\r t\\t \\u0001 \\u001f \\u007f \xC3\xA9 </script>\"}");
 }
 
 TEST(Json, CommasStandBetweenAndNowhereElse) {

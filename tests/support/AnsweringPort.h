@@ -1,11 +1,14 @@
 // An application of plain answers round the editor's frame.
 #pragma once
 
+#include <algorithm>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "editor/EditorPort.h"
+#include "model/RVReport.h"
 #include "support/StillWindow.h"
 
 namespace xrpt {
@@ -22,6 +25,21 @@ class AnsweringPort final : public EditorPort {
     asked.push_back(textId);
     return answer;
   }
+  // The answers given beforehand, then Yes or No.
+  std::size_t Decide(const Question& question) override {
+    if (decisions.empty()) return EditorPort::Decide(question);
+    asked.push_back(question.textId);
+    questions.push_back(question);
+    const auto at = std::find(question.answers.begin(), question.answers.end(), decisions.front());
+    decisions.pop_front();
+    return static_cast<std::size_t>(at - question.answers.begin());
+  }
+  std::optional<std::wstring> AskForName(const std::wstring& proposed) override {
+    return name ? name : EditorPort::AskForName(proposed);
+  }
+  void ReportOpened(const LoadResult&) override { ++opened; }
+  void SaveFailed(const SaveResult&) override { ++failed; }
+  void ShowDifferences(const Path&, const RVReport&) override { ++compared; }
   void Tell(int textId) override { told.push_back(textId); }
   std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
 
@@ -29,6 +47,12 @@ class AnsweringPort final : public EditorPort {
   Answer answer = Answer::No;
   std::vector<int> asked;
   std::vector<int> told;
+  std::deque<int> decisions;  // text ids of answers
+  std::vector<Question> questions;
+  std::optional<std::wstring> name;
+  int opened = 0;
+  int failed = 0;
+  int compared = 0;
   std::optional<std::wstring> chosen;
 };
 

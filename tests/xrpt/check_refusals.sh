@@ -48,15 +48,22 @@ script 1 'select nobody\n'
 script 2 'select a\nset a shoeSize 44\n'
 script 1 'command Print\n'
 
+printf '' >"$work/file"
 printf 'not xml' >"$work/text.xrpt"
 printf '' >"$work/empty.xrpt"
 refuse text.xrpt resave "$work/text.xrpt" -o "$work/out.xrpt"
 refuse empty.xrpt resave "$work/empty.xrpt" -o "$work/out.xrpt"
 refuse "$work" resave "$work" -o "$work/out.xrpt"
+printf '<svg><g/></svg>' >"$work/picture.svg"
+refuse 'not a report' resave "$work/picture.svg" -o "$work/out.xrpt"
+refuse 'not a report' edit "$work/picture.svg" -o "$work/out.xrpt" --actions "$work/file"
+mkfifo "$work/pipe"
+refuse 'Not a plain file' edit "$folder/plain.xrpt" -o "$work/out.xrpt" --actions "$work/pipe"
+refuse 'Not a plain file' resave "$work/pipe" -o "$work/out.xrpt"
+refuse 'Not a plain file' resave "$folder/plain.xrpt" -o "$work/pipe"
 refuse missing.xrpt resave "$work/missing.xrpt" -o "$work/out.xrpt"
 refuse 'required' resave "$folder/plain.xrpt"
 refuse 'dpi' resave "$folder/plain.xrpt" -o "$work/out.xrpt" --dpi 0
-printf '' >"$work/file"
 printf 'command Save\n' >"$work/actions"
 refuse 'actions:1: .*Not a directory' edit "$folder/plain.xrpt" --config "$work/file" -o "$work/out.xrpt" --actions "$work/actions"
 if "$xrpt" resave "$folder/plain.xrpt" -o - >/dev/full 2>"$work/stderr"; then
@@ -64,4 +71,19 @@ if "$xrpt" resave "$folder/plain.xrpt" -o - >/dev/full 2>"$work/stderr"; then
   failed=1
 fi
 refuse nowhere resave "$folder/plain.xrpt" -o "$work/nowhere/out.xrpt"
+
+# Control characters of content, names and arguments never reach a terminal.
+escape=$(printf '\033')
+sed "s/<name>.*<\/name>/<name>\&#27;[2J\&#155;31m<\/name>/" "$folder/plain.xrpt" >"$work/evil$escape[2J.xrpt"
+{
+  "$xrpt" info "$work/evil$escape[2J.xrpt"
+  "$xrpt" info "$work/evil$escape[2J.xrpt" --format json
+  "$xrpt" info "$work/none$escape[2J.xrpt"
+  "$xrpt" info --none "$escape[2J"
+  "$xrpt" edit "$work/evil$escape[2J.xrpt" -o "$work/out.xrpt" --actions "$work/none$escape[2J"
+} >"$work/stdout" 2>&1
+if LC_ALL=C grep -q "$(printf '[\001-\010\013-\037\177]\|\302\233')" "$work/stdout"; then
+  echo "a control character came through:" && cat -v "$work/stdout"
+  failed=1
+fi
 exit $failed

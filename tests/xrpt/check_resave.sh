@@ -8,6 +8,7 @@ examples=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
+: >"$work/none"
 same_but_revision() {
   if diff "$1" "$2" | grep '^[<>]' | grep -v '<revision>'; then
     echo "$2 differs from $1 in more than its revision"
@@ -29,6 +30,14 @@ done
 
 "$xrpt" resave "$report" --images "$examples/images" -o - >"$work/piped.xrpt"
 same_but_revision "$report" "$work/piped.xrpt"
+
+# In a folder without its styles what is lost is counted, and the exit status stays.
+references=$(grep -cE '<style>[0-9A-F-]{36}</style>' "$report")
+for command in resave edit; do
+  "$xrpt" $command "$report" --config "$work" -o "$work/bare.xrpt" $([ $command = resave ] || echo --actions "$work/none") \
+    2>"$work/stderr"
+  [ "$(grep -c "warning: $references references" "$work/stderr")" -eq 1 ] || { cat "$work/stderr" && exit 1; }
+done
 
 y=20
 for tool in label image date formule conditioned reportGraph analogBar primitive; do

@@ -8,15 +8,28 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QVBoxLayout>
+#include <map>
 
 #include "desktop/TextIds.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "editor/CommandTexts.h"
 #include "model/RVReport.h"
+#include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 
 namespace xrpt {
+
+namespace {
+
+// Opening puts the ending on again, as on a name.
+QString WithoutEnding(const QString& file) {
+  const QString ending = ToQString(kReportEnding);
+  return file.endsWith(ending) ? file.chopped(ending.size()) : file;
+}
+
+}  // namespace
 
 OpenDialog::OpenDialog(const std::wstring& current, QWidget* parent) : QDialog(parent) {
   setWindowTitle(Translated(text::kOpenReport));
@@ -37,7 +50,7 @@ OpenDialog::OpenDialog(const std::wstring& current, QWidget* parent) : QDialog(p
 void OpenDialog::AddList(QBoxLayout& column) {
   list_ = new QTreeWidget(this);
   list_->setAccessibleName(Translated(text::kReports));
-  list_->setHeaderLabels({Translated(text::kReportName), Translated(text::kChangedOn)});
+  list_->setHeaderLabels({Translated(text::kReportName), Translated(text::kChangedOn), Translated(text::kFileColumn)});
   list_->setRootIsDecorated(false);
   list_->setAlternatingRowColors(true);
   list_->setFrameShape(QFrame::StyledPanel);
@@ -45,6 +58,7 @@ void OpenDialog::AddList(QBoxLayout& column) {
   list_->header()->setStretchLastSection(false);
   list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+  list_->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
   connect(list_, &QTreeWidget::itemSelectionChanged, this, [this] { Refresh(); });
   connect(list_, &QTreeWidget::itemActivated, this, [this] { accept(); });
   column.addWidget(list_, 1);
@@ -63,17 +77,31 @@ void OpenDialog::AddButtons(QBoxLayout& column) {
   column.addWidget(buttons);
 }
 
+// Reports of one name are told apart by their files.
 void OpenDialog::Fill(const std::wstring& current) {
-  for (const Path& file : CurrentHost().files->List(CurrentHost().setup->CfgPath(), kReportEnding)) {
-    const QFileInfo info(ToQString(file.wstring()));
-    const QString name = ToQString(NameOfFile(file, kReportEnding));
-    auto* item = new QTreeWidgetItem(list_, {name, QLocale().toString(info.lastModified(), QLocale::ShortFormat)});
-    item->setIcon(0, ThemedIcon(QStringLiteral("portrait")));
-    if (name == ToQString(current)) list_->setCurrentItem(item);
+  const std::vector<Path> files = CurrentHost().files->List(CurrentHost().setup->CfgPath(), kReportEnding);
+  std::map<std::wstring, int> count;
+  for (const Path& file : files) ++count[NameOfFile(file, kReportEnding)];
+  bool hasSeveral = false;
+  for (const Path& file : files) {
+    const bool isOneOfSeveral = count[NameOfFile(file, kReportEnding)] > 1;
+    AddFile(file, isOneOfSeveral, current);
+    hasSeveral = hasSeveral || isOneOfSeveral;
   }
+  list_->setColumnHidden(2, !hasSeveral);
   list_->sortItems(0, Qt::AscendingOrder);
   if (!list_->currentItem() && list_->topLevelItemCount() > 0) list_->setCurrentItem(list_->topLevelItem(0));
   Refresh();
+}
+
+void OpenDialog::AddFile(const Path& file, bool isOneOfSeveral, const std::wstring& current) {
+  const QFileInfo info(ToQString(file.wstring()));
+  const QString name = ToQString(NameOfFile(file, kReportEnding));
+  auto* item = new QTreeWidgetItem(
+      list_, {name, QLocale().toString(info.lastModified(), QLocale::ShortFormat), info.fileName()});
+  item->setIcon(0, ThemedIcon(QStringLiteral("portrait")));
+  item->setData(0, Qt::UserRole, isOneOfSeveral ? WithoutEnding(info.absoluteFilePath()) : name);
+  if (name == ToQString(current)) list_->setCurrentItem(item);
 }
 
 void OpenDialog::Filter(const QString& typed) {
@@ -89,7 +117,7 @@ void OpenDialog::Filter(const QString& typed) {
 
 void OpenDialog::Refresh() {
   const QTreeWidgetItem* item = list_->currentItem();
-  chosen_ = item && !item->isHidden() ? item->text(0).toStdWString() : std::wstring();
+  chosen_ = item && !item->isHidden() ? item->data(0, Qt::UserRole).toString().toStdWString() : std::wstring();
   open_->setEnabled(!chosen_.empty());
 }
 
@@ -99,9 +127,7 @@ void OpenDialog::Browse() {
       this, Translated(text::kOpenReport), folder,
       QStringLiteral("%1 (*%2)").arg(Translated(text::kReports), ToQString(kReportEnding)));
   if (file.isEmpty()) return;
-  // Opening puts the ending on again, as on a name.
-  const QString ending = ToQString(kReportEnding);
-  chosen_ = (file.endsWith(ending) ? file.chopped(ending.size()) : file).toStdWString();
+  chosen_ = WithoutEnding(file).toStdWString();
   accept();
 }
 

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/Files.h"
+
 class QBoxLayout;
 class QLineEdit;
 class QPushButton;
@@ -24,6 +26,7 @@ class OpenDialog final : public QDialog {
   void AddList(QBoxLayout& column);
   void AddButtons(QBoxLayout& column);
   void Fill(const std::wstring& current);
+  void AddFile(const Path& file, bool isOneOfSeveral, const std::wstring& current);
   void Filter(const QString& typed);
   void Browse();
   void Refresh();

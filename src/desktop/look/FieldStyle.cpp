@@ -138,6 +138,13 @@ void FieldStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     DrawBox(*painter, option->rect, Qt::transparent, CurrentTheme().accent);
 }
 
+// Buttons of dialogs say what they do in words alone.
+int FieldStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* data) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 int FieldStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_ScrollBarExtent) return 12;
   return QProxyStyle::pixelMetric(metric, option, widget);

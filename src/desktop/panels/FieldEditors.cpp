@@ -2,15 +2,16 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCompleter>
 #include <QFontComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
-#include <QStringListModel>
 
 #include "desktop/TextIds.h"
+#include "desktop/dialogs/PictureChooser.h"
+#include "desktop/dialogs/VariableChooser.h"
 #include "desktop/look/Texts.h"
+#include "desktop/panels/ChosenField.h"
 #include "desktop/panels/ColorButton.h"
 #include "desktop/panels/MixedSpinBox.h"
 #include "platform/NamedFiles.h"
@@ -48,15 +49,6 @@ class TextEditor final : public EditorOf<QLineEdit> {
     const QString shown = ToQString(text.value_or(L""));
     control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
     if (control_->text() != shown) control_->setText(shown);
-  }
-  // Names to complete what is typed from.
-  void Offer(const QStringList& names) {
-    auto* completer = new QCompleter(names, control_);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setFilterMode(Qt::MatchContains);
-    control_->setCompleter(completer);
-    QObject::connect(completer, qOverload<const QString&>(&QCompleter::activated), control_,
-                     [this](const QString& text) { Tell(text); });
   }
 };
 
@@ -157,23 +149,22 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
     QObject::connect(control_, &QComboBox::activated, control_,
                      [this](int index) { Tell(control_->itemData(index).toString()); });
   }
-  void Offer(const QString& label, const QString& text) { control_->addItem(label, text); }
-  // They change with another field of the card.
+  void Add(const QString& label, const QString& text) { control_->addItem(label, text); }
   void Offer(std::span<const Word> words) override {
-    if (words.data() == words_.data()) return;
+    if (words.empty() || words.data() == words_.data()) return;
+    words_ = words;
     const QSignalBlocker quiet(control_);
     control_->clear();
     for (const Word& word : words) {
       const QString text = QString::fromLatin1(word.text);
-      Offer(word.textId ? Translated(word.textId) : text, text);
+      Add(word.textId ? Translated(word.textId) : text, text);
     }
-    words_ = words;
   }
   void Show(const std::optional<std::wstring>& text) override {
     const QSignalBlocker quiet(control_);
     int index = text ? control_->findData(ToQString(*text)) : -1;
     if (text && index < 0) {  // a text that is no word of the list is kept and shown
-      control_->addItem(ToQString(*text), ToQString(*text));
+      Add(ToQString(*text), ToQString(*text));
       index = control_->count() - 1;
     }
     control_->setCurrentIndex(index);
@@ -205,29 +196,35 @@ class FaceEditor final : public EditorOf<QFontComboBox> {
   }
 };
 
-QStringList VariableNames() {
-  QStringList names;
-  for (const Device& device : CurrentHost().devices->Devices()) {
-    for (const DeviceVariable& variable : device.variables)
-      names.append(ToQString(CurrentHost().variables->JoinDriverVariable({device.id, variable.id, {}, {}})));
+// A name that can be typed, or chosen in a window of its own.
+class ChosenEditor final : public EditorOf<ChosenField> {
+ public:
+  ChosenEditor(const char* icon, int buttonTextId, ChosenField::Chooser choose, Edited edited, QWidget* parent)
+      : EditorOf(std::move(edited), parent) {
+    control_->SetChooser(icon, buttonTextId, std::move(choose));
+    control_->edited = [this](const QString& text) { Tell(text); };
   }
-  return names;
-}
+  void Show(const std::optional<std::wstring>& text) override { control_->Show(text); }
+};
 
 std::unique_ptr<FieldEditorWidget> MakeStyle(FieldEditorWidget::Edited edited, QWidget* parent) {
   auto choice = std::make_unique<ChoiceEditor>(std::move(edited), parent);
-  choice->Offer(Translated(text::kNoStyle), QString());
+  choice->Add(Translated(text::kNoStyle), QString());
   for (const Path& file : CurrentHost().files->List(CurrentHost().setup->CfgPath(), kStyleEnding)) {
     const QString name = ToQString(NameOfFile(file, kStyleEnding));
-    choice->Offer(name, name);
+    choice->Add(name, name);
   }
   return choice;
 }
 
 std::unique_ptr<FieldEditorWidget> MakeVariable(FieldEditorWidget::Edited edited, QWidget* parent) {
-  auto field = std::make_unique<TextEditor>(std::move(edited), parent);
-  field->Offer(VariableNames());
-  return field;
+  return std::make_unique<ChosenEditor>("devices", text::kChooseVariable, &VariableChooser::Choose, std::move(edited),
+                                        parent);
+}
+
+std::unique_ptr<FieldEditorWidget> MakePicture(FieldEditorWidget::Edited edited, QWidget* parent) {
+  return std::make_unique<ChosenEditor>("image", text::kChoosePicture, &PictureChooser::Choose, std::move(edited),
+                                        parent);
 }
 
 }  // namespace
@@ -257,6 +254,8 @@ std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEdi
       return MakeStyle(std::move(edited), parent);
     case FieldEditor::Variable:
       return MakeVariable(std::move(edited), parent);
+    case FieldEditor::Picture:
+      return MakePicture(std::move(edited), parent);
   }
   return nullptr;
 }

@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 
 #include "model/FieldTable.h"
@@ -20,7 +19,7 @@ class FieldEditorWidget {
 
   virtual ~FieldEditorWidget() = default;
   virtual QWidget* Widget() = 0;
-  // The words to choose from, where that is asked of a choice.
+  // The words to choose from, for a choice whose words hang on another field.
   virtual void Offer(std::span<const Word>) {}
   // Filling never counts as an edit.
   virtual void Show(const std::optional<std::wstring>& text) = 0;

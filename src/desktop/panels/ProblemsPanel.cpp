@@ -169,6 +169,7 @@ void ProblemsPanel::PutRight() {
   if (beforeAct) beforeAct();
   const Problem* problem = Chosen();
   if (problem && ApplyRemedy(frame_, *problem) && acted) acted();
+  list_->setFocus();  // the button is about to have nothing to do
 }
 
 void ProblemsPanel::CopyMessage() {

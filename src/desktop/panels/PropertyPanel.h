@@ -1,61 +1,59 @@
-// The fields of the selected cards, or of the page, in titled sections. It knows no card: the fields' rows say what
-// there is and how it is edited.
+// What there is to edit of the selected cards, or of the page: their fields, the items of a card that has a list, the
+// alternatives of a conditioned card, the page's background picture.
 #pragma once
 
 #include <QScrollArea>
-#include <memory>
-#include <vector>
 
 #include "editor/SelectedFields.h"
 
-class QBoxLayout;
-class QGridLayout;
 class QLabel;
 class QTimer;
 
 namespace xrpt {
 
-class FieldEditorWidget;
+class AlternativesEditor;
+class FieldForm;
 class FieldUndo;
+class ItemsEditor;
 
 class PropertyPanel final : public QScrollArea {
  public:
-  PropertyPanel(SelectedFields& fields, QWidget* parent = nullptr);
-  ~PropertyPanel() override;
+  PropertyPanel(RVEditControlWnd& frame, QWidget* parent = nullptr);
 
-  // Shows what is selected now. The same widgets are filled again as long as the same fields are shown.
+  // Shows what is selected now.
   void Refresh();
+  // The same with new widgets: what they offer changed (styles, devices).
+  void Reload();
   // Ends the edit under way: what was changed since the last end is one step of the history. Edits end by themselves
   // when the user pauses.
   void Commit();
   // Puts the keyboard on the first field.
   void FocusFirst();
-  // The widget of a field by its full name; null when it is not shown.
+  // The widget of a field by its full name; null when it is not shown. Those of an alternative's card stand behind
+  // the card's own.
   QWidget* Find(std::string_view name) const;
+  ItemsEditor& Items() { return *items_; }
+  AlternativesEditor& Alternatives() { return *alternatives_; }
 
   // A field was changed.
   std::function<void()> edited;
 
  private:
-  struct Entry {
-    const FieldRow* row;
-    std::unique_ptr<FieldEditorWidget> editor;
-  };
-
-  bool ShowsSameFields(const std::vector<FieldState>& states) const;
-  void Rebuild(const std::vector<FieldState>& states);
-  void AddSection(QBoxLayout& column, FieldGroup group, const std::vector<FieldState>& states);
-  QGridLayout* StartSection(QBoxLayout& column, FieldGroup group);
-  void AddField(QGridLayout& grid, const FieldRow& row, int index);
+  FieldForm* AddForm(const char* prefix, SelectedFields& fields);
   void ShowTitle();
+  void Touch();
   void EndStep();
-  void Edit(const FieldRow& row, const std::string& text);
 
-  SelectedFields& fields_;
-  QLabel* title_ = nullptr;
-  std::vector<Entry> entries_;
+  SelectedFields fields_;
+  SelectedFields background_;
   QTimer* idle_;
   FieldUndo* undo_;
+  QLabel* title_ = nullptr;
+  FieldForm* form_ = nullptr;
+  ItemsEditor* items_ = nullptr;
+  AlternativesEditor* alternatives_ = nullptr;
+  QWidget* backgroundTitle_ = nullptr;
+  FieldForm* backgroundForm_ = nullptr;
   bool isTyping_ = false;  // something was changed since the last end
 };
 

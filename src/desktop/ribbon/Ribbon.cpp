@@ -63,7 +63,8 @@ class Ribbon::Header final : public QWidget {
   }
   bool event(QEvent* event) override {
     const bool done = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange ||
+        event->type() == QEvent::Show) {
       updateGeometry();
       Place();
     }
@@ -71,8 +72,10 @@ class Ribbon::Header final : public QWidget {
   }
 
  private:
+  // The tabs are as wide as their style says, which they have only once they are polished.
   void Place() {
     if (!corner_) return;
+    tabs_->ensurePolished();
     const int wanted = tabs_->sizeHint().width() + kHeaderMargin;
     const int corner = corner_->Fit(width() - wanted - 2 * kHeaderMargin);
     const int tabs = std::max(0, std::min(wanted, width() - corner - 2 * kHeaderMargin));

@@ -230,7 +230,7 @@ void QtGraphics::DrawPicture(const PicturePtr& picture, const RectD& target) {
   const QSizeF size = place.size() * dots;
   if (IsOnPixels() && size.width() * size.height() <= double(kMaxScaledPixels)) {
     painter_.drawImage(place, cache_.Scaled(picture, size.toSize().expandedTo({1, 1})));
-  } else if (const QImage& whole = cache_.Whole(picture); !whole.isNull()) {
+  } else if (const QImage whole = cache_.Whole(picture); !whole.isNull()) {
     painter_.drawImage(place, whole);
   }
 }

@@ -36,18 +36,17 @@ void EnsureHeadlessQt() {
   std::setlocale(LC_NUMERIC, "C");
 }
 
-std::unique_ptr<Host> MakeQtHost(HostOptions options) {
+std::unique_ptr<Host> MakeQtHost(const HostOptions& options) {
   EnsureHeadlessQt();
   QuietPictureReaders();
-  const Path settingsFile = options.settingsFile;
-  const int dpi = options.dpi;
-  auto host = MakeDefaultHost(std::move(options));
-  host->settings = std::make_unique<QtSettings>(host->setup->RegisterKey(), settingsFile);
+  auto host = MakeDefaultHost(options);
+  host->settings = std::make_unique<QtSettings>(host->setup->RegisterKey(), options.settingsFile, *host->logger);
   host->pictures = std::make_unique<QtPictures>();
   host->fonts = std::make_unique<QtFonts>();
   host->clipboard = std::make_unique<QtClipboard>();
   host->locale = std::make_unique<QtLocale>();
-  host->screen = std::make_unique<QtScreen>(dpi);
+  host->screen = std::make_unique<QtScreen>(options.dpi);
+  LimitPictures(*host, options);
   return host;
 }
 

@@ -6,7 +6,7 @@
 namespace xrpt {
 
 // A desktop makes its application object first; without one a windowless one is made.
-std::unique_ptr<Host> MakeQtHost(HostOptions options);
+std::unique_ptr<Host> MakeQtHost(const HostOptions& options);
 
 // Makes the application object that fonts and pictures need, once, for programs that open no window: it needs no
 // display. On the main thread. Does nothing when there is one already.

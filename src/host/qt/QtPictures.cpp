@@ -49,28 +49,64 @@ void CopyRows(const QImage& rgb, Picture& picture) {
   }
 }
 
-// Nothing for what a reader should not even see.
-QImage ReadImage(const QByteArray& bytes) {
-  if (IsCompressed(bytes) || (LooksLikeSvg(bytes) && !IsSelfContainedSvg(bytes))) return {};
-  QBuffer buffer;
-  buffer.setData(bytes);
-  QImageReader reader(&buffer);
-  reader.setAutoTransform(true);
-  const bool isSvg = reader.format().startsWith("svg");
-  if ((isSvg && !LooksLikeSvg(bytes)) || !IsTolerable(reader.size())) return {};
-  return reader.read();
+bool MayBeRead(const QByteArray& bytes) {
+  return !IsCompressed(bytes) && (!LooksLikeSvg(bytes) || IsSelfContainedSvg(bytes));
 }
+
+QByteArray InPlace(std::string_view bytes) {
+  return QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+// A reader on bytes that it may see; otherwise one that reads nothing.
+class BoundedReader {
+ public:
+  explicit BoundedReader(std::string_view bytes) {
+    if (bytes.empty() || bytes.size() > QtPictures::kMaxBytes) return;
+    const QByteArray encoded = InPlace(bytes);
+    if (!MayBeRead(encoded)) return;
+    buffer_.setData(encoded);
+    reader_.setDevice(&buffer_);
+    reader_.setAutoTransform(true);
+    const bool isSvg = reader_.format().startsWith("svg");
+    mayRead_ = (!isSvg || LooksLikeSvg(encoded)) && IsTolerable(reader_.size());
+  }
+  // As it is shown: a camera's picture may lie on its side.
+  QSize Size() const { return mayRead_ ? Turned(reader_.size()) : QSize(); }
+  QImage Read(QSize size) {
+    if (!mayRead_) return {};
+    if (!size.isEmpty() && size != Size()) reader_.setScaledSize(Turned(size));
+    return reader_.read();
+  }
+
+ private:
+  QSize Turned(QSize size) const {
+    return reader_.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+  }
+
+  QBuffer buffer_;
+  QImageReader reader_;
+  bool mayRead_ = false;
+};
 
 }  // namespace
 
 // Four bytes for each pixel of the largest picture allowed.
 QtPictures::QtPictures() { QImageReader::setAllocationLimit(static_cast<int>(kMaxPixels * 4 >> 20)); }
 
-PicturePtr QtPictures::Decode(std::string_view bytes) {
-  if (bytes.empty() || bytes.size() > kMaxBytes) return nullptr;
-  const QByteArray raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  const QImage image = ReadImage(raw);
-  return image.isNull() ? nullptr : FromImage(image, bytes.size(), LooksLikeSvg(raw));
+PicturePtr QtPictures::DecodeScaled(std::string_view bytes, int width, int height) {
+  const QImage image = BoundedReader(bytes).Read({width, height});
+  return image.isNull() ? nullptr : FromImage(image, bytes.size(), LooksLikeSvg(InPlace(bytes)));
+}
+
+PicturePtr QtPictures::Outline(std::string_view bytes) {
+  const QSize size = BoundedReader(bytes).Size();
+  if (size.isEmpty()) return nullptr;
+  auto picture = std::make_shared<Picture>();
+  picture->width = size.width();
+  picture->height = size.height();
+  picture->encodedSize = bytes.size();
+  picture->isDrawing = LooksLikeSvg(InPlace(bytes));
+  return picture;
 }
 
 PicturePtr FromImage(const QImage& image, std::size_t encodedSize, bool isDrawing) {

@@ -13,7 +13,9 @@ class QtPictures final : public PictureService {
   static constexpr qint64 kMaxPixels = 64 << 20;
 
   QtPictures();
-  PicturePtr Decode(std::string_view bytes) override;
+  PicturePtr Decode(std::string_view bytes) override { return DecodeScaled(bytes, 0, 0); }
+  PicturePtr Outline(std::string_view bytes) override;
+  PicturePtr DecodeScaled(std::string_view bytes, int width, int height) override;
 };
 
 // Between the library's pictures and the toolkit's.

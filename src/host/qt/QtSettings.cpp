@@ -1,11 +1,17 @@
 #include "host/qt/QtSettings.h"
 
+#include <QStandardPaths>
 #include <QUrl>
 
+#include "host/AtomicWrite.h"
+#include "host/IniSettings.h"
+#include "host/SetAside.h"
 #include "platform/Numbers.h"
 
 namespace xrpt {
 namespace {
+
+constexpr std::size_t kLimit = 4u << 20;
 
 QString ToQt(std::wstring_view text) {
   return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
@@ -28,9 +34,34 @@ std::unique_ptr<QSettings> Open([[maybe_unused]] const std::wstring& registerKey
 #endif
 }
 
+// Where the toolkit keeps the settings; empty where that is no file.
+Path PlaceOf(const Path& file) {
+#ifdef Q_OS_WIN
+  return file;
+#else
+  if (!file.empty()) return file;
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return Path(folder.toStdWString()) / "report-template-editor" / "editor.conf";
+#endif
+}
+
+// The toolkit would wait for a pipe, and skip what it does not understand and write the rest in its place.
+bool IsAllSettings(const Path& file) {
+  std::error_code ignored;
+  if (file.empty() || !std::filesystem::exists(file, ignored)) return true;
+  std::string bytes;
+  bool isWhole = false;
+  if (!ReadWhole(file, kLimit, bytes)) ParseIni(bytes, &isWhole);
+  return isWhole;
+}
+
 }  // namespace
 
-QtSettings::QtSettings(const std::wstring& registerKey, const Path& file) : settings_(Open(registerKey, file)) {}
+QtSettings::QtSettings(const std::wstring& registerKey, const Path& file, LoggerService& logger) {
+  const Path place = PlaceOf(file);
+  if (!IsAllSettings(place)) SetAside(place, logger);
+  settings_ = Open(registerKey, file);
+}
 
 std::wstring QtSettings::RegistryText(std::wstring_view name) const {
   return settings_->value(Key(name)).toString().toStdWString();

@@ -9,8 +9,8 @@ namespace xrpt {
 
 class QtSettings final : public SettingsService {
  public:
-  // A file that is not empty takes the place of the desktop's store.
-  QtSettings(const std::wstring& registerKey, const Path& file);
+  // A file that is not empty takes the place of the desktop's store. One that cannot be read is set aside.
+  QtSettings(const std::wstring& registerKey, const Path& file, LoggerService& logger);
 
   std::wstring RegistryText(std::wstring_view name) const override;
   void SetRegistryText(std::wstring_view name, std::wstring_view text) override;

@@ -1,0 +1,96 @@
+#include "desktop/dialogs/SaveDialog.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/TextIds.h"
+#include "desktop/look/Texts.h"
+#include "model/RVReport.h"
+#include "platform/FileTexts.h"
+#include "platform/NamedFiles.h"
+#include "platform/Text.h"
+
+namespace xrpt {
+namespace {
+
+// Text id of what is wrong with a name, 0 when nothing is.
+int ProblemWith(const std::wstring& name) {
+  if (!IsSafeFileName(name)) return text::kBadName;
+  return FindNamedFile(CurrentHost().setup->CfgPath(), name, kReportEnding) ? text::kNameIsTaken : 0;
+}
+
+}  // namespace
+
+SaveDialog::SaveDialog(const std::wstring& name, bool offersFiles, QWidget* parent) : QDialog(parent) {
+  setWindowTitle(Translated(text::kSaveAsTitle));
+  auto* column = new QVBoxLayout(this);
+  auto* label = new QLabel(Translated(text::kReportName), this);
+  name_ = new QLineEdit(ToQString(name), this);
+  name_->setAccessibleName(Translated(text::kReportName));
+  label->setBuddy(name_);
+  problem_ = new QLabel(this);
+  problem_->setWordWrap(true);
+  problem_->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  problem_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  column->addWidget(label);
+  column->addWidget(name_);
+  column->addWidget(problem_);
+  AddButtons(*column, offersFiles);
+  connect(name_, &QLineEdit::textChanged, this, [this] { Check(); });
+  resize(460, sizeHint().height());
+  Check();
+  name_->selectAll();
+  name_->setFocus();
+}
+
+void SaveDialog::AddButtons(QBoxLayout& column, bool offersFiles) {
+  auto* buttons = new QDialogButtonBox(this);
+  save_ = buttons->addButton(Translated(text::kSaveAnswer), QDialogButtonBox::AcceptRole);
+  save_->setDefault(true);
+  buttons->addButton(Translated(text::kCancel), QDialogButtonBox::RejectRole);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  column.addWidget(buttons);
+  if (!offersFiles) return;
+  QPushButton* browse = buttons->addButton(Translated(text::kSaveAsFile), QDialogButtonBox::ActionRole);
+  browse->setAutoDefault(false);
+  connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
+}
+
+void SaveDialog::Check() {
+  target_.name = name_->text().trimmed().toStdWString();
+  const int problem = target_.name.empty() ? 0 : ProblemWith(target_.name);
+  problem_->setText(problem == 0 ? QString() : Translated(problem));
+  save_->setEnabled(problem == 0 && !target_.name.empty());
+}
+
+// The toolkit's dialog asks before a file is replaced.
+void SaveDialog::Browse() {
+  const QString ending = ToQString(kReportEnding);
+  QFileDialog dialog(this, Translated(text::kSaveAsTitle), ToQString(CurrentHost().setup->CfgPath().wstring()),
+                     QStringLiteral("%1 (*%2)").arg(Translated(text::kReports), ending));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(ending.mid(1));
+  dialog.selectFile(name_->text().trimmed());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  target_.file = Path(ToUtf8(dialog.selectedFiles().front().toStdWString()));
+  accept();
+}
+
+std::optional<SaveTarget> SaveDialog::Choose(const std::wstring& name, QWidget* parent) {
+  SaveDialog dialog(name, true, parent);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.target_;
+}
+
+std::optional<std::wstring> SaveDialog::ChooseName(const std::wstring& proposed, QWidget* parent) {
+  SaveDialog dialog(proposed, false, parent);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.target_.name;
+}
+
+}  // namespace xrpt

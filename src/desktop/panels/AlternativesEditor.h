@@ -1,0 +1,55 @@
+// The alternatives of a conditioned card: their list, the condition of the one that is shown, and the fields of its
+// card, edited where they stand.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "editor/SelectedAlternatives.h"
+#include "editor/SelectedFields.h"
+
+class QLineEdit;
+class QListWidget;
+
+namespace xrpt {
+
+class FieldForm;
+class FieldUndo;
+class ItemsEditor;
+class ListButtons;
+
+class AlternativesEditor final : public QWidget {
+ public:
+  // `changed` hears of every change.
+  AlternativesEditor(RVEditControlWnd& frame, FieldUndo& undo, std::function<void()> changed, QWidget* parent);
+
+  // Shows the card that is selected now; hides itself when it has no alternatives to be had.
+  void Refresh();
+  void Finish();
+  void Forget();
+  QWidget* Find(std::string_view name) const;
+  QListWidget& List() { return *list_; }
+  QLineEdit& Condition() { return *condition_; }
+
+ private:
+  void BuildList();
+  void BuildCondition(FieldUndo& undo);
+  void FillMenu();
+  void FillList();
+  void ShowShown();
+  void Add(const CardClass& kind);
+  void Remove();
+  void Move(int by);
+
+  SelectedAlternatives alternatives_;
+  SelectedFields fields_;
+  std::function<void()> changed_;
+  QListWidget* list_ = nullptr;
+  ListButtons* buttons_ = nullptr;
+  QWidget* shown_ = nullptr;
+  QLineEdit* condition_ = nullptr;
+  FieldForm* form_ = nullptr;
+  ItemsEditor* items_ = nullptr;
+};
+
+}  // namespace xrpt

@@ -1,0 +1,62 @@
+// Fields in titled sections, one widget a field. It knows no card: the fields' rows say what there is and how it is
+// edited. The same widgets are filled again as long as the same fields are shown.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "editor/SelectedFields.h"
+
+class QBoxLayout;
+class QGridLayout;
+
+namespace xrpt {
+
+class FieldEditorWidget;
+class FieldUndo;
+
+class FieldForm final : public QWidget {
+ public:
+  using Edited = std::function<void(const FieldRow&, const std::string&)>;
+
+  // `prefix` stands before the fields' names where one window holds several forms.
+  FieldForm(const char* prefix, FieldUndo& undo, Edited edited, QWidget* parent);
+  ~FieldForm() override;
+
+  void Show(const std::vector<FieldState>& states);
+  // Makes the widgets anew next time: what they offer changed.
+  void Forget();
+  // Tells what was typed and not told yet.
+  void Finish();
+  bool IsEmpty() const { return entries_.empty(); }
+  void FocusFirst();
+  // The widget of a field by its full name; null when it is not shown.
+  QWidget* Find(std::string_view name) const;
+
+ private:
+  struct Entry {
+    const FieldRow* row;
+    std::unique_ptr<FieldEditorWidget> editor;
+  };
+
+  bool ShowsSameFields(const std::vector<FieldState>& states) const;
+  void Rebuild(const std::vector<FieldState>& states);
+  void AddSection(QBoxLayout& column, FieldGroup group, const std::vector<FieldState>& states);
+  QGridLayout* StartSection(QBoxLayout& column, FieldGroup group);
+  void AddField(QGridLayout& grid, const FieldRow& row, int index);
+
+  QString prefix_;
+  FieldUndo& undo_;
+  Edited edited_;
+  QWidget* body_ = nullptr;
+  std::vector<Entry> entries_;
+};
+
+// The title of a section of a panel.
+QWidget* MakeSectionTitle(int textId, QWidget* parent);
+// Of a group of fields.
+int GroupTextId(FieldGroup group);
+
+}  // namespace xrpt
