@@ -1,8 +1,15 @@
 #include "desktop/EditedWindow.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
+#include <QMenu>
+#include <QToolButton>
 
+#include "desktop/panels/AlternativesEditor.h"
+#include "desktop/panels/FieldForm.h"
+#include "desktop/panels/ListButtons.h"
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/CornerBar.h"
@@ -36,20 +43,67 @@ void EditedWindow::WriteReport() {
 
 // --- What can be done ---
 
+std::vector<QWidget*> EditedWindow::UsableParts(const QWidget& within) {
+  std::vector<QWidget*> parts;
+  for (QWidget* part : within.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    const bool isUsable = part->focusPolicy() != Qt::NoFocus || part->focusProxy();
+    if (isUsable && part->isEnabled() && part->isVisible()) parts.push_back(part);
+  }
+  return parts;
+}
+
+// Widgets of fields are made anew when other fields are shown, so they are looked for when it is their turn.
 std::vector<Deed> EditedWindow::EditorDeeds(int turn) {
   std::vector<Deed> deeds;
-  for (const FieldState& field : SelectedFields(Frame()).Fields()) {
-    const std::string name = field.row->FullName();
-    if (field.row->panel.editor == FieldEditor::None) continue;
-    deeds.push_back({"field " + name, [this, name, turn] { UsePart(Window().Properties().Find(name), turn); }, true});
+  for (const FieldForm* form : PartsOf<FieldForm>(Window().Properties())) {
+    for (const QWidget* body : form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      for (const QWidget* part : UsableParts(*body)) {
+        const QString name = part->objectName();
+        deeds.push_back({"field " + name.toStdString(),
+                         [this, name, turn] { UsePart(Window().Properties().findChild<QWidget*>(name), turn); }, true});
+      }
+    }
   }
-  const QList<QWidget*> parts = PartOf<FontGroup>(Window()).findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-  for (QWidget* part : parts) {
-    if (part->focusPolicy() == Qt::NoFocus || !part->isEnabled()) continue;
+  if (QLineEdit& condition = Window().Properties().Alternatives().Condition(); condition.isVisible())
+    deeds.push_back({"condition", [this, &condition, turn] { UsePart(&condition, turn); }, true});
+  for (QWidget* part : UsableParts(PartOf<FontGroup>(Window()))) {
     const std::string name = "ribbon's " + part->accessibleName().toStdString();
     deeds.push_back({name, [this, part, turn] { UsePart(part, turn + 3); }, true});
   }
   return deeds;
+}
+
+std::vector<Deed> EditedWindow::ListDeeds(int turn) {
+  std::vector<Deed> deeds;
+  for (const ListButtons* buttons : PartsOf<ListButtons>(Window().Properties())) {
+    for (QWidget* part : UsableParts(*buttons)) {
+      const std::string name =
+          part->parentWidget()->parentWidget()->findChild<QListWidget*>()->accessibleName().toStdString();
+      deeds.push_back(
+          {name + ": " + part->accessibleName().toStdString(), [this, part, turn] { UsePart(part, turn); }});
+    }
+  }
+  for (QListWidget* list : Window().Properties().findChildren<QListWidget*>()) {
+    if (list->isVisible())
+      deeds.push_back({"lines of " + list->accessibleName().toStdString(), [this, list] { UsePart(list, 0); }});
+  }
+  return deeds;
+}
+
+void EditedWindow::FillLists() {
+  for (ListButtons* buttons : PartsOf<ListButtons>(Window().Properties())) {
+    const int kinds = buttons->Add().menu() ? static_cast<int>(buttons->Add().menu()->actions().size()) : 2;
+    for (int kind = 0; kind < kinds && buttons->isVisible(); ++kind)
+      EXPECT_TRUE(DoThereAndBack({"adding to a list", [&] { UsePart(&buttons->Add(), kind); }}));
+  }
+}
+
+void EditedWindow::ChooseLines(bool last) {
+  for (QListWidget* list : Window().Properties().findChildren<QListWidget*>()) {
+    if (!list->isVisible() || list->count() == 0) continue;
+    Do({"choosing a line",
+        [&] { list->setCurrentRow(last ? list->count() - 1 : 0, QItemSelectionModel::ClearAndSelect); }});
+  }
 }
 
 std::vector<Deed> EditedWindow::CommandDeeds(bool byKeys) {
@@ -176,6 +230,7 @@ void EditedWindow::DragHeld(QPoint from, QPoint by, Qt::KeyboardModifiers held) 
 }
 
 void EditedWindow::PressKey(const QKeySequence& keys) {
+  Window().activateWindow();
   View().setFocus();
   QTest::keyClick(&View(), keys[0].key(), keys[0].keyboardModifiers());
 }

@@ -86,6 +86,12 @@ class EditedWindow : public WindowTest {
 
   // Every editor of the panel and of the ribbon for what is selected.
   std::vector<Deed> EditorDeeds(int turn);
+  // The lists of the panel and what grows, shrinks and reorders them.
+  std::vector<Deed> ListDeeds(int turn);
+  // Gives the lists of what is selected lines, of every kind that a list offers.
+  void FillLists();
+  // Chooses the last or the first line of every list.
+  void ChooseLines(bool last);
   // Every command that is enabled, by its button or by each of its keys. Undo and redo are the books' own.
   std::vector<Deed> CommandDeeds(bool byKeys);
   // What keys do on the page besides commands.
@@ -104,6 +110,8 @@ class EditedWindow : public WindowTest {
   void DragHeld(QPoint from, QPoint by, Qt::KeyboardModifiers held);
   void PressKey(const QKeySequence& keys);
   void UsePart(QWidget* part, int turn);
+  // The widgets that hands could use within another.
+  static std::vector<QWidget*> UsableParts(const QWidget& within);
 
   Answers answers_;
   std::unique_ptr<StepBook> book_;

@@ -33,8 +33,10 @@ class EveryEditor : public EditedWindow, public ::testing::WithParamInterface<Ca
 // Each in two ways. An editor that never does anything is none.
 TEST_P(EveryEditor, IsOneStep) {
   std::set<std::string> idle;
+  Select(GetParam());
+  FillLists();
   for (int turn = 0; turn < 2; ++turn) {
-    Select(GetParam());
+    ChooseLines(turn == 0);
     for (const Deed& deed : EditorDeeds(turn)) {
       SCOPED_TRACE(deed.name);
       Select(GetParam());
@@ -43,6 +45,23 @@ TEST_P(EveryEditor, IsOneStep) {
     }
   }
   EXPECT_THAT(idle, IsEmpty());
+  WalkWholeHistory();
+}
+
+TEST_P(EveryEditor, OfAListIsOneStep) {
+  Select(GetParam());
+  FillLists();
+  std::set<std::string> done;
+  for (const bool last : {false, true}) {
+    ChooseLines(last);
+    for (const Deed& deed : ListDeeds(0)) {
+      SCOPED_TRACE(deed.name);
+      if (!DoThereAndBack(deed)) continue;
+      done.insert(deed.name);
+      Undo();
+    }
+  }
+  EXPECT_TRUE(done.empty() || done.size() >= 4) << "adds, removes, moves up and down";
   WalkWholeHistory();
 }
 

@@ -7,6 +7,8 @@
 #include <QDeadlineTimer>
 #include <QFontComboBox>
 #include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -15,6 +17,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include "desktop/dialogs/NameChooser.h"
+#include "desktop/panels/ChosenField.h"
 #include "desktop/panels/ColorButton.h"
 #include "desktop/panels/MixedSpinBox.h"
 
@@ -34,6 +38,7 @@ void Answers::timerEvent(QTimerEvent*) {
 }
 
 void Answers::AnswerPopup(QWidget& popup) {
+  const int wanted = std::exchange(entry, kNone);
   const auto swatches = popup.findChildren<QToolButton*>();
   auto* menu = qobject_cast<QMenu*>(&popup);
   if (!menu) return void(popup.close());
@@ -43,15 +48,25 @@ void Answers::AnswerPopup(QWidget& popup) {
     if (!action->isSeparator() && !action->menu()) entries.append(action);
   }
   entriesSeen = static_cast<int>(entries.size());
-  const int wanted = std::exchange(entry, kNone);
   if (wanted < 0 || wanted >= entriesSeen || !entries.at(wanted)->isEnabled()) return void(menu->close());
   menu->setActiveAction(entries.at(wanted));
   QTest::keyClick(menu, Qt::Key_Return);
 }
 
+// The next name after that which was taken before.
+void Answers::ChooseName(QDialog& chooser) {
+  auto* list = chooser.findChild<QListView*>();
+  const int count = list->model()->rowCount();
+  if (count == 0) return chooser.reject();
+  list->setCurrentIndex(list->model()->index(name++ % count, 0));
+  QTest::keyClick(list, Qt::Key_Return);
+}
+
 void Answers::AnswerDialog(QWidget& dialog) {
+  if (dynamic_cast<NameChooser*>(&dialog)) return ChooseName(dynamic_cast<QDialog&>(dialog));
   if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
     QAbstractButton* button = box->button(yes ? QMessageBox::Yes : QMessageBox::No);
+    if (!button) button = yes ? box->defaultButton() : box->escapeButton();
     return button ? button->click() : box->accept();
   }
   if (auto* asking = qobject_cast<QDialog*>(&dialog)) return asking->reject();
@@ -96,6 +111,23 @@ void UseFace(QFontComboBox& face, int turn) {
   QTest::keyClick(&face, Qt::Key_Return);
 }
 
+void UseLines(QListWidget& list) {
+  QTest::keyClick(&list, list.currentRow() + 1 < list.count() ? Qt::Key_Down : Qt::Key_Up);
+}
+
+// Presses it; of a menu that opens, takes an entry.
+void UseButton(QAbstractButton& button, int turn, Answers& answers) {
+  answers.swatch = turn + 8;
+  answers.entry = turn;
+  button.click();
+  answers.entry = Answers::kNone;
+}
+
+void UseChosen(ChosenField& field, int turn, Answers& answers) {
+  if (turn % 2 == 1) return UseButton(field.Button(), turn, answers);
+  Type(field.Line(), QStringLiteral("name %1").arg(turn));
+}
+
 }  // namespace
 
 void Use(QWidget& editor, int turn, Answers& answers) {
@@ -104,13 +136,12 @@ void Use(QWidget& editor, int turn, Answers& answers) {
   if (auto* number = dynamic_cast<MixedSpinBox*>(&editor)) return UseNumber(*number, turn);
   if (auto* face = qobject_cast<QFontComboBox*>(&editor)) return UseFace(*face, turn);
   if (auto* list = qobject_cast<QComboBox*>(&editor)) return UseList(*list, turn);
+  if (auto* lines = qobject_cast<QListWidget*>(&editor)) return UseLines(*lines);
+  if (auto* chosen = dynamic_cast<ChosenField*>(&editor)) return UseChosen(*chosen, turn, answers);
   if (qobject_cast<QLineEdit*>(&editor) || qobject_cast<QPlainTextEdit*>(&editor)) return Type(editor, words);
   if (auto* slider = qobject_cast<QSlider*>(&editor))
     return QTest::keyClick(slider, turn % 2 ? Qt::Key_Left : Qt::Key_Right);
-  if (auto* button = qobject_cast<QAbstractButton*>(&editor)) {
-    answers.swatch = turn + 8;
-    return button->click();
-  }
+  if (auto* button = qobject_cast<QAbstractButton*>(&editor)) return UseButton(*button, turn, answers);
   ADD_FAILURE() << "no hand for " << editor.metaObject()->className() << " " << editor.objectName().toStdString();
 }
 

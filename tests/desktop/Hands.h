@@ -4,12 +4,13 @@
 
 #include <QObject>
 
+class QDialog;
 class QWidget;
 
 namespace xrpt {
 
-// Answers whatever opens while it lives: questions with yes, palettes with a colour, menus with an entry; everything
-// else is closed.
+// Answers whatever opens while it lives: questions with yes, palettes with a colour, menus with an entry, choosers with
+// a name; everything else is closed.
 class Answers final : public QObject {
  public:
   Answers();
@@ -18,6 +19,7 @@ class Answers final : public QObject {
   int swatch = 0;       // the colour taken, from 0
   int entry = kNone;    // the entry taken from the next menu
   int entriesSeen = 0;  // how many the last menu had
+  int name = 0;         // the name taken from the next chooser, from 0
   bool yes = true;
 
   // Until nothing is open any more.
@@ -29,6 +31,7 @@ class Answers final : public QObject {
  private:
   void AnswerPopup(QWidget& popup);
   void AnswerDialog(QWidget& dialog);
+  void ChooseName(QDialog& chooser);
 };
 
 // Makes an editor say something else than it does, in another way each turn: typing, then keys. Fails the test for a

@@ -82,6 +82,7 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
     const std::pair<std::size_t, std::function<void()>> acts[] = {
         {22, [this] { SelectSome(); }},
         {24, [this] { EditOnAndOn(); }},
+        {4, [this] { Perform(AnyOf(ListDeeds(static_cast<int>(Below(7))))); }},
         {10, [this] { Perform(AnyOf(CommandDeeds(false))); }},
         {8, [this] { Perform(AnyOf(CommandDeeds(true))); }},
         {8, [this] { Perform(AnyOf(GestureDeeds())); }},
@@ -92,7 +93,7 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
         {8, [this] { GoBack(); }},
         {5, [this] { GoForth(); }},
         {2, [this] { SaveAndReload(); }}};
-    std::size_t number = Below(105);
+    std::size_t number = Below(109);
     for (const auto& [weight, run] : acts) {
       if (number < weight) return run();
       number -= weight;
