@@ -16,6 +16,7 @@
 #include "desktop/dialogs/OpenDialog.h"
 #include "desktop/dialogs/QuestionBox.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
 #include "desktop/page/ClipboardPictures.h"
@@ -175,6 +176,7 @@ void MainWindow::Refresh() {
   ShowSelectionGeometry();
   ShowCaption();
   pages_->Refresh();
+  if (search_) search_->ReportChanged();
   files_->Refresh();
   problems_->Refresh();
 }
