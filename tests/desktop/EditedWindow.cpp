@@ -1,12 +1,15 @@
 #include "desktop/EditedWindow.h"
 
-#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolButton>
 
+#include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/panels/AlternativesEditor.h"
 #include "desktop/panels/FieldForm.h"
 #include "desktop/panels/ListButtons.h"
@@ -64,7 +67,7 @@ std::vector<Deed> EditedWindow::EditorDeeds(int turn) {
       }
     }
   }
-  if (QLineEdit& condition = Window().Properties().Alternatives().Condition(); condition.isVisible())
+  if (QWidget& condition = Window().Properties().Alternatives().Condition(); condition.isVisible())
     deeds.push_back({"condition", [this, &condition, turn] { UsePart(&condition, turn); }, true});
   for (QWidget* part : UsableParts(PartOf<FontGroup>(Window()))) {
     const std::string name = "ribbon's " + part->accessibleName().toStdString();
@@ -173,6 +176,20 @@ std::vector<Deed> EditedWindow::MenuDeeds() {
   std::vector<Deed> deeds;
   for (int entry = 0; entry < answers_.entriesSeen; ++entry)
     deeds.push_back({"menu " + std::to_string(entry), [open, entry] { open(entry); }});
+  return deeds;
+}
+
+std::vector<Deed> EditedWindow::SearchDeeds(int turn) {
+  std::vector<Deed> deeds;
+  for (const SearchDialog* dialog : PartsOf<SearchDialog>(Window())) {
+    for (QWidget* part : dialog->findChildren<QWidget*>()) {
+      const bool isMeant = qobject_cast<QLineEdit*>(part) || qobject_cast<QPushButton*>(part) ||
+                           qobject_cast<QComboBox*>(part) || qobject_cast<QCheckBox*>(part);
+      if (isMeant && part->isVisible() && part->isEnabled())
+        deeds.push_back(
+            {"search's " + part->accessibleName().toStdString(), [this, part, turn] { UsePart(part, turn); }});
+    }
+  }
   return deeds;
 }
 

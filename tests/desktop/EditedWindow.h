@@ -101,6 +101,8 @@ class EditedWindow : public WindowTest {
   std::vector<Deed> GestureDeeds();
   // The entries of the page's own menu.
   std::vector<Deed> MenuDeeds();
+  // The parts of the search window, while it is open.
+  std::vector<Deed> SearchDeeds(int turn);
   // What only shows something else: lists, page and zoom boxes, the slider.
   std::vector<Deed> LookDeeds(int turn);
 

@@ -15,9 +15,18 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 
+#include "desktop/WindowTest.h"
+#include "desktop/dialogs/CDlgIntroduceIdentification.h"
 #include "desktop/dialogs/NameChooser.h"
+#include "desktop/dialogs/formulas/ExpressionEdit.h"
+#include "desktop/dialogs/formulas/ExpressionField.h"
+#include "desktop/dialogs/formulas/FormulaDialog.h"
+#include "desktop/dialogs/formulas/FormulasDialog.h"
+#include "desktop/dialogs/formulas/SourcesDialog.h"
 #include "desktop/panels/ChosenField.h"
 #include "desktop/panels/ColorButton.h"
 #include "desktop/panels/MixedSpinBox.h"
@@ -27,8 +36,15 @@ namespace xrpt {
 // --- What opens ---
 
 namespace {
+
 constexpr int kPeriod = 5;  // milliseconds
+
+template <class... Dialogs>
+bool IsOneOf(QWidget& dialog) {
+  return (dynamic_cast<Dialogs*>(&dialog) || ...);
 }
+
+}  // namespace
 
 Answers::Answers() { startTimer(kPeriod); }
 
@@ -62,6 +78,30 @@ void Answers::ChooseName(QDialog& chooser) {
   QTest::keyClick(list, Qt::Key_Return);
 }
 
+// A list gets an entry, which a dialog of its own asks for; it must open out of the timer, or nobody would answer it.
+void Answers::AddEntry(QDialog& dialog) {
+  if (IsSecondTime(dialog)) return dialog.accept();
+  const auto lists = dialog.findChildren<QTreeView*>();
+  QTreeView* list = lists.at(name % lists.size());
+  QTimer::singleShot(0, list, [list] { QTest::keyClick(list, Qt::Key_Insert); });
+}
+
+// One that refuses what was typed is left.
+void Answers::FillEntry(QDialog& dialog) {
+  if (IsSecondTime(dialog)) return dialog.reject();
+  auto* line = dialog.findChild<QLineEdit*>();
+  QTest::keyClicks(line, QStringLiteral("Entry%1").arg(name++));
+  const auto expressions = PartsOf<ExpressionEdit>(dialog);
+  if (!expressions.empty()) QTest::keyClicks(expressions.front(), QStringLiteral("1"));
+  QTest::keyClick(expressions.empty() ? static_cast<QWidget*>(line) : expressions.front(), Qt::Key_Return);
+}
+
+bool Answers::IsSecondTime(QDialog& dialog) {
+  const bool isSecond = dialog.property("seen").toBool();
+  dialog.setProperty("seen", true);
+  return isSecond;
+}
+
 void Answers::AnswerDialog(QWidget& dialog) {
   if (dynamic_cast<NameChooser*>(&dialog)) return ChooseName(dynamic_cast<QDialog&>(dialog));
   if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
@@ -69,7 +109,10 @@ void Answers::AnswerDialog(QWidget& dialog) {
     if (!button) button = yes ? box->defaultButton() : box->escapeButton();
     return button ? button->click() : box->accept();
   }
-  if (auto* asking = qobject_cast<QDialog*>(&dialog)) return asking->reject();
+  auto* asking = qobject_cast<QDialog*>(&dialog);
+  if (IsOneOf<FormulasDialog, SourcesDialog>(dialog)) return AddEntry(*asking);
+  if (IsOneOf<FormulaDialog, CDlgIntroduceIdentification>(dialog)) return FillEntry(*asking);
+  if (asking) return asking->reject();
   dialog.close();
 }
 
@@ -139,6 +182,8 @@ void Use(QWidget& editor, int turn, Answers& answers) {
   if (auto* lines = qobject_cast<QListWidget*>(&editor)) return UseLines(*lines);
   if (auto* chosen = dynamic_cast<ChosenField*>(&editor)) return UseChosen(*chosen, turn, answers);
   if (qobject_cast<QLineEdit*>(&editor) || qobject_cast<QPlainTextEdit*>(&editor)) return Type(editor, words);
+  if (auto* expression = dynamic_cast<ExpressionField*>(&editor))
+    return Type(expression->Edit(), QString::number(turn));
   if (auto* slider = qobject_cast<QSlider*>(&editor))
     return QTest::keyClick(slider, turn % 2 ? Qt::Key_Left : Qt::Key_Right);
   if (auto* button = qobject_cast<QAbstractButton*>(&editor)) return UseButton(*button, turn, answers);

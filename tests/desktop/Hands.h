@@ -10,7 +10,7 @@ class QWidget;
 namespace xrpt {
 
 // Answers whatever opens while it lives: questions with yes, palettes with a colour, menus with an entry, choosers with
-// a name; everything else is closed.
+// a name, lists with a new entry; everything else is closed.
 class Answers final : public QObject {
  public:
   Answers();
@@ -19,7 +19,7 @@ class Answers final : public QObject {
   int swatch = 0;       // the colour taken, from 0
   int entry = kNone;    // the entry taken from the next menu
   int entriesSeen = 0;  // how many the last menu had
-  int name = 0;         // the name taken from the next chooser, from 0
+  int name = 0;         // the name taken from the next chooser or given to the next entry, from 0
   bool yes = true;
 
   // Until nothing is open any more.
@@ -32,6 +32,9 @@ class Answers final : public QObject {
   void AnswerPopup(QWidget& popup);
   void AnswerDialog(QWidget& dialog);
   void ChooseName(QDialog& chooser);
+  void AddEntry(QDialog& dialog);
+  void FillEntry(QDialog& dialog);
+  static bool IsSecondTime(QDialog& dialog);
 };
 
 // Makes an editor say something else than it does, in another way each turn: typing, then keys. Fails the test for a

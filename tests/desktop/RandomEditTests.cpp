@@ -78,6 +78,16 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
     last_.clear();
   }
 
+  // With texts that the editors write, so that something is found.
+  void SearchAndReplace() {
+    const int turn = static_cast<int>(Below(5));
+    Run("Replace");
+    for (std::size_t times = 1 + Below(4); times > 0 && !HasFailure(); --times) {
+      const std::vector<Deed> deeds = SearchDeeds(turn);
+      Perform(AnyOf(deeds));
+    }
+  }
+
   void Act() {
     const std::pair<std::size_t, std::function<void()>> acts[] = {
         {22, [this] { SelectSome(); }},
@@ -90,10 +100,11 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
         {3, [this] { CommandWhileDragging(); }},
         {4, [this] { Perform(AnyOf(KeyDeeds())); }},
         {3, [this] { Perform(AnyOf(LookDeeds(static_cast<int>(Below(3))))); }},
+        {3, [this] { SearchAndReplace(); }},
         {8, [this] { GoBack(); }},
         {5, [this] { GoForth(); }},
         {2, [this] { SaveAndReload(); }}};
-    std::size_t number = Below(109);
+    std::size_t number = Below(112);
     for (const auto& [weight, run] : acts) {
       if (number < weight) return run();
       number -= weight;
