@@ -62,6 +62,7 @@ std::vector<Deed> EditedWindow::EditorDeeds(int turn) {
     for (const QWidget* body : form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       for (const QWidget* part : UsableParts(*body)) {
         const QString name = part->objectName();
+        if (name.isEmpty()) continue;
         deeds.push_back({"field " + name.toStdString(),
                          [this, name, turn] { UsePart(Window().Properties().findChild<QWidget*>(name), turn); }, true});
       }

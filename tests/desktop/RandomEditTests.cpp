@@ -115,10 +115,9 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
   std::string last_;
 };
 
-// XRPT_DEEDS=n does n of them instead.
 TEST_P(RandomEdits, KeepTheBooksTrue) {
-  const int count = qEnvironmentVariableIntValue("XRPT_DEEDS");
-  for (int deed = 0; deed < (count > 0 ? count : 250) && !HasFailure(); ++deed) {
+  const int count = IsThorough() ? AskedDeeds() : 150;
+  for (int deed = 0; deed < count && !HasFailure(); ++deed) {
     SCOPED_TRACE("deed " + std::to_string(deed));
     Act();
   }

@@ -23,6 +23,7 @@ class StepBook {
     for (std::size_t i = 0; i < frame_.PageCount(); ++i) {
       const RVReportPage& page = frame_.Page(i).Page();
       AddUnsaved(text, RVGlobalProperties::Table(), page.properties);
+      AddAll(text, page.properties.Background());
       for (std::size_t card = 0; card < page.cards.Size(); ++card)
         AddUnsaved(text, page.cards[card].GetRuntimeClass().table, page.cards[card]);
     }
@@ -82,6 +83,13 @@ class StepBook {
     ForEachField(table, [&](const FieldOf<Root>& row) {
       const bool isSaved = row.name && (!row.isWritten || row.isWritten(object)) && row.Applies(object);
       if (row.text && row.assign && !isSaved) text += ToUtf8(row.text(object)) + "\n";
+    });
+  }
+
+  // A background without a picture is not in the file.
+  static void AddAll(std::string& text, const RVCardControl& card) {
+    ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
+      if (row.text) text += ToUtf8(row.text(card)) + "\n";
     });
   }
 

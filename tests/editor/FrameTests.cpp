@@ -135,7 +135,7 @@ TEST_F(FrameTest, ZoomIsRefusedPastItsEndsAndTheBoxFollows) {
 }
 
 TEST_F(FrameTest, AFittedPageGoesOnFittingTheSameWay) {
-  RVEditControlWnd frame(port);
+  RVEditControlWnd frame(port, EditingOptions::Comfort());
   const auto resize = [&](double width) { frame.CurrentPage().Edit({0, 0}).Properties().width = width; };
   for (const int entry : {RVEditControlWnd::kFitPageEntry, RVEditControlWnd::kFitWidthEntry}) {
     const auto fits = [&](const char* after) {
