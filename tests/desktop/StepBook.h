@@ -8,6 +8,7 @@
 
 #include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "model/RVCardImage.h"
 #include "support/TestHost.h"
 
 namespace xrpt {

@@ -2,6 +2,7 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
+#include <algorithm>
 
 namespace xrpt {
 
@@ -69,6 +70,15 @@ void SideDocks::ShowWhileTheyFit() {
 
 void SideDocks::Forget(const QDockWidget& dock) {
   for (Side& side : sides_) side.gaveWay = side.gaveWay && side.dock != &dock;
+}
+
+// A window too narrow for both would leave the dock next to nothing.
+void SideDocks::Open(QDockWidget& dock) {
+  const auto side = std::find_if(sides_.begin(), sides_.end(), [&](const Side& one) { return one.dock == &dock; });
+  const int width = side == sides_.end() ? 0 : std::min(side->width, window_.width() * 3 / 4);
+  dock.show();
+  dock.raise();
+  if (width > 0 && IsBeside(*side)) window_.resizeDocks({&dock}, {width}, Qt::Horizontal);
 }
 
 void SideDocks::BringBack() {

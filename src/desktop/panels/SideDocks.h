@@ -19,6 +19,8 @@ class SideDocks final : public QObject {
   void Fit();
   // The user decided about this one.
   void Forget(const QDockWidget& dock);
+  // Shows a dock that the user asks for, as wide as it was, or as the window allows.
+  void Open(QDockWidget& dock);
   // Shows those that gave way, so that the layout is kept as the user had it.
   void BringBack();
 
