@@ -116,7 +116,7 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
 };
 
 TEST_P(RandomEdits, KeepTheBooksTrue) {
-  const int count = IsThorough() ? AskedDeeds() : 150;
+  const int count = IsThorough() ? AskedDeeds() : 120;
   for (int deed = 0; deed < count && !HasFailure(); ++deed) {
     SCOPED_TRACE("deed " + std::to_string(deed));
     Act();
