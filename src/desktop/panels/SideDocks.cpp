@@ -17,9 +17,16 @@ SideDocks::SideDocks(QMainWindow& window, const std::vector<QDockWidget*>& docks
   }
 }
 
+// Docks and page have less than they need, because the user asked for a dock all the same.
+bool SideDocks::IsCrowded() const {
+  int room = window_.width();
+  for (const Side& side : sides_) room -= IsBeside(side) ? side.dock->width() : 0;
+  return room < kPageWidth;
+}
+
 // A dock that changes while the window keeps its width is one that the user draws wider or narrower.
 bool SideDocks::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize && window_.width() == width_) {
+  if (event->type() == QEvent::Resize && window_.width() == width_ && !IsCrowded()) {
     for (Side& side : sides_) {
       if (side.dock == watched) side.width = side.dock->width();
     }

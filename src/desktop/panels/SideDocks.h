@@ -35,6 +35,7 @@ class SideDocks final : public QObject {
   };
 
   bool IsBeside(const Side& side) const;
+  bool IsCrowded() const;
   // Pixels the page would have.
   int RoomForPage() const;
   void HideUntilPageFits();
