@@ -13,6 +13,7 @@ struct InsertKindRow {
   const CardClass& (*kind)();
   unsigned support;                 // the bit that allows inserting it
   std::optional<Color> frameColor;  // of a new card; nothing keeps the one of its class
+  SizeD clickedSize;                // millimetres, of one that is made by a click
 };
 
 std::span<const InsertKindRow> InsertKinds();

@@ -1,5 +1,5 @@
-// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799: labels below 61600, the
-// sentence of a command's tooltip 200 above its label.
+// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799 and 61940 to 61999: labels
+// below 61600, the sentence of a command's tooltip 200 above its label.
 #pragma once
 
 namespace xrpt::text {
@@ -110,5 +110,43 @@ inline constexpr int kProblemsPanel = 61543;
 inline constexpr int kResourcesGroup = 61560;
 inline constexpr int kStyles = 61561;
 inline constexpr int kBringBack = 61544;
+inline constexpr int kDuplicate = 61580;
+inline constexpr int kPasteInPlace = 61581;
+inline constexpr int kBringForward = 61582;
+inline constexpr int kSendBackward = 61583;
+inline constexpr int kSelectBelow = 61584;
+inline constexpr int kEditText = 61585;
+inline constexpr int kPreview = 61586;
+inline constexpr int kShowGrid = 61587;
+inline constexpr int kActualSize = 61588;
+inline constexpr int kZoomToSelection = 61589;
+inline constexpr int kHistoryPanel = 61590;
+inline constexpr int kStartPageCommand = 61591;
+inline constexpr int kHoldGroup = 61592;
+inline constexpr int kLock = 61593;
+inline constexpr int kUnlockAll = 61594;
+inline constexpr int kHideCards = 61595;
+inline constexpr int kShowAll = 61596;
+inline constexpr int kGroup = 61597;
+inline constexpr int kUngroup = 61598;
+
+// Why a command cannot run.
+inline constexpr int kWhySelectOne = 61940;
+inline constexpr int kWhySelectOneAlone = 61941;
+inline constexpr int kWhySelectTwo = 61942;
+inline constexpr int kWhyNothingCopied = 61943;
+inline constexpr int kWhyNothingToUndo = 61944;
+inline constexpr int kWhyNothingToRedo = 61945;
+inline constexpr int kWhyNoCards = 61946;
+inline constexpr int kWhyLastPage = 61947;
+inline constexpr int kWhyFirstPage = 61948;
+inline constexpr int kWhyOnlyPage = 61949;
+inline constexpr int kWhyNothingToSave = 61950;
+inline constexpr int kWhyNothingLost = 61951;
+inline constexpr int kWhyLargest = 61952;
+inline constexpr int kWhySmallest = 61953;
+inline constexpr int kWhyNothingLocked = 61954;
+inline constexpr int kWhyNothingHidden = 61955;
+inline constexpr int kWhyNoGroup = 61956;
 
 }  // namespace xrpt::text

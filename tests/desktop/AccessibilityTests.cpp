@@ -60,7 +60,7 @@ TEST_F(Accessibility, EverythingInTheWindowHasAName) {
 TEST_F(Accessibility, EverythingInTheDialogsHasAName) {
   const OpenDialog open(L"", &Window());
   EXPECT_THAT(Nameless(open), ::testing::IsEmpty());
-  auto* palette = new CommandPalette(Window().AllActions().All(), &Window());
+  auto* palette = new CommandPalette(Window().AllActions(), &Window());
   EXPECT_THAT(Nameless(*palette), ::testing::IsEmpty());
   delete palette;
   auto* sheet = new ShortcutSheet(Window().AllActions().All(), &Window());

@@ -77,15 +77,15 @@ TEST_F(CommandWindow, LettersTypedInAFieldAreNoTools) {
 TEST_F(CommandWindow, SwitchesShowWhatIsOn) {
   const auto isOn = [this](const char* name) { return Window().AllActions().Find(name)->isChecked(); };
   EXPECT_TRUE(isOn("Rulers"));
-  EXPECT_FALSE(isOn("SmartGuides"));
+  EXPECT_TRUE(isOn("SmartGuides"));
   Run("Rulers");
   Run("SmartGuides");
   EXPECT_FALSE(isOn("Rulers"));
   EXPECT_FALSE(Window().Pages().HasRulers());
-  EXPECT_TRUE(isOn("SmartGuides"));
-  EXPECT_TRUE(Page().HasSmartGuides());
+  EXPECT_FALSE(isOn("SmartGuides"));
+  EXPECT_FALSE(Page().HasSmartGuides());
   Run("AddPage");
-  EXPECT_TRUE(Page().HasSmartGuides());
+  EXPECT_FALSE(Page().HasSmartGuides());
 }
 
 TEST_F(CommandWindow, TwoCardsCanBeDistributed) {

@@ -8,6 +8,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
+#include "desktop/look/Theme.h"
 #include "editor/RVEditControlWnd.h"
 #include "editor/SelectedFields.h"
 
@@ -37,7 +38,9 @@ QVariant PagesModel::data(const QModelIndex& index, int role) const {
     return ThemedIcon(properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait"));
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   const QString number = Translated(text::kPageNumber, QString::number(index.row() + 1));
-  return properties.name.empty() ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
+  // A page nobody has named bears its identifier.
+  const bool isNamed = !properties.name.empty() && properties.name != properties.id;
+  return !isNamed ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
 }
 
 void PagesModel::Reset() {
@@ -47,13 +50,42 @@ void PagesModel::Reset() {
 
 // --- Cards ---
 
+namespace {
+
+QString WithState(const QString& name, const CardNote& note) {
+  if (note.locked && note.hidden) return Translated(text::kLockedHiddenCard, name);
+  if (note.locked) return Translated(text::kLockedCard, name);
+  return note.hidden ? Translated(text::kHiddenCard, name) : name;
+}
+
+}  // namespace
+
+Qt::ItemFlags CardsModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags plain = DraggedRows::flags(index);
+  return index.isValid() ? plain | Qt::ItemIsEditable : plain;
+}
+
+// A name that says what the card says anyway is none.
+bool CardsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  const CardList& cards = frame_.CurrentPage().Page().cards;
+  const auto at = static_cast<std::size_t>(index.row());
+  if (role != Qt::EditRole || at >= cards.Size()) return false;
+  const std::wstring name = value.toString().trimmed().toStdWString();
+  frame_.CurrentPage().NameCard(at, name == CardCaption(cards[at]) ? std::wstring() : name);
+  return true;
+}
+
 int CardsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
 
 QVariant CardsModel::data(const QModelIndex& index, int role) const {
   const CardList& cards = frame_.CurrentPage().Page().cards;
   const auto at = static_cast<std::size_t>(index.row());
   if (at >= cards.Size()) return {};
-  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return ToQString(CardCaption(cards[at]));
+  const CardNote& note = frame_.CurrentPage().NoteOf(cards[at]);
+  const QString name = ToQString(note.name.empty() ? CardCaption(cards[at]) : note.name);
+  if (role == Qt::EditRole) return name;
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return WithState(name, note);
+  if (role == Qt::ForegroundRole && note.hidden) return CurrentTheme().muted;
   if (role == Qt::DecorationRole) return ThemedIcon(CardIconName(cards[at].GetRuntimeClass().tag));
   return {};
 }
@@ -104,8 +136,14 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   auto* split = new QSplitter(Qt::Vertical, this);
   split->setChildrenCollapsible(false);
-  pages_ = MakeList(pageModel_, text::kPages);
-  cards_ = MakeList(cardModel_, text::kCards);
+  pages_ = MakeList(pageModel_, text::kPages, &Outline::pageMenuWanted);
+  cards_ = MakeList(cardModel_, text::kCards, &Outline::cardMenuWanted);
+  pageModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
+    if (pageDropped) pageDropped(rows.front(), before);
+  };
+  cardModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
+    if (cardsDropped) cardsDropped(rows, before);
+  };
   cards_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   split->addWidget(pages_);
   split->addWidget(cards_);
@@ -119,7 +157,7 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   });
 }
 
-QListView* Outline::MakeList(QAbstractListModel* model, int nameTextId) {
+QListView* Outline::MakeList(DraggedRows* model, int nameTextId, std::function<void(QPoint)> Outline::*menuWanted) {
   auto* list = new QListView(this);
   list->setModel(model);
   list->setAccessibleName(Translated(nameTextId));
@@ -128,6 +166,11 @@ QListView* Outline::MakeList(QAbstractListModel* model, int nameTextId) {
   list->setIconSize({16, 16});
   list->setTextElideMode(Qt::ElideRight);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setDragDropMode(QAbstractItemView::InternalMove);
+  list->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list, &QListView::customContextMenuRequested, this, [this, list, menuWanted](QPoint at) {
+    if (this->*menuWanted && list->indexAt(at).isValid()) (this->*menuWanted)(list->viewport()->mapToGlobal(at));
+  });
   return list;
 }
 
@@ -167,6 +210,12 @@ void Outline::ShowSelection() {
   const QModelIndex last = selected.empty() ? QModelIndex() : cardModel_->index(static_cast<int>(selected.back()));
   cards_->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
   if (last.isValid()) cards_->scrollTo(last);
+}
+
+bool Outline::RenameChosen() {
+  if (!cards_->hasFocus() || !cards_->currentIndex().isValid()) return false;
+  cards_->edit(cards_->currentIndex());
+  return true;
 }
 
 void Outline::FocusCards() { cards_->setFocus(Qt::ShortcutFocusReason); }
