@@ -17,6 +17,7 @@
 #include "desktop/dialogs/OpenDialog.h"
 #include "desktop/dialogs/QuestionBox.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
 #include "desktop/page/ClipboardPictures.h"
@@ -201,6 +202,7 @@ void MainWindow::Refresh() {
   ShowSelectionGeometry();
   ShowCaption();
   pages_->Refresh();
+  if (search_) search_->ReportChanged();
   files_->Refresh();
   problems_->Refresh();
 }

@@ -27,6 +27,7 @@ class ProblemsDesk;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
+class SearchDialog;
 class SideDocks;
 class StartPage;
 class StatusBar;
@@ -112,6 +113,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void DropFiles(const QStringList& files, QPoint at);
   void OpenPalette();
   void OpenShortcutSheet();
+  // Dialogs over the report, see MainWindowDialogs.cpp
+  SearchDialog& Searching();
+  void OpenSearch();
+  void OpenReplace();
+  void SearchNext();
+  void SearchPrevious();
+  void OpenFormulas();
+  void OpenSources();
   void OpenStyles();
   void ExportPdf();
   void ExportImages();
@@ -137,6 +146,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel* properties_ = nullptr;
   ProblemsDesk* problems_ = nullptr;
   StatusBar* status_ = nullptr;
+  SearchDialog* search_ = nullptr;                          // once it was asked for
   std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;
   std::unique_ptr<FileKeeper> files_;

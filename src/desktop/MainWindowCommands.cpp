@@ -37,6 +37,12 @@ bool MainWindow::RunCommand(const char* name) {
       {"ExportPdf", &MainWindow::ExportPdf},
       {"ExportImages", &MainWindow::ExportImages},
       {"Print", &MainWindow::Print},
+      {"Search", &MainWindow::OpenSearch},
+      {"Replace", &MainWindow::OpenReplace},
+      {"SearchNext", &MainWindow::SearchNext},
+      {"SearchPrevious", &MainWindow::SearchPrevious},
+      {"FormulesSetup", &MainWindow::OpenFormulas},
+      {"VirtualDevices", &MainWindow::OpenSources},
       {"Styles", &MainWindow::OpenStyles}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;

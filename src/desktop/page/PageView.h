@@ -50,6 +50,8 @@ class PageView final : public QAbstractScrollArea {
 
   // Scrolls until the selected cards are in sight, as far as they fit.
   void RevealSelection();
+  // Screen pixels.
+  QRect SelectionOnScreen() const;
 
   // The text of the selected card is edited where it stands; what is typed already replaces it. False for a card whose
   // text is none to be edited.

@@ -257,6 +257,12 @@ void PageView::RevealSelection() {
   verticalScrollBar()->setValue(verticalScrollBar()->value() + IntoSight(area.top, area.bottom, viewport()->height()));
 }
 
+QRect PageView::SelectionOnScreen() const {
+  if (!Window() || Window()->Selection().IsEmpty()) return {};
+  const Rect area = Window()->SelectedArea();
+  return {viewport()->mapToGlobal(QPoint(area.left, area.top)), QSize(area.Width(), area.Height())};
+}
+
 // --- Keyboard ---
 
 // A letter is a tool's, but over a label whose text it begins.
