@@ -132,6 +132,16 @@ inline constexpr int kLockedCard = 62621;
 inline constexpr int kHiddenCard = 62622;
 inline constexpr int kLockedHiddenCard = 62623;
 inline constexpr int kRulerHint = 62624;
+inline constexpr int kGestureText = 62647;
+inline constexpr int kGestureTextKeys = 62648;
+inline constexpr int kGestureCopy = 62649;
+inline constexpr int kGestureCopyKeys = 62650;
+inline constexpr int kGestureBeneath = 62651;
+inline constexpr int kGestureBeneathKeys = 62652;
+inline constexpr int kGestureFine = 62653;
+inline constexpr int kGestureFineKeys = 62654;
+inline constexpr int kGestureFree = 62655;
+inline constexpr int kGestureFreeKeys = 62656;
 
 // The system's own.
 inline constexpr int kCancel = 380;

@@ -338,7 +338,7 @@ constexpr Command kCommands[] = {
     {"SaveAs", kReport, text::kFileGroup, text::kSaveAs, "save-as", "Ctrl+Shift+S", true, Always, nullptr, nullptr},
     {"FormulesSetup", kReport, text::kDataGroup, text::kFormulasCommand, "formulas", "Ctrl+Shift+F", true, Always,
      nullptr, nullptr},
-    {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+Shift+V", true,
+    {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+K,V", true,
      Always, nullptr, nullptr},
     {"Styles", kReport, text::kResourcesGroup, text::kStyles, "styles", "Ctrl+Shift+Y", true, Always, nullptr, nullptr},
     {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},

@@ -1,4 +1,4 @@
-// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799 and 61940 to 61999: labels
+// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799: labels
 // below 61600, the sentence of a command's tooltip 200 above its label.
 #pragma once
 
@@ -136,22 +136,22 @@ inline constexpr int kGroup = 61597;
 inline constexpr int kUngroup = 61598;
 
 // Why a command cannot run.
-inline constexpr int kWhySelectOne = 61940;
-inline constexpr int kWhySelectOneAlone = 61941;
-inline constexpr int kWhySelectTwo = 61942;
-inline constexpr int kWhyNothingCopied = 61943;
-inline constexpr int kWhyNothingToUndo = 61944;
-inline constexpr int kWhyNothingToRedo = 61945;
-inline constexpr int kWhyNoCards = 61946;
-inline constexpr int kWhyLastPage = 61947;
-inline constexpr int kWhyFirstPage = 61948;
-inline constexpr int kWhyOnlyPage = 61949;
-inline constexpr int kWhyNothingToSave = 61950;
-inline constexpr int kWhyNothingLost = 61951;
-inline constexpr int kWhyLargest = 61952;
-inline constexpr int kWhySmallest = 61953;
-inline constexpr int kWhyNothingLocked = 61954;
-inline constexpr int kWhyNothingHidden = 61955;
-inline constexpr int kWhyNoGroup = 61956;
+inline constexpr int kWhySelectOne = 62625;
+inline constexpr int kWhySelectOneAlone = 62626;
+inline constexpr int kWhySelectTwo = 62627;
+inline constexpr int kWhyNothingCopied = 62628;
+inline constexpr int kWhyNothingToUndo = 62629;
+inline constexpr int kWhyNothingToRedo = 62630;
+inline constexpr int kWhyNoCards = 62631;
+inline constexpr int kWhyLastPage = 62632;
+inline constexpr int kWhyFirstPage = 62633;
+inline constexpr int kWhyOnlyPage = 62634;
+inline constexpr int kWhyNothingToSave = 62635;
+inline constexpr int kWhyNothingLost = 62636;
+inline constexpr int kWhyLargest = 62637;
+inline constexpr int kWhySmallest = 62638;
+inline constexpr int kWhyNothingLocked = 62639;
+inline constexpr int kWhyNothingHidden = 62645;
+inline constexpr int kWhyNoGroup = 62646;
 
 }  // namespace xrpt::text
