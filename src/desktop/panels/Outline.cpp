@@ -1,7 +1,9 @@
 #include "desktop/panels/Outline.h"
 
+#include <QApplication>
 #include <QItemSelectionModel>
 #include <QListView>
+#include <QPainter>
 #include <QSplitter>
 
 #include "canvas/RVEditTemplateWnd.h"
@@ -34,14 +36,39 @@ QVariant PagesModel::data(const QModelIndex& index, int role) const {
   const auto page = static_cast<std::size_t>(index.row());
   if (page >= frame_.PageCount()) return {};
   const RVGlobalProperties& properties = frame_.Page(page).Page().properties;
-  if (role == Qt::DecorationRole)
-    return ThemedIcon(properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait"));
+  if (role == Qt::DecorationRole) return Picture(page);
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   const QString number = Translated(text::kPageNumber, QString::number(index.row() + 1));
   // A page nobody has named bears its identifier.
   const bool isNamed = !properties.name.empty() && properties.name != properties.id;
   return !isNamed ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
 }
+
+PagesModel::PagesModel(RVEditControlWnd& frame, QObject* parent)
+    : DraggedRows(parent), frame_(frame), pictures_(nullptr) {
+  pictures_.painted = [this] { emit dataChanged(index(0), index(std::max(0, rowCount() - 1)), {Qt::DecorationRole}); };
+}
+
+// Before it is painted, whichever way the page lies. All are of one size, so that lines are as high as each other.
+QVariant PagesModel::Picture(std::size_t page) const {
+  const RVReportPage& shown = frame_.Page(page).Page();
+  const QPixmap picture = pictures_.Of(shown, frame_.History().Serial(), qApp->devicePixelRatio());
+  QPixmap square(QSize(Thumbnails::kSide, Thumbnails::kSide) * qApp->devicePixelRatio());
+  square.setDevicePixelRatio(qApp->devicePixelRatio());
+  square.fill(Qt::transparent);
+  QPainter painter(&square);
+  if (picture.isNull()) {
+    const QString name = shown.properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait");
+    ThemedIcon(name).paint(&painter, {0, 0, Thumbnails::kSide, Thumbnails::kSide});
+  } else {
+    const QSizeF size = picture.deviceIndependentSize();
+    painter.drawPixmap(QPointF((Thumbnails::kSide - size.width()) / 2, (Thumbnails::kSide - size.height()) / 2),
+                       picture);
+  }
+  return square;
+}
+
+void PagesModel::Repaint() { pictures_.painted(); }
 
 void PagesModel::Reset() {
   beginResetModel();
@@ -105,6 +132,8 @@ void CardsModel::Reset() {
 
 namespace {
 
+constexpr int kMoment = 400;  // milliseconds
+
 // In ascending order.
 std::vector<std::size_t> ChosenRows(const QListView& list) {
   std::vector<std::size_t> rows;
@@ -136,6 +165,9 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   auto* split = new QSplitter(Qt::Vertical, this);
   split->setChildrenCollapsible(false);
+  repaint_.setSingleShot(true);
+  repaint_.setInterval(kMoment);
+  connect(&repaint_, &QTimer::timeout, this, [this] { pageModel_->Repaint(); });
   pages_ = MakeList(pageModel_, text::kPages, &Outline::pageMenuWanted);
   cards_ = MakeList(cardModel_, text::kCards, &Outline::cardMenuWanted);
   pageModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
@@ -144,10 +176,11 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   cardModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
     if (cardsDropped) cardsDropped(rows, before);
   };
+  pages_->setIconSize({Thumbnails::kSide, Thumbnails::kSide});
   cards_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   split->addWidget(pages_);
   split->addWidget(cards_);
-  split->setSizes({160, 420});
+  split->setSizes({260, 340});
   column->addWidget(split);
   connect(pages_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
     if (!isFilling_ && pageChosen && index.isValid()) pageChosen(static_cast<std::size_t>(index.row()));
@@ -183,6 +216,7 @@ void Outline::RefreshPages() {
 }
 
 void Outline::RefreshCards() {
+  repaint_.start();
   isFilling_ = true;
   cardModel_->Reset();
   ShowSelection();

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <QPoint>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <vector>
 
 #include "desktop/panels/DraggedRows.h"
+#include "desktop/panels/Thumbnails.h"
 
 class QListView;
 
@@ -17,13 +19,18 @@ class RVEditControlWnd;
 
 class PagesModel final : public DraggedRows {
  public:
-  explicit PagesModel(RVEditControlWnd& frame, QObject* parent) : DraggedRows(parent), frame_(frame) {}
+  PagesModel(RVEditControlWnd& frame, QObject* parent);
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   void Reset();
+  // Pages may look different now.
+  void Repaint();
 
  private:
+  QVariant Picture(std::size_t page) const;
+
   RVEditControlWnd& frame_;
+  mutable Thumbnails pictures_;
 };
 
 class CardsModel final : public DraggedRows {
@@ -73,6 +80,7 @@ class Outline final : public QWidget {
   CardsModel* cardModel_;
   QListView* pages_;
   QListView* cards_;
+  QTimer repaint_;          // after a moment of rest
   bool isFilling_ = false;  // what changes now is no choice of the user's
 };
 
