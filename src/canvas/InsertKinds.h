@@ -5,6 +5,7 @@
 #include <span>
 
 #include "model/RVCardControl.h"
+#include "platform/Geometry.h"
 
 namespace xrpt {
 

@@ -178,6 +178,9 @@ void MainWindow::BuildStatusBar() {
     RefreshSoon();
   };
   pages_->View().filesDropped = [this](const QStringList& files, QPoint at) { DropFiles(files, at); };
+  pages_->View().dragBegun = [this] {
+    if (smartGuides_) Announce(Translated(text::kDragHint));
+  };
   pages_->View().contentWanted = [this] {
     docks_.at(kPropertiesPanel)->show();
     properties_->FocusContent();

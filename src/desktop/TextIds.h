@@ -132,6 +132,7 @@ inline constexpr int kLockedCard = 62621;
 inline constexpr int kHiddenCard = 62622;
 inline constexpr int kLockedHiddenCard = 62623;
 inline constexpr int kRulerHint = 62624;
+inline constexpr int kDragHint = 62657;
 inline constexpr int kGestureText = 62647;
 inline constexpr int kGestureTextKeys = 62648;
 inline constexpr int kGestureCopy = 62649;

@@ -11,6 +11,7 @@
 #include "desktop/look/Theme.h"
 #include "desktop/page/DragNote.h"
 #include "desktop/page/InPlaceEditor.h"
+#include "desktop/page/PageAccess.h"
 #include "desktop/page/PageMenu.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/ribbon/Actions.h"
@@ -32,6 +33,7 @@ void PaintFocus(QPainter& painter, const QRect& area) {
 }  // namespace
 
 PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
+  InstallPageAccess();
   setAccessibleName(Translated(text::kPageView));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);

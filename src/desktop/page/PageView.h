@@ -27,6 +27,8 @@ class PageView final : public QAbstractScrollArea {
   void ShowPage(PagePort& port);
   void Forget(const PagePort& port);
   const PagePort* Port() const { return port_; }
+  // The window of the page that is shown; null without one.
+  const RVEditTemplateWnd* Shown() const { return Window(); }
   // The page's pixels are painted anew, for what the window could not see (the theme).
   void RepaintPage();
 
@@ -72,6 +74,8 @@ class PageView final : public QAbstractScrollArea {
   // A command of the page's own menu ran, or Tab selected another card.
   std::function<void()> changed;
   std::function<void()> resized;
+  // Cards begin to be dragged.
+  std::function<void()> dragBegun;
   // Something was dropped on the page: texts and files at a pixel.
   std::function<void(const QString& words, QPoint at)> textDropped;
   std::function<void(const QStringList& files, QPoint at)> filesDropped;

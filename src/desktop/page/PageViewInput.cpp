@@ -123,7 +123,9 @@ void PageView::mouseMoveEvent(QMouseEvent* event) {
   if (pointerMoved) pointerMoved(event->position().toPoint());
   if (panFrom_) return Pan(event->position().toPoint());
   if (!Window() || spaceHeld_) return;
+  const bool wasClick = Window()->CurrentGesture().Row().kind == GestureKind::Click;
   Window()->OnMouseMove(PositionOf(*event), ModifiersOf(event->modifiers()));
+  if (wasClick && Window()->CurrentGesture().Row().kind == GestureKind::Drag && dragBegun) dragBegun();
   const bool isOutside = captured_ && !viewport()->rect().contains(event->position().toPoint());
   if (isOutside && !scrolling_.isActive()) scrolling_.start();
   if (!isOutside) scrolling_.stop();
