@@ -11,6 +11,7 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
+#include "editor/RVEditControlWnd.h"
 #include "host/qt/QtHost.h"
 #include "platform/Text.h"
 

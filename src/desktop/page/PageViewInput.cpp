@@ -296,9 +296,10 @@ void PageView::keyReleaseEvent(QKeyEvent* event) {
   if (!panFrom_) ShowCursor(port_ ? port_->LastCursor() : Cursor::Arrow);
 }
 
-// Ends a gesture, else puts the insert tool away.
+// Ends a gesture or a preview, else puts the insert tool away.
 void PageView::Escape() {
   if (captured_) return LoseCapture();
+  if (Window()->IsPreview()) return actions_->Find("Preview")->trigger();
   QAction* pointer = actions_->Find("Pointer");
   pointer->isChecked() ? Window()->OnKeyDown(key::Escape, {}) : pointer->trigger();
 }
