@@ -40,7 +40,8 @@ struct EditingOptions {
   bool showsHandles = false;
   // Plain text on the clipboard is pasted as a label.
   bool pastesText = false;
-  // Cards without content say what is missing, cut texts carry a mark, and new shapes begin with a thin outline.
+  // Cards without content say what is missing, cut texts carry a mark, and new shapes begin with a thin outline and
+  // hide nothing.
   bool hintsAtCards = false;
 
   // What the desktop, and scripts that ask for it, turn on.

@@ -153,6 +153,7 @@ std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
   }
   if (options_.hintsAtCards && &card->GetRuntimeClass() == &RVCardPrimitive::Class()) {
     static_cast<RVCardPrimitive&>(*card).size = kThinContour;
+    static_cast<RVCardPrimitive&>(*card).isBackTransparent = true;
   }
   return card;
 }

@@ -117,7 +117,7 @@ TEST_F(CommandWindow, NarrowRibbonFoldsGroupsFromTheRight) {
   constexpr int kArrange = 2;
   ribbon.ShowTab(kArrange);
   std::vector<int> rooms;
-  for (const int width : {1400, 900, 620}) {
+  for (const int width : {1800, 900, 620}) {
     Window().resize(width, 800);
     Settle();
     ASSERT_EQ(ribbon.width(), width);
