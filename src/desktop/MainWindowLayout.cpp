@@ -65,7 +65,9 @@ void MainWindow::BuildStart() {
   start_->newWanted = [this](bool isLandscape) {
     if (!frame_->IsUntouched() && !frame_->NewReport()) return;
     HideStart();
-    if (isLandscape) frame_->SetOrientation(0);
+    if (!isLandscape) return;
+    frame_->SetOrientation(0);
+    frame_->SetModified(false);  // it is how the report begins
   };
 }
 
