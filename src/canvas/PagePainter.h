@@ -3,8 +3,10 @@
 // PNG, SVG, PDF and print all come through here.
 #pragma once
 
+#include <functional>
 #include <optional>
 
+#include "canvas/Placement.h"
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
 #include "platform/Graphics.h"
@@ -16,6 +18,9 @@ struct PagePaint {
   bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
   std::optional<Color> surroundColor;
   PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
+  bool gridWhenOff = false;     // the grid is shown though nothing snaps to it
+  // Whether a card is painted; all are without it.
+  std::function<bool(const RVCardControl& card)> shows;
 };
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how = {});
@@ -29,6 +34,9 @@ bool Touches(const Rect& a, const Rect& b);
 
 // White dots at the grid's crossings, by exclusive or; none unless both steps are active. A grid finer than a pixel is
 // no grid to look at and is left out.
-void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw);
+void DrawGrid(PixelBuffer& buffer, const GridSteps& steps, const tagDraw& draw);
+inline void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw) {
+  DrawGrid(buffer, GridOf(page), draw);
+}
 
 }  // namespace xrpt

@@ -1,5 +1,7 @@
 #include "canvas/WindowPainter.h"
 
+#include "canvas/CardHints.h"
+#include "canvas/Handles.h"
 #include "canvas/PagePainter.h"
 #include "canvas/RVEditTemplateWnd.h"
 
@@ -32,7 +34,8 @@ const RVCardControl* HoveredCard(const RVEditTemplateWnd& window, const PagePlac
   const CardList& cards = window.Page().cards;
   for (std::size_t i = 0; client.Contains(pointer) && i < cards.Size(); ++i) {
     const Rect rect = ToPixels(place, RectOf(cards[i]));
-    if (RVEditTemplateWnd::IsVisible(client, rect) && rect.Contains(pointer)) return &cards[i];
+    const bool meets = RVEditTemplateWnd::IsVisible(client, rect) && rect.Contains(pointer);
+    if (meets && !window.IsHidden(cards[i])) return &cards[i];
   }
   return nullptr;
 }
@@ -41,11 +44,11 @@ const RVCardControl* HoveredCard(const RVEditTemplateWnd& window, const PagePlac
 std::vector<CardFrame> FramesOf(const RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client,
                                 const RVCardControl* hovered) {
   std::vector<CardFrame> frames;
-  if (!place.IsValid()) return frames;
+  if (!place.IsValid() || window.IsPreview()) return frames;
   const CardList& cards = window.Page().cards;
   for (std::size_t i = 0; i < cards.Size(); ++i) {
     const Rect rect = ToPixels(place, RectOf(cards[i]));
-    if (!RVEditTemplateWnd::IsVisible(client, rect)) continue;
+    if (!RVEditTemplateWnd::IsVisible(client, rect) || window.IsHidden(cards[i])) continue;
     frames.push_back(FrameOf(cards[i], rect, window));
     frames.back().hovered = &cards[i] == hovered;
   }
@@ -60,11 +63,46 @@ void DrawGuide(PixelBuffer& pixels, const GuideLine& guide, Color color) {
   }
 }
 
+// Lines the user has drawn over the page to place cards by, as long as the window.
+void DrawLines(PixelBuffer& pixels, const RVEditTemplateWnd& window, const PagePlacement& place, const Rect& client,
+               Color color) {
+  if (!place.IsValid()) return;
+  for (const double x : window.Lines().down) {
+    const int at = ToPixels(place, {x, 0.0, 0.0, 0.0}).left;
+    pixels.Fill({at, client.top, at + 1, client.bottom}, color);
+  }
+  for (const double y : window.Lines().across) {
+    const int at = ToPixels(place, {0.0, y, 0.0, 0.0}).top;
+    pixels.Fill({client.left, at, client.right, at + 1}, color);
+  }
+}
+
+// Cards in sight only.
+void MarkSelection(PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& client, Color color) {
+  if (window.Selection().IsEmpty()) return;
+  std::vector<Rect> rects = window.SelectedRects();
+  std::erase_if(rects, [&](const Rect& rect) { return rect == Rect() || !RVEditTemplateWnd::IsVisible(client, rect); });
+  DrawSelectionMarks(pixels, rects, color);
+}
+
+PagePaint PaintOf(const RVEditTemplateWnd& window, PixelBuffer& pixels) {
+  const bool shown = window.IsGridShown() && !window.IsPreview();
+  PagePaint how{true, window.Surround(), shown ? &pixels : nullptr, shown, {}};
+  if (!window.IsPreview() && window.HasNoted(&CardNote::hidden))
+    how.shows = [&window](const RVCardControl& card) { return !window.IsHidden(card); };
+  return how;
+}
+
+void PaintHints(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part) {
+  if (window.Options().hintsAtCards && !window.IsPreview())
+    DrawCardHints(graphics, window.Page().cards, window.MakeDraw(part), PaintOf(window, pixels).shows);
+}
+
 }  // namespace
 
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client) {
-  const PagePaint how{true, window.Surround(), &pixels};
-  PaintPage(graphics, window.Page(), window.MakeDraw(client), how);
+  PaintPage(graphics, window.Page(), window.MakeDraw(client), PaintOf(window, pixels));
+  PaintHints(graphics, pixels, window, client);
   window.BackgroundDrawn();
 }
 
@@ -84,8 +122,8 @@ std::vector<Rect> MovingCards(const RVEditTemplateWnd& window, const Rect& clien
 void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part) {
   const GraphicsState state(graphics);
   graphics.ClipRect(RectD(part));
-  const PagePaint how{true, window.Surround(), &pixels};
-  PaintPage(graphics, window.Page(), window.MakeDraw(part), how);
+  PaintPage(graphics, window.Page(), window.MakeDraw(part), PaintOf(window, pixels));
+  PaintHints(graphics, pixels, window, part);
 }
 
 WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int painting) {
@@ -99,7 +137,7 @@ WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int
 }
 
 void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
-                          const Rect& client, Color guideColor) {
+                          const Rect& client, const OverlayColors& colors) {
   const PagePlacement place = window.Placement();
   Scene scene = SceneOf(window, painting);
   if (scene != scene_) {
@@ -112,7 +150,9 @@ void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int paint
     hovered_ = hovered;
   }
   frames_.Compose(shown, window.Phase());
-  for (const GuideLine& guide : window.Guides()) DrawGuide(shown, guide, guideColor);
+  if (!window.IsPreview()) DrawLines(shown, window, place, client, colors.guide);
+  if (window.Options().showsHandles && !window.IsPreview()) MarkSelection(shown, window, client, colors.selection);
+  for (const GuideLine& guide : window.Guides()) DrawGuide(shown, guide, colors.guide);
   for (const Rect& rect : window.DraggingRects()) DrawDraggingBox(shown, rect);
 }
 

@@ -23,12 +23,19 @@ std::vector<Rect> MovingCards(const RVEditTemplateWnd& window, const Rect& clien
 // Paints one part of the page anew, over what was there.
 void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const Rect& part);
 
+// Colours of what an application lays over the page in colours of its own.
+struct OverlayColors {
+  OverlayColors(Color guides, Color marks = Rgb(0x1A, 0x73, 0xE8)) : guide(guides), selection(marks) {}
+  Color guide;
+  Color selection;
+};
+
 class WindowOverlay {
  public:
   // Fills `shown` with the page's picture and all that lies over it. `painting` tells one picture of the page from the
   // next; both are of one size.
   void Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
-             const Rect& client, Color guideColor);
+             const Rect& client, const OverlayColors& colors);
 
  private:
   // What the frames are made from, the phase aside.

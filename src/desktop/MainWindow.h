@@ -10,6 +10,7 @@
 #include "model/RVReport.h"
 
 class QDockWidget;
+class QStackedWidget;
 
 namespace xrpt {
 
@@ -17,6 +18,7 @@ class Actions;
 class CornerBar;
 class FileKeeper;
 class FontGroup;
+class HistoryPanel;
 class MessageBar;
 class Outline;
 class PageFrame;
@@ -27,6 +29,7 @@ class Ribbon;
 class RVEditControlWnd;
 class SearchDialog;
 class SideDocks;
+class StartPage;
 class StatusBar;
 
 class MainWindow final : public QMainWindow, private EditorPort {
@@ -46,8 +49,11 @@ class MainWindow final : public QMainWindow, private EditorPort {
 
   // Opens by name or path. What cannot be opened says why, above the page.
   void Open(const std::wstring& nameOrPath);
-  // The report that was open last, when there is one.
-  void OpenLast();
+  // Where pages are, until something is opened or begun: recent reports and samples.
+  void ShowStart();
+  bool IsStartShown() const;
+  void SetSamples(const Path& folder);
+  StartPage& Start() { return *start_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -73,7 +79,10 @@ class MainWindow final : public QMainWindow, private EditorPort {
 
   // Construction
   void BuildCentre();
+  void BuildStart();
+  void HideStart();
   void BuildRibbon();
+  void AddInsertGroup();
   void BuildDocks();
   QDockWidget* AddPanel(const char* command, int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
   void BuildStatusBar();
@@ -98,6 +107,10 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ToggleRulers();
   void ToggleDarkTheme();
   void ApplySurround();
+  // What is half typed, on the page or in a panel, is taken over.
+  void Commit();
+  void EditText();
+  void DropFiles(const QStringList& files, QPoint at);
   void OpenPalette();
   void OpenShortcutSheet();
   // Dialogs over the report, see MainWindowDialogs.cpp
@@ -118,7 +131,10 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);
 
+  QStackedWidget* centre_ = nullptr;
   PageFrame* pages_ = nullptr;
+  StartPage* start_ = nullptr;
+  HistoryPanel* historyPanel_ = nullptr;
   MessageBar* messages_ = nullptr;
   std::unique_ptr<RVEditControlWnd> frame_;
   std::unique_ptr<SelectedFields> fields_;
@@ -136,7 +152,8 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::unique_ptr<FileKeeper> files_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
-  bool smartGuides_ = false;
+  std::uint64_t startedAt_ = 0;  // where the history stood when the start page came
+  bool smartGuides_ = true;
 };
 
 }  // namespace xrpt

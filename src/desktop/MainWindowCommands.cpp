@@ -14,6 +14,7 @@
 #include "desktop/look/Theme.h"
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/Outline.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/ribbon/Actions.h"
@@ -28,6 +29,8 @@ bool MainWindow::RunCommand(const char* name) {
       {"Animation", &MainWindow::ToggleAnimation},
       {"Rulers", &MainWindow::ToggleRulers},
       {"DarkTheme", &MainWindow::ToggleDarkTheme},
+      {"EditText", &MainWindow::EditText},
+      {"StartPage", &MainWindow::ShowStart},
       {"CommandPalette", &MainWindow::OpenPalette},
       {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
       {"SaveAs", &MainWindow::SaveAs},
@@ -100,9 +103,13 @@ void MainWindow::ApplySurround() {
   pages_->View().RepaintPage();
 }
 
+void MainWindow::EditText() {
+  if (!outline_->RenameChosen()) pages_->View().EditContent();
+}
+
 // --- Sheets ---
 
-void MainWindow::OpenPalette() { (new CommandPalette(actions_->All(), this))->show(); }
+void MainWindow::OpenPalette() { (new CommandPalette(*actions_, this))->show(); }
 
 void MainWindow::OpenShortcutSheet() { (new ShortcutSheet(actions_->All(), this))->open(); }
 

@@ -1,4 +1,4 @@
-// Text ids of the windows, in the catalogues' ranges 60500 to 61199 and 62400 to 62599.
+// Text ids of the windows, in the catalogues' ranges 60500 to 61199 and 62400 to 62699.
 #pragma once
 
 namespace xrpt::text {
@@ -116,6 +116,33 @@ inline constexpr int kPictures = 62445;
 inline constexpr int kAddPictures = 62446;
 inline constexpr int kNoPicture = 62447;
 inline constexpr int kPictureFiles = 62448;
+
+inline constexpr int kEditedText = 62610;
+inline constexpr int kHistory = 62611;
+inline constexpr int kHistoryBegin = 62612;
+inline constexpr int kStartPage = 62613;
+inline constexpr int kStartTitle = 62614;
+inline constexpr int kNewPortrait = 62615;
+inline constexpr int kNewLandscape = 62616;
+inline constexpr int kOpenOther = 62617;
+inline constexpr int kRecentReports = 62618;
+inline constexpr int kFolderReports = 62619;
+inline constexpr int kSamples = 62620;
+inline constexpr int kLockedCard = 62621;
+inline constexpr int kHiddenCard = 62622;
+inline constexpr int kLockedHiddenCard = 62623;
+inline constexpr int kRulerHint = 62624;
+inline constexpr int kDragHint = 62657;
+inline constexpr int kGestureText = 62647;
+inline constexpr int kGestureTextKeys = 62648;
+inline constexpr int kGestureCopy = 62649;
+inline constexpr int kGestureCopyKeys = 62650;
+inline constexpr int kGestureBeneath = 62651;
+inline constexpr int kGestureBeneathKeys = 62652;
+inline constexpr int kGestureFine = 62653;
+inline constexpr int kGestureFineKeys = 62654;
+inline constexpr int kGestureFree = 62655;
+inline constexpr int kGestureFreeKeys = 62656;
 
 // The system's own.
 inline constexpr int kCancel = 380;

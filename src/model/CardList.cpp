@@ -85,6 +85,13 @@ void CardList::MoveToBack(const std::vector<std::size_t>& indexes) {
   cards_.insert(cards_.end(), std::make_move_iterator(moved.begin()), std::make_move_iterator(moved.end()));
 }
 
+void CardList::Reorder(const std::vector<std::size_t>& order) {
+  std::vector<CardPtr> all;
+  all.reserve(order.size());
+  for (const std::size_t from : order) all.push_back(std::move(cards_[from]));
+  cards_ = std::move(all);
+}
+
 std::shared_ptr<const SharedCards::Stretch> CardList::ShareStretch(std::size_t first, const SharedCards& before) const {
   const auto begin = cards_.begin() + static_cast<std::ptrdiff_t>(first);
   const auto end = cards_.begin() + static_cast<std::ptrdiff_t>(std::min(first + SharedCards::kStretch, cards_.size()));

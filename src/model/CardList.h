@@ -58,6 +58,8 @@ class CardList {
   // Puts cards before or behind all others, in one pass; the last of them ends outermost.
   void MoveToFront(const std::vector<std::size_t>& indexes);
   void MoveToBack(const std::vector<std::size_t>& indexes);
+  // The cards in another order: where each of the new places stood before, every one of them once.
+  void Reorder(const std::vector<std::size_t>& order);
   void Clear() { cards_.clear(); }
 
   // What a snapshot keeps, and the way back.

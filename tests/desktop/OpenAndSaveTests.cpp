@@ -175,16 +175,6 @@ TEST_F(OpenAndSave, UnsavedWorkOfACrashIsOfferedBesideTheFile) {
   EXPECT_EQ(PartsOf<QPushButton>(Window().Messages()).size(), 1u) << "the other one is still waiting";
 }
 
-TEST_F(OpenAndSave, TheLastReportOpensAgain) {
-  OpenSample();
-  Frame().SetModified(true);
-  Run("Save");
-  CloseWindow();
-  Window().OpenLast();
-  Settle();
-  EXPECT_EQ(Frame().Report().name, kSample);
-}
-
 TEST_F(OpenAndSave, TheTitleNamesTheReportAndMarksChanges) {
   OpenSample();
   EXPECT_THAT(Window().windowTitle().toStdString(), HasSubstr("Consumo_mensual[*]"));

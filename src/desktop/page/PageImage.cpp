@@ -20,6 +20,11 @@ PixelBuffer BufferOf(QImage& image) {
   return buffer;
 }
 
+Color ColorOf(const QColor& color) {
+  return Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
+             static_cast<unsigned>(color.blue()));
+}
+
 // In canvas pixels.
 Rect ClientOf(const QImage& image) {
   const QSizeF size = image.deviceIndependentSize();
@@ -65,11 +70,9 @@ void PageImage::PaintOverlay(RVEditTemplateWnd& window, double scale) {
   if (shown_.size() != page_.size()) shown_ = QImage(page_.size(), page_.format());
   shown_.setDevicePixelRatio(scale);
   if (shown_.isNull()) return;
-  const QColor guide = CurrentTheme().guide;
   PixelBuffer shown = BufferOf(shown_);
   overlay_.Paint(shown, BufferOf(page_), paintings_, window, ClientOf(shown_),
-                 Rgb(static_cast<unsigned>(guide.red()), static_cast<unsigned>(guide.green()),
-                     static_cast<unsigned>(guide.blue())));
+                 {ColorOf(CurrentTheme().guide), ColorOf(CurrentTheme().accent)});
 }
 
 }  // namespace xrpt

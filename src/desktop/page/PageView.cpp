@@ -1,6 +1,5 @@
 #include "desktop/page/PageView.h"
 
-#include <QMenu>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -10,6 +9,9 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
+#include "desktop/page/DragNote.h"
+#include "desktop/page/InPlaceEditor.h"
+#include "desktop/page/PageAccess.h"
 #include "desktop/page/PageMenu.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/ribbon/Actions.h"
@@ -20,6 +22,7 @@ namespace xrpt {
 namespace {
 
 constexpr int kAnimationStep = 40;  // milliseconds
+constexpr int kScrollStep = 30;     // milliseconds
 
 // The keyboard is on the page.
 void PaintFocus(QPainter& painter, const QRect& area) {
@@ -30,6 +33,7 @@ void PaintFocus(QPainter& painter, const QRect& area) {
 }  // namespace
 
 PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
+  InstallPageAccess();
   setAccessibleName(Translated(text::kPageView));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -40,13 +44,16 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   verticalScrollBar()->setAccessibleName(Translated(text::kScrollDown));
   animation_.setInterval(kAnimationStep);
   connect(&animation_, &QTimer::timeout, this, [this] { ShowMoment(); });
+  scrolling_.setInterval(kScrollStep);
+  connect(&scrolling_, &QTimer::timeout, this, [this] { ScrollAlong(); });
   clock_.start();
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  setAcceptDrops(true);
   setMinimumSize(60, 60);
 }
 
-void PageView::Connect(RVEditControlWnd& frame, const Actions& actions) {
+void PageView::Connect(RVEditControlWnd& frame, Actions& actions) {
   frame_ = &frame;
   actions_ = &actions;
 }
@@ -55,6 +62,7 @@ RVEditTemplateWnd* PageView::Window() const { return port_ ? port_->Window() : n
 
 void PageView::ShowPage(PagePort& port) {
   if (port_ == &port) return;
+  KeepText();
   if (port_) LoseCapture();
   port_ = &port;
   ShowScroll(ScrollAxis::Horizontal, port.Scroll(ScrollAxis::Horizontal));
@@ -66,6 +74,7 @@ void PageView::ShowPage(PagePort& port) {
 
 void PageView::Forget(const PagePort& port) {
   if (port_ != &port) return;
+  KeepText();
   port_ = nullptr;
   captured_ = false;
   image_.Forget();
@@ -86,7 +95,10 @@ void PageView::Repaint() {
 }
 
 // The toolkit sends a pressed mouse's events here by itself; what counts is who hears of losing it.
-void PageView::Capture(bool on) { captured_ = on; }
+void PageView::Capture(bool on) {
+  captured_ = on;
+  if (!on) scrolling_.stop();
+}
 
 void PageView::LoseCapture() {
   StopPanning();
@@ -111,17 +123,11 @@ void PageView::ShowScroll(ScrollAxis axis, const ScrollInfo& info) {
   bar->update();
 }
 
-void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
+// Which commands there are is the catalogue's to say.
+void PageView::OpenMenu(Point at) {
   captured_ = false;
-  const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
-  if (command == 0 || !Window()) return;
-  // What the catalogue knows runs as from the ribbon; undo there means the whole report.
-  if (QAction* action = ActionOfCommand(command, *actions_)) {
-    action->trigger();
-  } else {
-    Window()->OnCommand(command);
-  }
-  if (changed) changed();
+  actions_->Refresh();
+  if (RunPageMenu(*frame_, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this) && changed) changed();
 }
 
 // --- Painting ---
@@ -130,7 +136,8 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
   painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
-  if (paintOver) paintOver(painter);
+  if (paintOver && !Window()->IsPreview()) paintOver(painter);
+  PaintDragNote(painter, *Window(), viewport()->size());
   if (hasFocus()) PaintFocus(painter, viewport()->rect());
   const bool moves = animated_ && image_.HasMoving();
   if (moves && !animation_.isActive()) animation_.start();
@@ -156,6 +163,7 @@ void PageView::ShowMoment() {
 
 void PageView::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
+  KeepText();
   if (Window()) Window()->OnSize();
   if (resized) resized();
   if (placementChanged) placementChanged();
@@ -163,6 +171,7 @@ void PageView::resizeEvent(QResizeEvent* event) {
 
 void PageView::scrollContentsBy(int, int) {
   if (!Window()) return;
+  KeepText();
   Window()->OnHScroll(ScrollCommand::Thumb, horizontalScrollBar()->value());
   Window()->OnVScroll(ScrollCommand::Thumb, verticalScrollBar()->value());
 }

@@ -139,6 +139,13 @@ void FieldForm::FocusFirst() {
   if (!entries_.empty()) entries_.front().editor->Widget()->setFocus(Qt::ShortcutFocusReason);
 }
 
+void FieldForm::FocusContent() {
+  for (const Entry& entry : entries_) {
+    if (entry.row->panel.group == FieldGroup::Content) return entry.editor->Widget()->setFocus(Qt::ShortcutFocusReason);
+  }
+  FocusFirst();
+}
+
 QWidget* FieldForm::Find(std::string_view name) const {
   for (const Entry& entry : entries_) {
     if (entry.row->FullName() == name) return entry.editor->Widget();

@@ -32,6 +32,8 @@ class FieldForm final : public QWidget {
   void Finish();
   bool IsEmpty() const { return entries_.empty(); }
   void FocusFirst();
+  // The field that says what the card shows.
+  void FocusContent();
   // The widget of a field by its full name; null when it is not shown.
   QWidget* Find(std::string_view name) const;
 

@@ -115,6 +115,8 @@ void PropertyPanel::EndStep() {
 
 void PropertyPanel::FocusFirst() { form_->FocusFirst(); }
 
+void PropertyPanel::FocusContent() { form_->FocusContent(); }
+
 QWidget* PropertyPanel::Find(std::string_view name) const {
   if (QWidget* found = form_->Find(name)) return found;
   if (QWidget* found = items_->Find(name)) return found;

@@ -29,6 +29,8 @@ class PropertyPanel final : public QScrollArea {
   void Commit();
   // Puts the keyboard on the first field.
   void FocusFirst();
+  // The field that says what the card shows.
+  void FocusContent();
   // The widget of a field by its full name; null when it is not shown. Those of an alternative's card stand behind
   // the card's own.
   QWidget* Find(std::string_view name) const;
