@@ -13,8 +13,9 @@
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/DifferencesDialog.h"
-#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/PageDialog.h"
 #include "desktop/dialogs/QuestionBox.h"
+#include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
@@ -30,6 +31,7 @@
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
 #include "desktop/ribbon/FontGroup.h"
+#include "editor/CommandCatalogue.h"
 #include "editor/CommandTexts.h"
 #include "editor/EditorTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -117,7 +119,13 @@ void MainWindow::SaveFailed(const SaveResult& result) {
 }
 
 std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
-  return OpenDialog::Choose(current, this);
+  return ReportListDialog::Choose(current, frame_->Report().File(), this);
+}
+
+bool MainWindow::EditPageProperties(CDlgGlobalProperties& page) {
+  PageDialog dialog(page, frame_->PageCount() > 1, this);
+  if (FindCommand("VirtualDevices")) dialog.OfferDevices([this] { RunCommand("VirtualDevices"); });
+  return dialog.exec() == QDialog::Accepted;
 }
 
 // --- Pages ---

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "editor/EditorPort.h"
+#include "editor/ExportChoice.h"
 #include "editor/SelectedFields.h"
 #include "model/RVReport.h"
 
@@ -69,6 +70,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::optional<std::wstring> AskForName(const std::wstring& proposed) override;
   void ShowDifferences(const Path& file, const RVReport& report) override;
   std::optional<std::wstring> ChooseReport(const std::wstring& current) override;
+  bool EditPageProperties(CDlgGlobalProperties& page) override;
 
   // Construction
   void BuildCentre();
@@ -100,11 +102,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenPalette();
   void OpenShortcutSheet();
   void OpenStyles();
+  void OpenImageStore();
   void ExportPdf();
   void ExportImages();
+  void Export(ExportFormat format);
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
                    void (MainWindow::*again)());
   void Print();
+  void PrintPreview();
   void ShowSwitches();
   void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);

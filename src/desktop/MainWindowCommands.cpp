@@ -7,6 +7,7 @@
 #include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
+#include "desktop/dialogs/ImageStoreDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
 #include "desktop/dialogs/StylesDialog.h"
@@ -34,6 +35,8 @@ bool MainWindow::RunCommand(const char* name) {
       {"ExportPdf", &MainWindow::ExportPdf},
       {"ExportImages", &MainWindow::ExportImages},
       {"Print", &MainWindow::Print},
+      {"PrintPreview", &MainWindow::PrintPreview},
+      {"ImageStore", &MainWindow::OpenImageStore},
       {"Styles", &MainWindow::OpenStyles}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;
@@ -106,6 +109,17 @@ void MainWindow::OpenStyles() {
   dialog.changed = [this](const std::vector<StyleRenaming>& renamings) {
     frame_->StylesModified(renamings);
     properties_->Reload();
+  };
+  dialog.exec();
+}
+
+void MainWindow::OpenImageStore() {
+  ImageStoreDialog dialog(frame_->Report(), this);
+  dialog.changed = [this] { frame_->ImagesModified(); };
+  dialog.useChosen = [this](const PictureUse& use) {
+    if (use.cardId.empty()) frame_->ShowPage(use.page);
+    if (frame_->SelectControlById(use.cardId)) pages_->View().RevealSelection();
+    RefreshSoon();
   };
   dialog.exec();
 }

@@ -110,5 +110,8 @@ inline constexpr int kProblemsPanel = 61543;
 inline constexpr int kResourcesGroup = 61560;
 inline constexpr int kStyles = 61561;
 inline constexpr int kBringBack = 61544;
+inline constexpr int kConfig = 61570;
+inline constexpr int kImageStore = 61571;
+inline constexpr int kPrintPreview = 61572;
 
 }  // namespace xrpt::text

@@ -14,6 +14,7 @@
 
 namespace xrpt {
 
+class CDlgGlobalProperties;
 class RVEditTemplateWnd;
 class RVReport;
 struct LoadResult;
@@ -59,6 +60,10 @@ class EditorPort {
   virtual void ShowDifferences(const Path&, const RVReport&) {}
   // The report list in its choosing mode, `current` preselected. Nothing when cancelled.
   virtual std::optional<std::wstring> ChooseReport(const std::wstring& current) = 0;
+  // The properties of the page shown, to be changed. True for OK.
+  virtual bool EditPageProperties(CDlgGlobalProperties&) { return false; }
+  // A command by its number that belongs to the window round the editor. False when nobody knows it.
+  virtual bool PassCommand(int) { return false; }
 };
 
 }  // namespace xrpt

@@ -100,6 +100,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool MovePage(std::size_t from, std::size_t to);
   // 0 makes the current page landscape, anything else portrait. False when it was already.
   bool SetOrientation(int orientation);
+  // Lets the user change the properties of the current page, and its paper that of all pages: one step. True when
+  // something changed.
+  bool OnConfig();
   // The grid's sign switches it; the step stays.
   bool IsGridOn() const;
   bool ToggleGrid();
@@ -210,6 +213,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void MarkByHistory(bool changesReport);
 
   bool Fit(int mode);
+  bool TakeProperties(const CDlgGlobalProperties& dialog);
 
   // Searching, see FrameSearch.cpp
   void Search(tagSearchReplace& request);

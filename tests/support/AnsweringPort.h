@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "editor/EditorPort.h"
@@ -42,6 +44,15 @@ class AnsweringPort final : public EditorPort {
   void ShowDifferences(const Path&, const RVReport&) override { ++compared; }
   void Tell(int textId) override { told.push_back(textId); }
   std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
+  bool EditPageProperties(CDlgGlobalProperties& page) override {
+    const auto edit = std::exchange(editPage, nullptr);
+    if (edit) edit(page);
+    return static_cast<bool>(edit);
+  }
+  bool PassCommand(int id) override {
+    passed.push_back(id);
+    return true;
+  }
 
   int windows = 0;
   Answer answer = Answer::No;
@@ -54,6 +65,8 @@ class AnsweringPort final : public EditorPort {
   int failed = 0;
   int compared = 0;
   std::optional<std::wstring> chosen;
+  std::function<void(CDlgGlobalProperties&)> editPage;  // once, with OK; cancelled without
+  std::vector<int> passed;
 };
 
 }  // namespace xrpt
