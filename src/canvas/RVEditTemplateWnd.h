@@ -219,6 +219,8 @@ class RVEditTemplateWnd {
   // Steps to the next match, after the last one to the first again (a call in between finds nothing), and tells the
   // parent whose card it is in. A new search starts at the first card.
   bool SearchControl(const std::wstring& pattern, bool matchCase, bool newSearch);
+  // Makes a match of a card the one found last, counted from 0 in that card, and tells the parent as a search does.
+  bool GoToMatch(std::size_t card, std::size_t match, const std::wstring& pattern, bool matchCase);
   // Replaces the match found last; false when there is none.
   bool ReplaceControl(const std::wstring& pattern, const std::wstring& replacement);
   // In every card, as one step. How many matches were replaced.

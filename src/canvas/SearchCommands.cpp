@@ -27,6 +27,18 @@ bool RVEditTemplateWnd::SearchControl(const std::wstring& pattern, bool matchCas
   return false;
 }
 
+bool RVEditTemplateWnd::GoToMatch(std::size_t index, std::size_t match, const std::wstring& pattern, bool matchCase) {
+  if (index >= page_.cards.Size()) return false;
+  const RVCardControl& card = page_.cards[index];
+  card.CreateSearchInfo(pattern, matchCase);
+  for (std::size_t step = 0; step <= match; ++step) {
+    if (!card.NextSearch()) return false;
+  }
+  searched_ = card.Key();
+  parent_.OnMessage({Message::CardFound, card.id});
+  return true;
+}
+
 bool RVEditTemplateWnd::ReplaceControl(const std::wstring& pattern, const std::wstring& replacement) {
   const std::size_t index = SearchedIndex();
   if (index == CardList::kNowhere) return false;

@@ -17,6 +17,7 @@
 #include "desktop/dialogs/QuestionBox.h"
 #include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
 #include "desktop/page/ClipboardPictures.h"
@@ -183,6 +184,7 @@ void MainWindow::Refresh() {
   ShowSelectionGeometry();
   ShowCaption();
   pages_->Refresh();
+  if (search_) search_->ReportChanged();
   files_->Refresh();
   problems_->Refresh();
 }

@@ -26,6 +26,7 @@ class ProblemsDesk;
 class PropertyPanel;
 class Ribbon;
 class RVEditControlWnd;
+class SearchDialog;
 class SideDocks;
 class StatusBar;
 
@@ -101,6 +102,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void ApplySurround();
   void OpenPalette();
   void OpenShortcutSheet();
+  // Dialogs over the report, see MainWindowDialogs.cpp
+  SearchDialog& Searching();
+  void OpenSearch();
+  void OpenReplace();
+  void SearchNext();
+  void SearchPrevious();
+  void OpenFormulas();
+  void OpenSources();
   void OpenStyles();
   void OpenImageStore();
   void ExportPdf();
@@ -126,6 +135,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   PropertyPanel* properties_ = nullptr;
   ProblemsDesk* problems_ = nullptr;
   StatusBar* status_ = nullptr;
+  SearchDialog* search_ = nullptr;                          // once it was asked for
   std::map<std::string, QDockWidget*, std::less<>> docks_;  // by the command that shows and hides them
   std::unique_ptr<SideDocks> sideDocks_;
   std::unique_ptr<FileKeeper> files_;

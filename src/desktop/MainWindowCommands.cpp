@@ -37,6 +37,12 @@ bool MainWindow::RunCommand(const char* name) {
       {"Print", &MainWindow::Print},
       {"PrintPreview", &MainWindow::PrintPreview},
       {"ImageStore", &MainWindow::OpenImageStore},
+      {"Search", &MainWindow::OpenSearch},
+      {"Replace", &MainWindow::OpenReplace},
+      {"SearchNext", &MainWindow::SearchNext},
+      {"SearchPrevious", &MainWindow::SearchPrevious},
+      {"FormulesSetup", &MainWindow::OpenFormulas},
+      {"VirtualDevices", &MainWindow::OpenSources},
       {"Styles", &MainWindow::OpenStyles}};
   for (const auto& [known, run] : kRows) {
     if (std::string_view(known) != name) continue;

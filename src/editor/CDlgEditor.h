@@ -31,6 +31,8 @@ class CDlgEditor {
   void OnStylesModified() { frame_.StylesModified(); }
   void OnManagerImageModified() { frame_.ImagesModified(); }
   bool OnControlByIdSelect(const std::wstring& id) { return frame_.SelectControlById(id); }
+  // Opens the table of formulas, which the application shows.
+  void OnFormulesSetup() { frame_.OnMessage({Message::Command, {}, RVEditControlWnd::kFormulasCommand}); }
   // Applies a replace that waits.
   void OnCtrlSearchReplace() { frame_.ApplyPendingReplace(); }
   // Hides the marks of the validator; they come back when the user asks for them.

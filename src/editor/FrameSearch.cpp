@@ -43,6 +43,17 @@ void RVEditControlWnd::Search(tagSearchReplace& request) {
   searchPage_ = request.found ? page : -1;
 }
 
+bool RVEditControlWnd::GoToMatch(std::size_t page, std::size_t card, std::size_t match, const std::wstring& text,
+                                 bool matchCase) {
+  EndEdits();
+  searchPage_ = -1;
+  if (page >= PageCount()) return false;
+  ShowPage(page);
+  if (!CurrentPage().GoToMatch(card, match, text, matchCase)) return false;
+  searchPage_ = static_cast<int>(page);
+  return true;
+}
+
 bool RVEditControlWnd::ApplyPendingReplace() {
   if (!std::exchange(replace_.isPending, false)) return false;
   if (searchPage_ < 0 || static_cast<std::size_t>(searchPage_) >= PageCount()) return false;

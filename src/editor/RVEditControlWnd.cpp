@@ -98,6 +98,7 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
 void RVEditControlWnd::OnPageCommand(int command) {
   if (command == kFindCommand) port_.RunCommand("Search");
   if (command == kReplaceCommand) port_.RunCommand("Replace");
+  if (command == kFormulasCommand) port_.RunCommand("FormulesSetup");
 }
 
 // Keys that the page leaves to the frame.

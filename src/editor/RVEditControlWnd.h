@@ -20,6 +20,9 @@ struct TextChange;
 
 class RVEditControlWnd final : public MessageTarget, private PageHistoryListener {
  public:
+  // The number hosts send to open the table of formulas.
+  static constexpr int kFormulasCommand = 32523;
+
   // Starts on a new, empty report. `port` must outlive the frame.
   explicit RVEditControlWnd(EditorPort& port, const EditingOptions& options = {});
   ~RVEditControlWnd() override;
@@ -135,6 +138,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   // What the search dialog asks; the answer is in the record. Searches the page that is shown, replaces what was found
   // last, or everything on all pages as one step.
   void OnSearchReplace(tagSearchReplace& request);
+  // Makes a match the one found last, on whichever page: that is shown, and the card picked. `match` counts from 0 in
+  // the card. False when it is not there.
+  bool GoToMatch(std::size_t page, std::size_t card, std::size_t match, const std::wstring& text, bool matchCase);
   // Carries out the replace that waits. True when something was replaced.
   bool ApplyPendingReplace();
   // Changes texts all over the report, formulas included, as one step; gives how many. Nothing is changed when formulas

@@ -6,6 +6,12 @@
 
 namespace xrpt {
 
+ExpressionSources SourcesOf(const RVEditControlWnd& frame) {
+  const RVReport& report = frame.Report();
+  return {ReadFormulas(report.formules), ReadSources(SourceKind::VirtualDevice, report.virtualDevices),
+          ReadSources(SourceKind::GoBackVariable, report.goBackVariables)};
+}
+
 CDlgFormules OpenFormulas(const RVEditControlWnd& frame, FormulesPort& port) {
   return {frame.Report().formules, FormulasUsedByCards(frame.Report()), port};
 }

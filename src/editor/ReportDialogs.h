@@ -3,11 +3,15 @@
 #pragma once
 
 #include "formulas/CDlgFormules.h"
+#include "formulas/ExpressionChoices.h"
 #include "formulas/RVDlgReportVirtualDeviceSetup.h"
 
 namespace xrpt {
 
 class RVEditControlWnd;
+
+// What the report's expressions may use.
+ExpressionSources SourcesOf(const RVEditControlWnd& frame);
 
 CDlgFormules OpenFormulas(const RVEditControlWnd& frame, FormulesPort& port);
 // OK. False, and nothing changed, when the dialog refuses to close.

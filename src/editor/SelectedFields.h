@@ -26,6 +26,8 @@ class SelectedFields {
   explicit SelectedFields(RVEditControlWnd& frame, FieldsOf whose = FieldsOf::Selection)
       : frame_(frame), whose_(whose) {}
 
+  const RVEditControlWnd& Frame() const { return frame_; }
+
   // How many cards are meant; 0: the page is.
   std::size_t Count() const { return Cards().size(); }
   // The cards' kind when all are of one, else 0 (0 for the page, too).

@@ -44,7 +44,7 @@ FormulaResult CDlgNewFormule::Judge(bool withName) {
   if (withName && FindFormula(others_, name)) return Refused(text::kNameAlreadyUsed);
   if (report_.analysis != kNumericExpression) return Refused(text::kExpressionNotAnalysed);
   if (RefersToItself()) return Refused(text::kRefersToItself);
-  return JudgeEvaluation();
+  return JudgeEvaluation(report_, text);
 }
 
 bool CDlgNewFormule::RefersToItself() const {
@@ -53,18 +53,18 @@ bool CDlgNewFormule::RefersToItself() const {
   return CheckBucles(all, 1) == 1;
 }
 
-FormulaResult CDlgNewFormule::JudgeEvaluation() const {
-  switch (*report_.evaluation) {
+FormulaResult JudgeEvaluation(const ExpressionReport& report, std::wstring_view expression) {
+  switch (*report.evaluation) {
     case kEvaluated:
-      return {0, ValueText(report_.value), true};
+      return {0, ValueText(report.value), true};
     case kNoLiveValue:
-      return {0, ValueText(report_.value) + L" *", true};
+      return {0, ValueText(report.value) + L" *", true};
     case kUndefinedNames: {
-      const std::wstring count = std::to_wstring(report_.undefined.size());
+      const std::wstring count = std::to_wstring(report.undefined.size());
       return {text::kUndefinedVariables, FormatText(HostText(text::kUndefinedVariables), count), true};
     }
     case kEvaluationFails: {
-      const bool module = CurrentHost().expressions->isThereAModuleInExpression(text);
+      const bool module = CurrentHost().expressions->isThereAModuleInExpression(expression);
       return module ? Accepted(text::kModuleInExpression) : Refused(text::kExpressionFails);
     }
     default:

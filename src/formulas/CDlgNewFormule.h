@@ -13,6 +13,9 @@ struct FormulaResult {
   bool accepted = false;
 };
 
+// What is said of a numeric expression that was evaluated.
+FormulaResult JudgeEvaluation(const ExpressionReport& report, std::wstring_view expression);
+
 class CDlgNewFormule {
  public:
   // `formerName`: the name of the formula that is modified; empty for a new one. The table is copied.
@@ -40,7 +43,6 @@ class CDlgNewFormule {
 
  private:
   FormulaResult Judge(bool withName);
-  FormulaResult JudgeEvaluation() const;
   bool RefersToItself() const;
 
   FormulaTable others_;

@@ -44,8 +44,8 @@ std::vector<SearchHit> SearchReport(const RVReport& report, const TextFinder& fi
     if (!IsSearched(text.role)) return;
     const std::vector<std::size_t> found = finder.FindAll(text.text);
     if (found.empty()) return;
-    const auto whole = std::make_shared<const std::wstring>(text.text);
-    for (const std::size_t at : found) hits.push_back({text.place, text.Owner(), at, whole});
+    const auto whole = std::make_shared<const FoundText>(FoundText{text.Owner(), std::wstring(text.text)});
+    for (const std::size_t at : found) hits.push_back({text.place, at, whole});
   });
   return hits;
 }
@@ -91,6 +91,17 @@ UseCounts SourcesUsed(const RVReport& report) {
     CountSources(SourceKind::GoBackVariable, text, counts);
   });
   return counts;
+}
+
+std::vector<TextUse> UsersOfSource(const RVReport& report, std::wstring_view id) {
+  std::vector<TextUse> users;
+  ForEachText(report, [&](const ReportText& text) {
+    UseCounts used;
+    CountSources(SourceKind::VirtualDevice, text, used);
+    CountSources(SourceKind::GoBackVariable, text, used);
+    if (UsesOf(used, id) > 0) users.push_back({text.place, text.Owner()});
+  });
+  return users;
 }
 
 std::size_t ApplyToCard(RVCardControl& card, const std::vector<const TextChange*>& changes) {

@@ -64,13 +64,18 @@ void ForEachText(const RVReport& report, const Visit& visit) {
   }
 }
 
+// A text with matches, the same for all of them.
+struct FoundText {
+  TextOwner owner;
+  std::wstring text;
+};
 // One match of a search.
 struct SearchHit {
   TextPlace place;
-  TextOwner owner;
   std::size_t position = 0;  // characters from 0
-  std::shared_ptr<const std::wstring> text;
+  std::shared_ptr<const FoundText> in;
 };
+// In the order in which texts are visited.
 std::vector<SearchHit> SearchReport(const RVReport& report, const TextFinder& finder);
 
 // One text that is to become another.
@@ -92,6 +97,14 @@ std::vector<TextChange> PreviewSourceRenamings(const RVReport& report, const std
 // How many texts of the cards use each formula; how many of cards and formulas use each device and go-back variable.
 UseCounts FormulasUsedByCards(const RVReport& report);
 UseCounts SourcesUsed(const RVReport& report);
+
+// A text that uses something.
+struct TextUse {
+  TextPlace place;
+  TextOwner owner;
+};
+// Those that use the device or go-back variable of that identifier.
+std::vector<TextUse> UsersOfSource(const RVReport& report, std::wstring_view id);
 
 // Carries out the changes of one card, all of the same page and card, where the text is still what it was. How many
 // texts changed.

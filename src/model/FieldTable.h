@@ -30,7 +30,8 @@ enum class FieldEditor {
   Style,
   Angle,
   Variable,
-  Picture
+  Picture,
+  Expression
 };
 
 // Panels show fields in these groups, in this order.

@@ -12,7 +12,7 @@ std::span<const CardRow> RVCardFormule::Rows() {
   static constexpr CardRow kRows[] = {
       Holding(TextRole::Expression,
               WhenNotEmpty<Formule, &Formule::value>(Field<Formule, codec::String, &Formule::value>(
-                  nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Text}))),
+                  nullptr, "value", nullptr, {text::kExpression, FieldGroup::Content, FieldEditor::Expression}))),
       Field<Formule, codec::Integer, &Formule::integers>(
           nullptr, "integers", "-1", {text::kIntegers, FieldGroup::Format, FieldEditor::Integer, -1, 12}),
       ReadBy<Formule, &Formule::ReadLeftPadding>(

@@ -86,7 +86,7 @@ void StyleDialog::AddFields(QFormLayout& form) {
           row.assign(dialog_.style, text);
           sample_->Show(dialog_.style);
         },
-        this);
+        [] { return ExpressionSources(); }, this);
     editor->Offer(row.words);
     editor->Show(row.text(dialog_.style));
     editor->Widget()->setAccessibleName(Translated(row.panel.textId));

@@ -10,10 +10,10 @@ namespace xrpt {
 
 namespace {
 
-const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830, 0x62727C,
-                         0xE2ECF0, 0xCADEE6, 0x17708F, 0xFFFFFF, 0xE0218A, 0xE6F1F5, 0xFCEFD9, 0xFFFFFF};
-const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA, 0x95A3AC,
-                        0x323A40, 0x3F4A51, 0x4FB3D4, 0x0C1E26, 0xE0218A, 0x243742, 0x46391F, 0x3F4A51};
+const ThemeColors kLight{0xF5F7F8, 0xFFFFFF, 0xE4E9EC, 0xD9DFE3, 0xFFFFFF, 0xBAC5CB, 0x1C2830, 0x62727C, 0xE2ECF0,
+                         0xCADEE6, 0x17708F, 0xFFFFFF, 0xE0218A, 0xE6F1F5, 0xFCEFD9, 0xFFFFFF, 0xC62828};
+const ThemeColors kDark{0x24292D, 0x1C2023, 0x14171A, 0x363E44, 0x2B3136, 0x4B555C, 0xE2E7EA, 0x95A3AC, 0x323A40,
+                        0x3F4A51, 0x4FB3D4, 0x0C1E26, 0xE0218A, 0x243742, 0x46391F, 0x3F4A51, 0xFF7B72};
 
 bool g_dark = false;
 
@@ -54,7 +54,7 @@ QString StyleSheetOf(const ThemeColors& colors) {
       {"@border", colors.border},     {"@text", colors.text},         {"@muted", colors.muted},
       {"@hover", colors.hover},       {"@thumb", colors.fieldBorder}, {"@notice", colors.notice},
       {"@warning", colors.warning},   {"@tip", colors.tip},           {"@pressed", colors.pressed},
-      {"@onAccent", colors.onAccent}, {"@accent", colors.accent}};
+      {"@onAccent", colors.onAccent}, {"@accent", colors.accent},     {"@wrong", colors.wrong}};
   for (const auto& [name, color] : names) sheet.replace(QLatin1String(name), color.name());
   return sheet;
 }

@@ -28,6 +28,7 @@ struct ThemeColors {
   QColor notice;   // behind a message
   QColor warning;  // behind an alarming one
   QColor tip;      // behind a tooltip
+  QColor wrong;    // what is not right
 };
 
 const ThemeColors& CurrentTheme();

@@ -49,6 +49,8 @@ class PageView final : public QAbstractScrollArea {
 
   // Scrolls until the selected cards are in sight, as far as they fit.
   void RevealSelection();
+  // Screen pixels.
+  QRect SelectionOnScreen() const;
 
   // What lies over the page for the time being, and what it says at a pixel (nothing: no tooltip).
   std::function<void(QPainter&)> paintOver;

@@ -153,6 +153,12 @@ void PageView::RevealSelection() {
   verticalScrollBar()->setValue(verticalScrollBar()->value() + IntoSight(area.top, area.bottom, viewport()->height()));
 }
 
+QRect PageView::SelectionOnScreen() const {
+  if (!Window() || Window()->Selection().IsEmpty()) return {};
+  const Rect area = Window()->SelectedArea();
+  return {viewport()->mapToGlobal(QPoint(area.left, area.top)), QSize(area.Width(), area.Height())};
+}
+
 // --- Keyboard ---
 
 void PageView::keyPressEvent(QKeyEvent* event) {

@@ -1,7 +1,6 @@
 #include "desktop/panels/AlternativesEditor.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QSignalBlocker>
@@ -9,12 +8,15 @@
 #include <QVBoxLayout>
 
 #include "desktop/TextIds.h"
+#include "desktop/dialogs/formulas/ExpressionEditor.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/FieldForm.h"
+#include "desktop/panels/FieldServices.h"
 #include "desktop/panels/FieldUndo.h"
 #include "desktop/panels/ItemsEditor.h"
 #include "desktop/panels/ListButtons.h"
 #include "model/FieldTexts.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -22,8 +24,8 @@ namespace {
 constexpr char kPrefix[] = "alternative/";
 }
 
-AlternativesEditor::AlternativesEditor(RVEditControlWnd& frame, FieldUndo& undo, std::function<void()> changed,
-                                       QWidget* parent)
+AlternativesEditor::AlternativesEditor(RVEditControlWnd& frame, const FieldServices& services,
+                                       std::function<void()> changed, QWidget* parent)
     : QWidget(parent), alternatives_(frame), fields_(frame, FieldsOf::Alternative), changed_(std::move(changed)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -34,19 +36,23 @@ AlternativesEditor::AlternativesEditor(RVEditControlWnd& frame, FieldUndo& undo,
   auto* inside = new QVBoxLayout(shown_);
   inside->setContentsMargins(0, 0, 0, 0);
   inside->setSpacing(6);
-  BuildCondition(undo);
+  BuildCondition(services);
   form_ = new FieldForm(
-      kPrefix, undo,
+      kPrefix, services,
       [this](const FieldRow& row, const std::string& text) {
         fields_.Assign(row, text);
         changed_();
       },
       shown_);
   items_ = new ItemsEditor(
-      kPrefix, SelectedItems(frame, FieldsOf::Alternative), undo, [this] { changed_(); }, shown_);
+      kPrefix, SelectedItems(frame, FieldsOf::Alternative), services, [this] { changed_(); }, shown_);
   inside->addWidget(form_);
   inside->addWidget(items_);
 }
+
+AlternativesEditor::~AlternativesEditor() = default;
+
+QWidget& AlternativesEditor::Condition() { return *condition_->Widget()->focusProxy(); }
 
 void AlternativesEditor::BuildList() {
   layout()->addWidget(MakeSectionTitle(text::kAlternatives, this));
@@ -66,21 +72,21 @@ void AlternativesEditor::BuildList() {
   layout()->addWidget(buttons_);
 }
 
-void AlternativesEditor::BuildCondition(FieldUndo& undo) {
+void AlternativesEditor::BuildCondition(const FieldServices& services) {
   auto* label = new QLabel(Translated(text::kCondition), shown_);
   label->setObjectName(QStringLiteral("muted"));
-  condition_ = new QLineEdit(shown_);
-  condition_->setObjectName(QStringLiteral("condition"));
-  condition_->setAccessibleName(Translated(text::kCondition));
-  condition_->setPlaceholderText(Translated(text::kConditionExample));
-  label->setBuddy(condition_);
-  undo.Watch(*condition_);
-  connect(condition_, &QLineEdit::textEdited, this, [this](const QString& typed) {
-    alternatives_.SetCondition(static_cast<std::size_t>(alternatives_.Shown()), typed.toStdWString());
+  const auto edited = [this](const std::string& typed) {
+    alternatives_.SetCondition(static_cast<std::size_t>(alternatives_.Shown()), FromUtf8(typed));
     changed_();
-  });
+  };
+  condition_ = MakeExpressionEditor(ExpressionKind::Logical, edited, services.expressions, shown_);
+  QWidget& field = *condition_->Widget();
+  field.setObjectName(QStringLiteral("condition"));
+  field.setAccessibleName(Translated(text::kCondition));
+  label->setBuddy(&field);
+  services.undo.Watch(field);
   shown_->layout()->addWidget(label);
-  shown_->layout()->addWidget(condition_);
+  shown_->layout()->addWidget(&field);
 }
 
 void AlternativesEditor::FillMenu() {
@@ -119,8 +125,7 @@ void AlternativesEditor::ShowShown() {
   shown_->setVisible(any);
   buttons_->Refresh(any ? 1 : 0, shown, alternatives_.Size());
   if (!any) return;
-  const QString condition = ToQString(alternatives_.Condition(shown));
-  if (condition_->text() != condition) condition_->setText(condition);
+  condition_->Show(alternatives_.Condition(shown));
   form_->Show(fields_.Fields());
   items_->Refresh();
 }
@@ -130,7 +135,7 @@ void AlternativesEditor::Add(const CardClass& kind) {
   alternatives_.Add(kind);
   changed_();
   Refresh();
-  condition_->setFocus(Qt::OtherFocusReason);
+  condition_->Widget()->setFocus(Qt::OtherFocusReason);
 }
 
 void AlternativesEditor::Remove() {

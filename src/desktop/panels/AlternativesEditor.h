@@ -4,24 +4,27 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "editor/SelectedAlternatives.h"
 #include "editor/SelectedFields.h"
 
-class QLineEdit;
 class QListWidget;
 
 namespace xrpt {
 
+class FieldEditorWidget;
 class FieldForm;
-class FieldUndo;
 class ItemsEditor;
 class ListButtons;
+struct FieldServices;
 
 class AlternativesEditor final : public QWidget {
  public:
   // `changed` hears of every change.
-  AlternativesEditor(RVEditControlWnd& frame, FieldUndo& undo, std::function<void()> changed, QWidget* parent);
+  AlternativesEditor(RVEditControlWnd& frame, const FieldServices& services, std::function<void()> changed,
+                     QWidget* parent);
+  ~AlternativesEditor() override;
 
   // Shows the card that is selected now; hides itself when it has no alternatives to be had.
   void Refresh();
@@ -29,11 +32,12 @@ class AlternativesEditor final : public QWidget {
   void Forget();
   QWidget* Find(std::string_view name) const;
   QListWidget& List() { return *list_; }
-  QLineEdit& Condition() { return *condition_; }
+  // Where the condition of the one shown is typed.
+  QWidget& Condition();
 
  private:
   void BuildList();
-  void BuildCondition(FieldUndo& undo);
+  void BuildCondition(const FieldServices& services);
   void FillMenu();
   void FillList();
   void ShowShown();
@@ -47,7 +51,7 @@ class AlternativesEditor final : public QWidget {
   QListWidget* list_ = nullptr;
   ListButtons* buttons_ = nullptr;
   QWidget* shown_ = nullptr;
-  QLineEdit* condition_ = nullptr;
+  std::unique_ptr<FieldEditorWidget> condition_;
   FieldForm* form_ = nullptr;
   ItemsEditor* items_ = nullptr;
 };

@@ -10,6 +10,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/PictureChooser.h"
 #include "desktop/dialogs/VariableChooser.h"
+#include "desktop/dialogs/formulas/ExpressionEditor.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/ChosenField.h"
 #include "desktop/panels/ColorButton.h"
@@ -230,6 +231,7 @@ std::unique_ptr<FieldEditorWidget> MakePicture(FieldEditorWidget::Edited edited,
 }  // namespace
 
 std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
+                                                   const std::function<ExpressionSources()>& expressions,
                                                    QWidget* parent) {
   switch (row.panel.editor) {
     case FieldEditor::None:
@@ -256,6 +258,8 @@ std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEdi
       return MakeVariable(std::move(edited), parent);
     case FieldEditor::Picture:
       return MakePicture(std::move(edited), parent);
+    case FieldEditor::Expression:
+      return MakeExpressionEditor(ExpressionKind::Numeric, std::move(edited), expressions, parent);
   }
   return nullptr;
 }

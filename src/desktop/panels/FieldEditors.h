@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "formulas/ExpressionChoices.h"
 #include "model/FieldTable.h"
 
 class QWidget;
@@ -27,8 +28,10 @@ class FieldEditorWidget {
   virtual void Finish() {}
 };
 
-// `edited` hears every change the user makes, with the field's new text. The widget belongs to `parent`.
+// `edited` hears every change the user makes, with the field's new text. `expressions`: what the report's expressions
+// may use. The widget belongs to `parent`.
 std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
+                                                   const std::function<ExpressionSources()>& expressions,
                                                    QWidget* parent);
 
 }  // namespace xrpt

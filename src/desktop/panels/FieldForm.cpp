@@ -6,6 +6,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/FieldEditors.h"
+#include "desktop/panels/FieldServices.h"
 #include "desktop/panels/FieldUndo.h"
 
 namespace xrpt {
@@ -18,7 +19,9 @@ constexpr FieldGroup kGroups[] = {
 
 // Short numbers stand two on a line; a text box takes the whole width below its label.
 bool StandsInPairs(const FieldRow& row) { return row.panel.group == FieldGroup::Geometry; }
-bool StandsBelowLabel(const FieldRow& row) { return row.panel.editor == FieldEditor::Lines; }
+bool StandsBelowLabel(const FieldRow& row) {
+  return row.panel.editor == FieldEditor::Lines || row.panel.editor == FieldEditor::Expression;
+}
 
 // What the panel's own title, or the list above, says already.
 bool NeedsTitle(FieldGroup group) { return group != FieldGroup::Page && group != FieldGroup::Series; }
@@ -34,8 +37,8 @@ QWidget* MakeSectionTitle(int textId, QWidget* parent) {
   return title;
 }
 
-FieldForm::FieldForm(const char* prefix, FieldUndo& undo, Edited edited, QWidget* parent)
-    : QWidget(parent), prefix_(QLatin1String(prefix)), undo_(undo), edited_(std::move(edited)) {
+FieldForm::FieldForm(const char* prefix, const FieldServices& services, Edited edited, QWidget* parent)
+    : QWidget(parent), prefix_(QLatin1String(prefix)), services_(services), edited_(std::move(edited)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
 }
@@ -102,7 +105,7 @@ QGridLayout* FieldForm::StartSection(QBoxLayout& column, FieldGroup group) {
 
 void FieldForm::AddField(QGridLayout& grid, const FieldRow& row, int index) {
   auto editor = MakeFieldEditor(
-      row, [this, &row](const std::string& text) { edited_(row, text); }, body_);
+      row, [this, &row](const std::string& text) { edited_(row, text); }, services_.expressions, body_);
   const QString name = Translated(row.panel.textId);
   auto* label = new QLabel(name, body_);
   label->setObjectName(QStringLiteral("muted"));
@@ -113,7 +116,7 @@ void FieldForm::AddField(QGridLayout& grid, const FieldRow& row, int index) {
   editor->Widget()->setMinimumWidth(48);
   editor->Widget()->setSizePolicy(QSizePolicy::Ignored, editor->Widget()->sizePolicy().verticalPolicy());
   editor->Widget()->setAccessibleName(name);
-  undo_.Watch(*editor->Widget());
+  services_.undo.Watch(*editor->Widget());
   editor->Widget()->setObjectName(prefix_ + QString::fromStdString(row.FullName()));
   const int line = StandsInPairs(row) ? index / 2 : grid.rowCount();
   const int column = StandsInPairs(row) ? index % 2 * 2 : 0;

@@ -15,14 +15,14 @@ class QGridLayout;
 namespace xrpt {
 
 class FieldEditorWidget;
-class FieldUndo;
+struct FieldServices;
 
 class FieldForm final : public QWidget {
  public:
   using Edited = std::function<void(const FieldRow&, const std::string&)>;
 
-  // `prefix` stands before the fields' names where one window holds several forms.
-  FieldForm(const char* prefix, FieldUndo& undo, Edited edited, QWidget* parent);
+  // The services outlive the form. `prefix` stands before the fields' names where one window holds several forms.
+  FieldForm(const char* prefix, const FieldServices& services, Edited edited, QWidget* parent);
   ~FieldForm() override;
 
   void Show(const std::vector<FieldState>& states);
@@ -48,7 +48,7 @@ class FieldForm final : public QWidget {
   void AddField(QGridLayout& grid, const FieldRow& row, int index);
 
   QString prefix_;
-  FieldUndo& undo_;
+  const FieldServices& services_;
   Edited edited_;
   QWidget* body_ = nullptr;
   std::vector<Entry> entries_;

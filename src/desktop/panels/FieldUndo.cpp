@@ -44,7 +44,10 @@ bool Carry(QWidget& field, Wish wish, bool isTyping, bool carriesOut) {
 
 }  // namespace
 
-void FieldUndo::Watch(QWidget& field) { field.installEventFilter(this); }
+void FieldUndo::Watch(QWidget& field) {
+  QWidget* typedIn = field.focusProxy() ? field.focusProxy() : &field;
+  typedIn->installEventFilter(this);
+}
 
 // Whoever accepts the override gets the key; otherwise it is the window's shortcut.
 bool FieldUndo::eventFilter(QObject* watched, QEvent* event) {

@@ -13,8 +13,8 @@
 
 namespace xrpt {
 
-ItemsEditor::ItemsEditor(const char* prefix, SelectedItems items, FieldUndo& undo, std::function<void()> changed,
-                         QWidget* parent)
+ItemsEditor::ItemsEditor(const char* prefix, SelectedItems items, const FieldServices& services,
+                         std::function<void()> changed, QWidget* parent)
     : QWidget(parent), items_(std::move(items)), changed_(std::move(changed)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -31,7 +31,7 @@ ItemsEditor::ItemsEditor(const char* prefix, SelectedItems items, FieldUndo& und
   buttons_->moved = [this](int by) { Move(by); };
   column->addWidget(buttons_);
   form_ = new FieldForm(
-      prefix, undo,
+      prefix, services,
       [this](const FieldRow& row, const std::string& text) {
         items_.Assign(Chosen(), row, text);
         changed_();

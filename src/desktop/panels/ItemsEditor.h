@@ -12,13 +12,14 @@ class QListWidget;
 namespace xrpt {
 
 class FieldForm;
-class FieldUndo;
 class ListButtons;
+struct FieldServices;
 
 class ItemsEditor final : public QWidget {
  public:
   // `changed` hears of every change.
-  ItemsEditor(const char* prefix, SelectedItems items, FieldUndo& undo, std::function<void()> changed, QWidget* parent);
+  ItemsEditor(const char* prefix, SelectedItems items, const FieldServices& services, std::function<void()> changed,
+              QWidget* parent);
 
   // Shows the items of the card that is meant now; hides itself when there are none to be had.
   void Refresh();

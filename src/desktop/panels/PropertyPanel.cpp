@@ -10,6 +10,7 @@
 #include "desktop/panels/FieldForm.h"
 #include "desktop/panels/FieldUndo.h"
 #include "desktop/panels/ItemsEditor.h"
+#include "editor/ReportDialogs.h"
 
 namespace xrpt {
 
@@ -22,7 +23,7 @@ PropertyPanel::PropertyPanel(RVEditControlWnd& frame, QWidget* parent)
       fields_(frame),
       background_(frame, FieldsOf::Background),
       idle_(new QTimer(this)),
-      undo_(new FieldUndo([this] { return isTyping_; }, this)) {
+      services_{*new FieldUndo([this] { return isTyping_; }, this), [&frame] { return SourcesOf(frame); }} {
   setObjectName(QStringLiteral("panelArea"));
   setAccessibleName(Translated(text::kProperties));
   setFrameShape(QFrame::NoFrame);
@@ -44,8 +45,8 @@ PropertyPanel::PropertyPanel(RVEditControlWnd& frame, QWidget* parent)
   setWidget(body);
   const auto touch = [this] { Touch(); };
   form_ = AddForm("", fields_);
-  items_ = new ItemsEditor("item/", SelectedItems(frame), *undo_, touch, body);
-  alternatives_ = new AlternativesEditor(frame, *undo_, touch, body);
+  items_ = new ItemsEditor("item/", SelectedItems(frame), services_, touch, body);
+  alternatives_ = new AlternativesEditor(frame, services_, touch, body);
   backgroundTitle_ = MakeSectionTitle(text::kBackground, body);
   backgroundForm_ = AddForm("background/", background_);
   for (QWidget* part :
@@ -56,7 +57,7 @@ PropertyPanel::PropertyPanel(RVEditControlWnd& frame, QWidget* parent)
 
 FieldForm* PropertyPanel::AddForm(const char* prefix, SelectedFields& fields) {
   return new FieldForm(
-      prefix, *undo_,
+      prefix, services_,
       [this, &fields](const FieldRow& row, const std::string& text) {
         fields.Assign(row, text);
         Touch();

@@ -4,6 +4,7 @@
 
 #include <QScrollArea>
 
+#include "desktop/panels/FieldServices.h"
 #include "editor/SelectedFields.h"
 
 class QLabel;
@@ -13,7 +14,6 @@ namespace xrpt {
 
 class AlternativesEditor;
 class FieldForm;
-class FieldUndo;
 class ItemsEditor;
 
 class PropertyPanel final : public QScrollArea {
@@ -47,7 +47,7 @@ class PropertyPanel final : public QScrollArea {
   SelectedFields fields_;
   SelectedFields background_;
   QTimer* idle_;
-  FieldUndo* undo_;
+  FieldServices services_;
   QLabel* title_ = nullptr;
   FieldForm* form_ = nullptr;
   ItemsEditor* items_ = nullptr;
