@@ -17,6 +17,7 @@
 #include "desktop/dialogs/QuestionBox.h"
 #include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/formulas/SourcesDialog.h"
 #include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
@@ -32,7 +33,6 @@
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
 #include "desktop/ribbon/FontGroup.h"
-#include "editor/CommandCatalogue.h"
 #include "editor/CommandTexts.h"
 #include "editor/EditorTexts.h"
 #include "editor/RVEditControlWnd.h"
@@ -125,7 +125,7 @@ std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current
 
 bool MainWindow::EditPageProperties(CDlgGlobalProperties& page) {
   PageDialog dialog(page, frame_->PageCount() > 1, this);
-  if (FindCommand("VirtualDevices")) dialog.OfferDevices([this] { RunCommand("VirtualDevices"); });
+  dialog.OfferDevices([this, &dialog] { EditSources(*frame_, &dialog); });
   return dialog.exec() == QDialog::Accepted;
 }
 

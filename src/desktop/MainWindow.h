@@ -45,6 +45,9 @@ class MainWindow final : public QMainWindow, private EditorPort {
   FileKeeper& Files() { return *files_; }
   Ribbon& Tabs() { return *ribbon_; }
 
+  // Whether a command of the catalogue is one that needs this window.
+  bool Knows(std::string_view command) const;
+
   // Opens by name or path. What cannot be opened says why, above the page.
   void Open(const std::wstring& nameOrPath);
   // The report that was open last, when there is one.
@@ -83,6 +86,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void WatchLog();
   void RestoreLayout();
   void StoreLayout();
+  void StorePanelSize();
 
   // Showing what changed
   void RefreshSoon();
@@ -94,6 +98,9 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void Announce(const QString& message);
 
   // Commands that need a window
+  using Act = void (MainWindow::*)();
+  // Null for a command that is somebody else's.
+  static Act ActOf(std::string_view command);
   void SaveAs();
   void ToggleSmartGuides();
   void ToggleAnimation();

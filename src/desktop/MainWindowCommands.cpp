@@ -23,30 +23,39 @@
 
 namespace xrpt {
 
+MainWindow::Act MainWindow::ActOf(std::string_view command) {
+  static constexpr std::pair<std::string_view, Act> kRows[] = {{"SmartGuides", &MainWindow::ToggleSmartGuides},
+                                                               {"Animation", &MainWindow::ToggleAnimation},
+                                                               {"Rulers", &MainWindow::ToggleRulers},
+                                                               {"DarkTheme", &MainWindow::ToggleDarkTheme},
+                                                               {"CommandPalette", &MainWindow::OpenPalette},
+                                                               {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
+                                                               {"SaveAs", &MainWindow::SaveAs},
+                                                               {"ExportPdf", &MainWindow::ExportPdf},
+                                                               {"ExportImages", &MainWindow::ExportImages},
+                                                               {"Print", &MainWindow::Print},
+                                                               {"PrintPreview", &MainWindow::PrintPreview},
+                                                               {"ImageStore", &MainWindow::OpenImageStore},
+                                                               {"Search", &MainWindow::OpenSearch},
+                                                               {"Replace", &MainWindow::OpenReplace},
+                                                               {"SearchNext", &MainWindow::SearchNext},
+                                                               {"SearchPrevious", &MainWindow::SearchPrevious},
+                                                               {"FormulesSetup", &MainWindow::OpenFormulas},
+                                                               {"VirtualDevices", &MainWindow::OpenSources},
+                                                               {"Styles", &MainWindow::OpenStyles}};
+  for (const auto& [name, act] : kRows) {
+    if (name == command) return act;
+  }
+  return nullptr;
+}
+
+bool MainWindow::Knows(std::string_view command) const {
+  return ActOf(command) || ProblemsDesk::Knows(command) || docks_.contains(command);
+}
+
 bool MainWindow::RunCommand(const char* name) {
-  static constexpr std::pair<const char*, void (MainWindow::*)()> kRows[] = {
-      {"SmartGuides", &MainWindow::ToggleSmartGuides},
-      {"Animation", &MainWindow::ToggleAnimation},
-      {"Rulers", &MainWindow::ToggleRulers},
-      {"DarkTheme", &MainWindow::ToggleDarkTheme},
-      {"CommandPalette", &MainWindow::OpenPalette},
-      {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
-      {"SaveAs", &MainWindow::SaveAs},
-      {"ExportPdf", &MainWindow::ExportPdf},
-      {"ExportImages", &MainWindow::ExportImages},
-      {"Print", &MainWindow::Print},
-      {"PrintPreview", &MainWindow::PrintPreview},
-      {"ImageStore", &MainWindow::OpenImageStore},
-      {"Search", &MainWindow::OpenSearch},
-      {"Replace", &MainWindow::OpenReplace},
-      {"SearchNext", &MainWindow::SearchNext},
-      {"SearchPrevious", &MainWindow::SearchPrevious},
-      {"FormulesSetup", &MainWindow::OpenFormulas},
-      {"VirtualDevices", &MainWindow::OpenSources},
-      {"Styles", &MainWindow::OpenStyles}};
-  for (const auto& [known, run] : kRows) {
-    if (std::string_view(known) != name) continue;
-    (this->*run)();
+  if (const Act act = ActOf(name)) {
+    (this->*act)();
     ShowSwitches();
     return true;
   }

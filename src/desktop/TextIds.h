@@ -159,6 +159,11 @@ inline constexpr int kExportShownPage = 62536;
 inline constexpr int kExportThesePages = 62537;
 inline constexpr int kExportButton = 62538;
 inline constexpr int kNoSuchPages = 62539;
+inline constexpr int kNoField = 62550;
+inline constexpr int kFilterFields = 62551;
+inline constexpr int kNoSuchField = 62552;
+inline constexpr int kFoldSection = 62553;
+inline constexpr int kReportColors = 62554;
 
 // The system's own.
 inline constexpr int kCancel = 380;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "canvas/InsertTools.h"
+#include "editor/CProperties.h"
 #include "editor/EditorPort.h"
 #include "editor/ReportEdit.h"
 #include "editor/ReportGuard.h"
@@ -133,6 +134,11 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void StylesModified(const std::vector<StyleRenaming>& renamings);
   // Pictures of the image store changed.
   void ImagesModified();
+  // A card was changed by somebody who went by no door: the report counts as modified and panels are read again.
+  void OnCtrlHasChanged();
+
+  // The property panels, about the one selected card, or about the page when none is selected.
+  CProperties& Properties();
 
   // --- Search and replace, see FrameSearch.cpp ---
   // What the search dialog asks; the answer is in the record. Searches the page that is shown, replaces what was found
@@ -193,6 +199,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void ReportListChanged();
   void StartAnew();
   void OnKey(const MessageData& message);
+  void OnTimerStateChange(bool runs);
   void OnPageCommand(int command);
 
   // Pages, see FramePages.cpp
@@ -249,6 +256,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   int tool_ = tool::kPointer;
   bool marksShown_ = true;
   std::uint64_t resourcesSerial_ = 0;
+  CProperties properties_;
   ReportHistory history_;
   OpenEdit open_;
   bool replaying_ = false;

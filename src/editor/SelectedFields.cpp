@@ -7,6 +7,8 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "model/FieldTexts.h"
+#include "model/RVCardDate.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
 
@@ -53,6 +55,13 @@ std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<con
 
 FieldState StateOf(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
   return {&row, CommonText(row, cards), row.WordsFor(*cards.front())};
+}
+
+// Date cards are bound to the dates that the host knows, not to variables of the plant.
+bool IsDateField(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  return row.panel.textId == text::kField && std::all_of(cards.begin(), cards.end(), [](const RVCardControl* card) {
+           return card->IsKindOf(RVCardDate::Class());
+         });
 }
 
 // What people read: a word of a list in their language.
@@ -123,7 +132,9 @@ std::vector<FieldState> SelectedFields::Fields() const {
   }
   if (cards.empty()) return fields;
   for (const CardRow* row : CommonRows(cards)) {
-    if (IsOfUse(*row, cards, whose_)) fields.push_back(StateOf(*row, cards));
+    if (!IsOfUse(*row, cards, whose_)) continue;
+    fields.push_back(StateOf(*row, cards));
+    if (IsDateField(*row, cards)) fields.back().names = frame_.Properties().DatabaseFields();
   }
   return fields;
 }

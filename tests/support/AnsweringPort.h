@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,6 +25,7 @@ class AnsweringPort final : public EditorPort {
   void StateChanged() override {}
   bool RunCommand(const char*) override { return false; }
   Answer Ask(int textId) override {
+    MayThrow();
     asked.push_back(textId);
     return answer;
   }
@@ -45,11 +47,19 @@ class AnsweringPort final : public EditorPort {
   void Tell(int textId) override { told.push_back(textId); }
   std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
   bool EditPageProperties(CDlgGlobalProperties& page) override {
+    MayThrow();
     const auto edit = std::exchange(editPage, nullptr);
     if (edit) edit(page);
     return static_cast<bool>(edit);
   }
+  void TimerStateChanged(bool runs) override {
+    MayThrow();
+    timers.push_back(runs);
+  }
+  void LoadBarState(const std::wstring& section) override { barSections.push_back(L"+" + section); }
+  void SaveBarState(const std::wstring& section) override { barSections.push_back(L"-" + section); }
   bool PassCommand(int id) override {
+    MayThrow();
     passed.push_back(id);
     return true;
   }
@@ -67,6 +77,14 @@ class AnsweringPort final : public EditorPort {
   std::optional<std::wstring> chosen;
   std::function<void(CDlgGlobalProperties&)> editPage;  // once, with OK; cancelled without
   std::vector<int> passed;
+  std::vector<bool> timers;
+  std::vector<std::wstring> barSections;  // "+": loaded, "-": saved
+  bool throwing = false;                  // as a host in trouble
+
+ private:
+  void MayThrow() const {
+    if (throwing) throw std::runtime_error("the host's window is gone");
+  }
 };
 
 }  // namespace xrpt

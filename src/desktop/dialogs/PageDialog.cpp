@@ -195,7 +195,7 @@ QWidget* PageDialog::AddField(QFormLayout& form, const FieldRow& row, Text text,
         assign(typed);
         Refresh();
       },
-      this);
+      [] { return ExpressionSources(); }, this);
   QWidget* widget = editor->Widget();
   widget->setAccessibleName(Translated(row.panel.textId));
   widget->setObjectName(QString::fromStdString(row.FullName()));
