@@ -132,8 +132,8 @@ void MainWindow::OpenImageStore() {
   ImageStoreDialog dialog(frame_->Report(), this);
   dialog.changed = [this] { frame_->ImagesModified(); };
   dialog.useChosen = [this](const PictureUse& use) {
-    if (use.cardId.empty()) frame_->ShowPage(use.page);
-    if (frame_->SelectControlById(use.cardId)) pages_->View().RevealSelection();
+    frame_->ShowPage(use.page);
+    if (!use.cardId.empty() && frame_->CurrentPage().SelectControlById(use.cardId)) pages_->View().RevealSelection();
     RefreshSoon();
   };
   dialog.exec();

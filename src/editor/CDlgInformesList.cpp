@@ -1,7 +1,9 @@
 #include "editor/CDlgInformesList.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
+#include <utility>
 
 #include "editor/EditorTexts.h"
 #include "platform/Characters.h"

@@ -1,6 +1,8 @@
 #include "editor/CProperties.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "model/RVAnalogBar.h"
 #include "model/RVCardConditioned.h"

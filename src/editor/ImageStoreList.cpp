@@ -1,6 +1,7 @@
 #include "editor/ImageStoreList.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "editor/EditorTexts.h"
 #include "editor/ImageStore.h"

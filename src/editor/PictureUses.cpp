@@ -1,5 +1,7 @@
 #include "editor/PictureUses.h"
 
+#include <string_view>
+
 #include "editor/SelectedFields.h"
 #include "model/RVCardConditioned.h"
 #include "model/RVCardImage.h"

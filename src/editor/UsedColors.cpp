@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "editor/RVEditControlWnd.h"
 #include "model/ListTable.h"

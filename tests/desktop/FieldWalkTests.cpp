@@ -122,7 +122,7 @@ class FieldWalk : public WindowTest {
     Settle();
     EXPECT_NE(text(), before);
     const bool isInFile = row.name || row.panel.editor == FieldEditor::Picture;
-    if (isInFile) EXPECT_NE(Saved(), saved);
+    EXPECT_TRUE(!isInFile || Saved() != saved);
     ASSERT_EQ(Frame().History().DoneNames().size(), steps + 1);
     EXPECT_NE(UndoText(Frame().History().NextUndoName()), L"");
     Run("Undo");
@@ -199,7 +199,7 @@ TEST_F(FieldWalk, AFilterFindsAFieldAndASectionFolds) {
 
   QToolButton* title = nullptr;
   for (auto* button : Panel().findChildren<QToolButton*>(QStringLiteral("sectionTitle"))) {
-    if (button->text() == Translated(text::kGroupGeometry)) title = button;
+    if (button->text().startsWith(Translated(text::kGroupGeometry))) title = button;
   }
   ASSERT_NE(title, nullptr);
   title->click();

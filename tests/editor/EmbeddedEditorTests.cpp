@@ -6,6 +6,7 @@
 
 #include "canvas/PageEdit.h"
 #include "editor/CDlgEditor.h"
+#include "editor/CDlgGlobalProperties.h"
 #include "editor/CommandCatalogue.h"
 #include "model/RVCardLabel.h"
 #include "support/AnsweringPort.h"

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogSize.h"

@@ -18,6 +18,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogSize.h"
@@ -25,6 +26,7 @@
 #include "desktop/dialogs/QuestionBox.h"
 #include "desktop/look/Texts.h"
 #include "editor/CommandTexts.h"
+#include "editor/EditorTexts.h"
 #include "platform/FileTexts.h"
 #include "platform/ImageFiles.h"
 #include "platform/PictureName.h"

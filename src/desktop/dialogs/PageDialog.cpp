@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogSize.h"

@@ -5,8 +5,10 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
+#include "editor/DatabaseFields.h"
 #include "formulas/ExpressionChoices.h"
 #include "model/FieldTable.h"
 

@@ -10,6 +10,7 @@
 #include "desktop/panels/FieldEditors.h"
 #include "desktop/panels/FieldServices.h"
 #include "desktop/panels/FieldUndo.h"
+#include "model/FieldTexts.h"
 
 namespace xrpt {
 
@@ -23,6 +24,18 @@ constexpr FieldGroup kGroups[] = {
 bool StandsInPairs(const FieldRow& row) { return row.panel.group == FieldGroup::Geometry; }
 bool StandsBelowLabel(const FieldRow& row) {
   return row.panel.editor == FieldEditor::Lines || row.panel.editor == FieldEditor::Expression;
+}
+
+// What a number measures, as people write it; empty for a mere number.
+QString UnitOf(const FieldRow& row) {
+  if (row.panel.editor != FieldEditor::Decimal && row.panel.editor != FieldEditor::Integer) return {};
+  if (row.panel.group == FieldGroup::Geometry || row.panel.group == FieldGroup::Page) return QStringLiteral("mm");
+  if (row.panel.textId == text::kFontSize) return QStringLiteral("pt");
+  return row.panel.textId == text::kScrollDelay ? QStringLiteral("ms") : QString();
+}
+
+QString WithUnit(const QString& name, const QString& unit) {
+  return unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, unit);
 }
 
 // What the panel's own title, or the list above, says already.
@@ -54,8 +67,9 @@ void StoreFolded(FieldGroup group, bool on) {
 
 QToolButton* MakeFoldingTitle(FieldGroup group, QWidget* parent) {
   auto* title = new QToolButton(parent);
-  title->setText(Translated(GroupTextId(group)));
-  title->setToolTip(Translated(text::kFoldSection, title->text()));
+  const QString name = Translated(GroupTextId(group));
+  title->setText(group == FieldGroup::Geometry ? WithUnit(name, QStringLiteral("mm")) : name);
+  title->setToolTip(Translated(text::kFoldSection, name));
   title->setAccessibleName(title->toolTip());
   title->setObjectName(QStringLiteral("sectionTitle"));
   title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -193,7 +207,9 @@ void FieldForm::AddField(QGridLayout& grid, const FieldState& state, int index) 
   const FieldRow& row = *state.row;
   auto editor = MakeEditor(state);
   const QString name = Translated(row.panel.textId);
-  auto* label = new QLabel(name, body_);
+  const QString unit = UnitOf(row);
+  auto* label = new QLabel(StandsInPairs(row) ? name : WithUnit(name, unit), body_);
+  if (!unit.isEmpty()) editor->Widget()->setToolTip(WithUnit(name, unit));
   label->setObjectName(QStringLiteral("muted"));
   label->setBuddy(editor->Widget());
   label->setMinimumWidth(StandsInPairs(row) ? 0 : 92);
