@@ -132,6 +132,7 @@ void ImageStoreDialog::AddDetails(QBoxLayout& row) {
   column->addWidget(preview_);
   column->addWidget(details_);
   column->addWidget(uses_, 1);
+  column->addStretch();
   row.addLayout(column);
 }
 
@@ -294,6 +295,8 @@ void ImageStoreDialog::ShowDetails(const std::wstring& name) {
   uses_->clear();
   preview_->clear();
   details_->clear();
+  const std::vector<PictureUse>& uses = list_.UsesOf(name);
+  uses_->setVisible(!uses.empty());
   if (name.empty()) return;
   QStringList lines = {ToQString(name)};
   if (const PicturePtr picture = Read(name)) {
@@ -301,11 +304,9 @@ void ImageStoreDialog::ShowDetails(const std::wstring& name) {
     lines.append(ToQString(
         FillIn(HostText(text::kPixelSize), {std::to_wstring(picture->width), std::to_wstring(picture->height)})));
   }
-  const std::vector<PictureUse>& uses = list_.UsesOf(name);
   lines.append(Translated(uses.empty() ? text::kNotUsedHere : text::kUsedOn));
   details_->setText(lines.join(QLatin1Char('\n')));
   for (const PictureUse& use : uses) uses_->addItem(UseLabel(use));
-  uses_->setVisible(!uses.empty());
 }
 
 // --- What the list asks ---

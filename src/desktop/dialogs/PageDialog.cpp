@@ -86,7 +86,9 @@ void PageSample::PaintGrid(QPainter& painter, const QRect& paper) const {
 PageDialog::PageDialog(CDlgGlobalProperties& page, bool hasOthers, QWidget* parent)
     : QDialog(parent), page_(page), sample_(new PageSample(this)) {
   setWindowTitle(Translated(text::kConfig));
-  auto* row = new QHBoxLayout(this);
+  auto* column = new QVBoxLayout(this);
+  auto* row = new QHBoxLayout();
+  column->addLayout(row, 1);
   auto* form = new QFormLayout();
   row->addLayout(form, 3);
   row->addWidget(sample_, 2);
@@ -99,7 +101,7 @@ PageDialog::PageDialog(CDlgGlobalProperties& page, bool hasOthers, QWidget* pare
     form->addRow(all);
   }
   AddBackground(*form);
-  AddButtons(*form);
+  AddButtons(*column);
   Refresh();
   KeepSize(*this, L"Page", {640, 560});
   format_->setFocus();
@@ -200,12 +202,12 @@ QWidget* PageDialog::AddField(QFormLayout& form, const FieldRow& row, Text text,
   QWidget* widget = editor->Widget();
   widget->setAccessibleName(Translated(row.panel.textId));
   widget->setObjectName(QString::fromStdString(row.FullName()));
-  form.addRow(Translated(row.panel.textId), widget);
+  form.addRow(LabelOf(row), widget);
   lines_.push_back({std::move(editor), std::move(text)});
   return widget;
 }
 
-void PageDialog::AddButtons(QFormLayout& form) {
+void PageDialog::AddButtons(QBoxLayout& column) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   buttons->button(QDialogButtonBox::Ok)->setDefault(true);
   devices_ = buttons->addButton(Translated(text::kDevicesButton), QDialogButtonBox::ActionRole);
@@ -213,7 +215,7 @@ void PageDialog::AddButtons(QFormLayout& form) {
   devices_->hide();
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  form.addRow(buttons);
+  column.addWidget(buttons);
 }
 
 void PageDialog::OfferDevices(std::function<void()> open) {

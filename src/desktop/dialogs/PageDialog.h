@@ -10,6 +10,7 @@
 #include "editor/CDlgGlobalProperties.h"
 
 class QAbstractButton;
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
@@ -64,7 +65,7 @@ class PageDialog final : public QDialog {
   void AddPageField(QFormLayout& form, const char* name);
   void AddBackgroundField(QFormLayout& form, const char* name);
   QWidget* AddField(QFormLayout& form, const FieldRow& row, Text text, Assign assign);
-  void AddButtons(QFormLayout& form);
+  void AddButtons(QBoxLayout& column);
   void Refresh();
 
   CDlgGlobalProperties& page_;

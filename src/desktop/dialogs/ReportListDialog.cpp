@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -37,6 +38,12 @@ namespace {
 QString WithoutEnding(const QString& file) {
   const QString ending = ToQString(kReportEnding);
   return file.endsWith(ending) ? file.chopped(ending.size()) : file;
+}
+
+// Long names of files may go on in the next line behind each of their parts.
+QString Breakable(QString text) {
+  static const QRegularExpression kPartEnd(QStringLiteral("([-._/])"));
+  return text.replace(kPartEnd, QStringLiteral("\\1\u200B"));
 }
 
 QTreeWidgetItem* MakeItem(const ListedReport& report) {
@@ -96,7 +103,6 @@ void ReportListDialog::AddList(QBoxLayout& row) {
   header->setSortIndicatorShown(true);
   header->setStretchLastSection(false);
   header->setSectionResizeMode(QHeaderView::ResizeToContents);
-  header->setSectionResizeMode(0, QHeaderView::Stretch);
   connect(header, &QHeaderView::sectionClicked, this, [this](int section) {
     list_.OrderList(static_cast<ReportColumn>(section));
     Fill();
@@ -114,7 +120,6 @@ void ReportListDialog::AddDetails(QBoxLayout& row) {
   details_->setFixedWidth(210);
   details_->setWordWrap(true);
   details_->setTextFormat(Qt::PlainText);
-  details_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   details_->setAccessibleName(Translated(text::kReportDetails));
   details_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   column->addWidget(preview_, 3);
@@ -170,6 +175,8 @@ void ReportListDialog::Fill() {
   }
   rows_->addTopLevelItems(items);
   rows_->setColumnHidden(3, !hasSeveral);
+  rows_->header()->setSectionResizeMode(0, hasSeveral ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
+  rows_->header()->setSectionResizeMode(3, QHeaderView::Stretch);
   rows_->header()->setSortIndicator(static_cast<int>(list_.Order()),
                                     list_.IsDescending() ? Qt::DescendingOrder : Qt::AscendingOrder);
   ShowSelection();
@@ -210,9 +217,9 @@ void ReportListDialog::ShowDetails() {
   }
   const ListedReport& report = list_.Rows()[selection.front()];
   preview_->Show(report.file, report.stamp);
-  QStringList lines = {ToQString(report.file.filename().wstring()),
-                       Translated(text::kLiesIn, ToQString(report.file.parent_path().wstring()))};
-  if (!report.id.empty()) lines.append(Translated(text::kReportId, ToQString(report.id)));
+  QStringList lines = {Breakable(ToQString(report.file.filename().wstring())),
+                       Breakable(Translated(text::kLiesIn, ToQString(report.file.parent_path().wstring())))};
+  if (!report.id.empty()) lines.append(Breakable(Translated(text::kReportId, ToQString(report.id))));
   if (const QString notice = NoticeOn(report); !notice.isEmpty()) lines.append(notice);
   details_->setText(lines.join(QStringLiteral("\n\n")));
 }

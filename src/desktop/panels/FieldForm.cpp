@@ -26,22 +26,24 @@ bool StandsBelowLabel(const FieldRow& row) {
   return row.panel.editor == FieldEditor::Lines || row.panel.editor == FieldEditor::Expression;
 }
 
-// What a number measures, as people write it; empty for a mere number.
+// What a number measures, as people write it; empty for a mere number, and where the section's title says it.
 QString UnitOf(const FieldRow& row) {
   if (row.panel.editor != FieldEditor::Decimal && row.panel.editor != FieldEditor::Integer) return {};
-  if (row.panel.group == FieldGroup::Geometry || row.panel.group == FieldGroup::Page) return QStringLiteral("mm");
+  if (row.panel.group == FieldGroup::Page) return QStringLiteral("mm");
   if (row.panel.textId == text::kFontSize) return QStringLiteral("pt");
   return row.panel.textId == text::kScrollDelay ? QStringLiteral("ms") : QString();
-}
-
-QString WithUnit(const QString& name, const QString& unit) {
-  return unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, unit);
 }
 
 // What the panel's own title, or the list above, says already.
 bool NeedsTitle(FieldGroup group) { return group != FieldGroup::Page && group != FieldGroup::Series; }
 
 }  // namespace
+
+QString LabelOf(const FieldRow& row) {
+  const QString name = Translated(row.panel.textId);
+  const QString unit = UnitOf(row);
+  return unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, unit);
+}
 
 int GroupTextId(FieldGroup group) { return text::kFirstFieldGroup + static_cast<int>(group); }
 
@@ -67,9 +69,8 @@ void StoreFolded(FieldGroup group, bool on) {
 
 QToolButton* MakeFoldingTitle(FieldGroup group, QWidget* parent) {
   auto* title = new QToolButton(parent);
-  const QString name = Translated(GroupTextId(group));
-  title->setText(group == FieldGroup::Geometry ? WithUnit(name, QStringLiteral("mm")) : name);
-  title->setToolTip(Translated(text::kFoldSection, name));
+  title->setText(Translated(GroupTextId(group)));
+  title->setToolTip(Translated(text::kFoldSection, title->text()));
   title->setAccessibleName(title->toolTip());
   title->setObjectName(QStringLiteral("sectionTitle"));
   title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -207,9 +208,7 @@ void FieldForm::AddField(QGridLayout& grid, const FieldState& state, int index) 
   const FieldRow& row = *state.row;
   auto editor = MakeEditor(state);
   const QString name = Translated(row.panel.textId);
-  const QString unit = UnitOf(row);
-  auto* label = new QLabel(StandsInPairs(row) ? name : WithUnit(name, unit), body_);
-  if (!unit.isEmpty()) editor->Widget()->setToolTip(WithUnit(name, unit));
+  auto* label = new QLabel(LabelOf(row), body_);
   label->setObjectName(QStringLiteral("muted"));
   label->setBuddy(editor->Widget());
   label->setMinimumWidth(StandsInPairs(row) ? 0 : 92);

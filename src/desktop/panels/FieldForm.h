@@ -72,6 +72,8 @@ class FieldForm final : public QWidget {
 
 // The title of a section of a panel.
 QWidget* MakeSectionTitle(int textId, QWidget* parent);
+// A field's name, with the unit of its numbers.
+QString LabelOf(const FieldRow& row);
 // Of a group of fields.
 int GroupTextId(FieldGroup group);
 

@@ -4,6 +4,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "desktop/TextIds.h"
+#include "desktop/look/Texts.h"
 #include "desktop/panels/TypedNumber.h"
 
 namespace xrpt {
@@ -24,6 +26,7 @@ MixedSpinBox::MixedSpinBox(QWidget* parent) : QDoubleSpinBox(parent) {
 void MixedSpinBox::ShowValue(double value) {
   const QSignalBlocker quiet(this);
   isMixed_ = false;
+  lineEdit()->setPlaceholderText({});
   setValue(value);
 }
 
@@ -32,6 +35,7 @@ void MixedSpinBox::ShowMixed() {
   isMixed_ = true;
   setValue(minimum());
   lineEdit()->clear();
+  lineEdit()->setPlaceholderText(Translated(text::kMixed));
 }
 
 QString MixedSpinBox::textFromValue(double value) const {
