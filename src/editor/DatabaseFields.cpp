@@ -26,6 +26,13 @@ XmlDocument CreateDatabaseFields() {
   return fields;
 }
 
+std::wstring NameOfDateField(const std::wstring& id) {
+  for (const DateField& date : kDateFields) {
+    if (id == date.id) return HostText(date.textId);
+  }
+  return id;
+}
+
 std::vector<NamedValue> NamesOfFields(const XmlDocument& fields) {
   std::vector<NamedValue> names;
   for (const XmlNode& field : fields.Root()) {

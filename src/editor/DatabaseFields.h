@@ -17,6 +17,8 @@ struct NamedValue {
 
 // The dates of the report: now, where it begins and where it ends.
 XmlDocument CreateDatabaseFields();
+// What people read for one of those dates; any other value as it is.
+std::wstring NameOfDateField(const std::wstring& id);
 // The fields of such a document, in its order; elements without an id are left out.
 std::vector<NamedValue> NamesOfFields(const XmlDocument& fields);
 

@@ -58,15 +58,18 @@ FieldState StateOf(const CardRow& row, const std::vector<const RVCardControl*>& 
 }
 
 // Date cards are bound to the dates that the host knows, not to variables of the plant.
+bool IsDateField(const CardRow& row, const RVCardControl& card) {
+  return row.panel.textId == text::kField && card.IsKindOf(RVCardDate::Class());
+}
+
 bool IsDateField(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
-  return row.panel.textId == text::kField && std::all_of(cards.begin(), cards.end(), [](const RVCardControl* card) {
-           return card->IsKindOf(RVCardDate::Class());
-         });
+  return std::all_of(cards.begin(), cards.end(), [&row](const RVCardControl* card) { return IsDateField(row, *card); });
 }
 
 // What people read: a word of a list in their language.
 std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
   const std::wstring text = row.text(card);
+  if (IsDateField(row, card)) return NameOfDateField(text);
   for (const Word& word : row.words) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }

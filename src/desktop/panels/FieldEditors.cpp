@@ -91,6 +91,7 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
   NumberEditor(const FieldRow& row, Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
     const bool isInteger = row.panel.editor == FieldEditor::Integer;
     const bool hasRange = row.panel.maximum > row.panel.minimum;
+    control_->SetMixedText(Translated(text::kMixed));
     control_->setDecimals(isInteger ? 0 : 2);
     control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
     if (row.panel.editor == FieldEditor::Angle) AsAngle();

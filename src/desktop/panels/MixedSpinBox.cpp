@@ -4,8 +4,6 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
-#include "desktop/TextIds.h"
-#include "desktop/look/Texts.h"
 #include "desktop/panels/TypedNumber.h"
 
 namespace xrpt {
@@ -35,7 +33,7 @@ void MixedSpinBox::ShowMixed() {
   isMixed_ = true;
   setValue(minimum());
   lineEdit()->clear();
-  lineEdit()->setPlaceholderText(Translated(text::kMixed));
+  lineEdit()->setPlaceholderText(mixedText_);
 }
 
 QString MixedSpinBox::textFromValue(double value) const {
