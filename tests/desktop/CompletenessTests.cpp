@@ -82,6 +82,7 @@ TEST_F(Completeness, EveryCommandIsCarriedOutBySomebody) {
 const std::map<std::string, const char*> kNotOnAPanel = {
     {"id", "made by the program, and never changed"},
     {"font/color", "the card's own colour, written a second time where fonts are looked for"},
+    {"condition", "typed beside the alternative that it belongs to"},
     {"image/imageId", "named by the picture's row"},
     {"image/imagePath", "named by the picture's row"},
 };

@@ -59,8 +59,8 @@ TEST_F(EmbeddedEditor, CarriesOutEveryCommandUnderItsName) {
   EXPECT_TRUE(editor.OnChangeComboBoxPage(0));
   EXPECT_FALSE(editor.OnChangeComboBoxPage(9));
   EXPECT_EQ(editor.Frame().CurrentPageIndex(), 0u);
-  EXPECT_TRUE(editor.OnChangeComboBoxZoom(3));
-  EXPECT_EQ(editor.Frame().CurrentPage().Zoom(), 1.0);
+  EXPECT_TRUE(editor.OnChangeComboBoxZoom(4));
+  EXPECT_EQ(editor.Frame().CurrentPage().Zoom(), 1.5);
   EXPECT_TRUE(editor.OnNewLabel());
   EXPECT_TRUE(editor.OnSelectControls());
   EXPECT_FALSE(editor.OnAlignLeft()) << "nothing is selected";

@@ -68,7 +68,7 @@ bool PrintReport(const RVReport& report, QPrinter& printer) {
   for (std::size_t i = 0; i < report.pages.size(); ++i) {
     const RVReportPage& page = *report.pages[i];
     if (i > 0) {
-      SetPaper(printer, page);
+      if (MillimetresOf(page) != MillimetresOf(*report.pages[i - 1])) SetPaper(printer, page);
       printer.newPage();
     }
     QtGraphics graphics(painter, pictures);
