@@ -14,9 +14,11 @@
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/DifferencesDialog.h"
-#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/PageDialog.h"
 #include "desktop/dialogs/QuestionBox.h"
+#include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/formulas/SourcesDialog.h"
 #include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
@@ -139,7 +141,13 @@ void MainWindow::SaveFailed(const SaveResult& result) {
 }
 
 std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
-  return OpenDialog::Choose(current, this);
+  return ReportListDialog::Choose(current, frame_->Report().File(), this);
+}
+
+bool MainWindow::EditPageProperties(CDlgGlobalProperties& page) {
+  PageDialog dialog(page, frame_->PageCount() > 1, this);
+  dialog.OfferDevices([this, &dialog] { EditSources(*frame_, &dialog); });
+  return dialog.exec() == QDialog::Accepted;
 }
 
 // --- Pages ---

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "editor/EditorPort.h"
+#include "editor/ExportChoice.h"
 #include "editor/SelectedFields.h"
 #include "model/RVReport.h"
 
@@ -47,6 +48,9 @@ class MainWindow final : public QMainWindow, private EditorPort {
   FileKeeper& Files() { return *files_; }
   Ribbon& Tabs() { return *ribbon_; }
 
+  // Whether a command of the catalogue is one that needs this window.
+  bool Knows(std::string_view command) const;
+
   // Opens by name or path. What cannot be opened says why, above the page.
   void Open(const std::wstring& nameOrPath);
   // Where pages are, until something is opened or begun: recent reports and samples.
@@ -76,6 +80,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::optional<std::wstring> AskForName(const std::wstring& proposed) override;
   void ShowDifferences(const Path& file, const RVReport& report) override;
   std::optional<std::wstring> ChooseReport(const std::wstring& current) override;
+  bool EditPageProperties(CDlgGlobalProperties& page) override;
 
   // Construction
   void BuildCentre();
@@ -90,6 +95,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void WatchLog();
   void RestoreLayout();
   void StoreLayout();
+  void StorePanelSize();
 
   // Showing what changed
   void RefreshSoon();
@@ -101,6 +107,9 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void Announce(const QString& message);
 
   // Commands that need a window
+  using Act = void (MainWindow::*)();
+  // Null for a command that is somebody else's.
+  static Act ActOf(std::string_view command);
   void SaveAs();
   void ToggleSmartGuides();
   void ToggleAnimation();
@@ -122,11 +131,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenFormulas();
   void OpenSources();
   void OpenStyles();
+  void OpenImageStore();
   void ExportPdf();
   void ExportImages();
+  void Export(ExportFormat format);
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
                    void (MainWindow::*again)());
   void Print();
+  void PrintPreview();
   void ShowSwitches();
   void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);

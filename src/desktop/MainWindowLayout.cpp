@@ -157,7 +157,8 @@ void MainWindow::BuildDocks() {
   historyPanel_->moved = [this] { RefreshSoon(); };
   QDockWidget* history = AddPanel("HistoryPanel", text::kHistory, "history", historyPanel_, Qt::LeftDockWidgetArea);
   sideDocks_ = std::make_unique<SideDocks>(*this, std::vector{left, right});
-  resizeDocks({left, right}, {200, 280}, Qt::Horizontal);
+  frame_->Properties().LoadState(kBarStateSection);
+  resizeDocks({left, right}, {200, frame_->Properties().sizes.horzCX}, Qt::Horizontal);
   resizeDocks({below}, {180}, Qt::Vertical);
   below->hide();
   history->hide();
@@ -240,21 +241,34 @@ void MainWindow::WatchLog() {
 void MainWindow::StoreLayout() {
   sideDocks_->BringBack();
   SettingsService& settings = *CurrentHost().settings;
-  const auto store = [&settings](const wchar_t* name, const QByteArray& bytes) {
-    settings.SetProfileText(kSection, name, QString::fromLatin1(bytes.toBase64()).toStdWString());
+  const auto store = [&settings](const wchar_t* section, const wchar_t* name, const QByteArray& bytes) {
+    settings.SetProfileText(section, name, QString::fromLatin1(bytes.toBase64()).toStdWString());
   };
-  store(L"geometry", saveGeometry());
-  store(L"docks", saveState(kLayoutVersion));
+  store(kSection, L"geometry", saveGeometry());
+  store(kBarStateSection, L"docks", saveState(kLayoutVersion));
+  StorePanelSize();
   settings.SetProfileInt(kSection, L"rulers", pages_->HasRulers() ? 1 : 0);
+}
+
+// As other hosts of the editor keep it.
+void MainWindow::StorePanelSize() {
+  CProperties& properties = frame_->Properties();
+  const QDockWidget& dock = *docks_.at("PropertiesPanel");
+  properties.LoadState(kBarStateSection);
+  int PropertyBarSizes::*const width = dock.isFloating() ? &PropertyBarSizes::floatCX : &PropertyBarSizes::horzCX;
+  int PropertyBarSizes::*const height = dock.isFloating() ? &PropertyBarSizes::floatCY : &PropertyBarSizes::horzCY;
+  properties.sizes.*width = dock.width();
+  properties.sizes.*height = dock.height();
+  properties.SaveState(kBarStateSection);
 }
 
 void MainWindow::RestoreLayout() {
   const SettingsService& settings = *CurrentHost().settings;
-  const auto stored = [&settings](const wchar_t* name) {
-    return QByteArray::fromBase64(ToQString(settings.ProfileText(kSection, name)).toLatin1());
+  const auto stored = [&settings](const wchar_t* section, const wchar_t* name) {
+    return QByteArray::fromBase64(ToQString(settings.ProfileText(section, name)).toLatin1());
   };
-  if (!restoreGeometry(stored(L"geometry"))) resize(1400, 900);
-  restoreState(stored(L"docks"), kLayoutVersion);
+  if (!restoreGeometry(stored(kSection, L"geometry"))) resize(1400, 900);
+  restoreState(stored(kBarStateSection, L"docks"), kLayoutVersion);
   pages_->ShowRulers(settings.ProfileInt(kSection, L"rulers", 1) != 0);
 }
 

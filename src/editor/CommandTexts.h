@@ -153,5 +153,8 @@ inline constexpr int kWhySmallest = 62638;
 inline constexpr int kWhyNothingLocked = 62639;
 inline constexpr int kWhyNothingHidden = 62645;
 inline constexpr int kWhyNoGroup = 62646;
+inline constexpr int kConfig = 61570;
+inline constexpr int kImageStore = 61571;
+inline constexpr int kPrintPreview = 61572;
 
 }  // namespace xrpt::text

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "canvas/UndoTexts.h"
+#include "editor/CDlgGlobalProperties.h"
 #include "editor/EditorTexts.h"
 #include "editor/NotesStore.h"
 #include "editor/RVEditControlWnd.h"
@@ -140,6 +141,29 @@ bool RVEditControlWnd::SetOrientation(int orientation) {
   const bool swapped = CurrentPage().SetOrientation(orientation);
   if (swapped) port_.StateChanged();
   return swapped;
+}
+
+bool RVEditControlWnd::OnConfig() {
+  EndEdits();
+  CDlgGlobalProperties dialog(CurrentPage().Page().properties);
+  return port_.EditPageProperties(dialog) && TakeProperties(dialog);
+}
+
+bool RVEditControlWnd::TakeProperties(const CDlgGlobalProperties& dialog) {
+  if (!dialog.HasChanged() && !dialog.samePaperForAll) return false;
+  ReportEdit edit = Edit({text::kChangePage, 0});
+  for (std::size_t page = 0; page < PageCount(); ++page) {
+    if (page == current_) {
+      edit.Page(page).Properties() = dialog.properties;
+    } else if (dialog.samePaperForAll) {
+      dialog.GivePaper(edit.Page(page).Properties());
+    }
+  }
+  const bool changed = edit.End() || dialog.HasChanged();
+  // A grid that is no step of the history is saved all the same.
+  if (changed && !report_.modified) SetModified(true);
+  port_.StateChanged();
+  return changed;
 }
 
 bool RVEditControlWnd::IsGridOn() const {

@@ -8,6 +8,7 @@
 
 #include "canvas/CardNotes.h"
 #include "canvas/InsertTools.h"
+#include "editor/CProperties.h"
 #include "editor/EditorPort.h"
 #include "editor/ReportEdit.h"
 #include "editor/ReportGuard.h"
@@ -111,6 +112,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool MovePage(std::size_t from, std::size_t to);
   // 0 makes the current page landscape, anything else portrait. False when it was already.
   bool SetOrientation(int orientation);
+  // Lets the user change the properties of the current page, and its paper that of all pages: one step. True when
+  // something changed.
+  bool OnConfig();
   // The grid's sign switches it; the step stays.
   bool IsGridOn() const;
   bool ToggleGrid();
@@ -151,6 +155,11 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void StylesModified(const std::vector<StyleRenaming>& renamings);
   // Pictures of the image store changed.
   void ImagesModified();
+  // A card was changed by somebody who went by no door: the report counts as modified and panels are read again.
+  void OnCtrlHasChanged();
+
+  // The property panels, about the one selected card, or about the page when none is selected.
+  CProperties& Properties();
 
   // --- Search and replace, see FrameSearch.cpp ---
   // What the search dialog asks; the answer is in the record. Searches the page that is shown, replaces what was found
@@ -211,6 +220,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void ReportListChanged();
   void StartAnew();
   void OnKey(const MessageData& message);
+  void OnTimerStateChange(bool runs);
   void OnPageCommand(int command);
 
   // Pages, see FramePages.cpp
@@ -239,6 +249,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool Fit(int mode);
   void ReadNotes();
   void KeepNotes();
+  bool TakeProperties(const CDlgGlobalProperties& dialog);
 
   // Searching, see FrameSearch.cpp
   void Search(tagSearchReplace& request);
@@ -272,6 +283,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   std::optional<bool> gridShown_;
   bool marksShown_ = true;
   std::uint64_t resourcesSerial_ = 0;
+  CProperties properties_;
   ReportHistory history_;
   OpenEdit open_;
   bool replaying_ = false;

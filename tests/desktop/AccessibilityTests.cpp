@@ -14,7 +14,7 @@
 
 #include "desktop/WindowTest.h"
 #include "desktop/dialogs/CommandPalette.h"
-#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
 
 namespace xrpt {
@@ -77,7 +77,7 @@ TEST_F(Accessibility, TheCardsOfThePageAreThereWithTheirPlace) {
 }
 
 TEST_F(Accessibility, EverythingInTheDialogsHasAName) {
-  const OpenDialog open(L"", &Window());
+  const ReportListDialog open(L"", {}, &Window());
   EXPECT_THAT(Nameless(open), ::testing::IsEmpty());
   auto* palette = new CommandPalette(Window().AllActions(), &Window());
   EXPECT_THAT(Nameless(*palette), ::testing::IsEmpty());

@@ -8,6 +8,7 @@
 #include "editor/SelectedFields.h"
 
 class QLabel;
+class QLineEdit;
 class QTimer;
 
 namespace xrpt {
@@ -42,6 +43,8 @@ class PropertyPanel final : public QScrollArea {
 
  private:
   FieldForm* AddForm(const char* prefix, SelectedFields& fields);
+  void AddFilter();
+  void ApplyFilter();
   void ShowTitle();
   void Touch();
   void EndStep();
@@ -51,6 +54,8 @@ class PropertyPanel final : public QScrollArea {
   QTimer* idle_;
   FieldServices services_;
   QLabel* title_ = nullptr;
+  QLineEdit* filter_ = nullptr;
+  QLabel* noField_ = nullptr;  // nothing fits the filter
   FieldForm* form_ = nullptr;
   ItemsEditor* items_ = nullptr;
   AlternativesEditor* alternatives_ = nullptr;
