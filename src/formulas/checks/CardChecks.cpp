@@ -85,18 +85,31 @@ double PrintedDpi(const Picture& picture, const RVCardImage& card, const RectD& 
   return std::min(picture.width * kPointsPerInch / placed.Width(), picture.height * kPointsPerInch / placed.Height());
 }
 
+std::wstring StyleOf(const RVCardControl& card) {
+  std::wstring name;
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
+    if (row.panel.editor == FieldEditor::Style) name = row.text(card);
+  });
+  return name;
+}
+
+// What the file of an open report has and the card has not, until it is given another style.
+std::optional<std::wstring> LostStyleOf(const CardView& view) {
+  if (!view.page.lostStyles || !StyleOf(view.card).empty()) return std::nullopt;
+  for (const LostStyle& lost : *view.page.lostStyles) {
+    if (lost.card == view.card.Key()) return lost.id;
+  }
+  return std::nullopt;
+}
+
 std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
   StyleTable& styles = *view.card.Services().styles;
   std::wstring found;
   const std::wstring stored = view.element.Value("style");
   if (!stored.empty() && !styles.StyleId2Name(stored, found)) return stored;
-  std::optional<std::wstring> unknown;
-  ForEachField(view.card.GetRuntimeClass().table, [&](const CardRow& row) {
-    if (row.panel.editor != FieldEditor::Style) return;
-    const std::wstring name = row.text(view.card);
-    if (!name.empty() && !styles.StyleName2Id(name, found)) unknown = name;
-  });
-  return unknown;
+  const std::wstring name = StyleOf(view.card);
+  if (name.empty() || styles.StyleName2Id(name, found)) return std::nullopt;
+  return name;
 }
 
 }  // namespace
@@ -136,8 +149,9 @@ std::optional<Note> CoarsePicture(const CardView& view) {
 
 std::optional<Note> UnknownStyle(const CardView& view) {
   const std::optional<std::wstring> style = UnknownStyleOf(view);
-  if (!style) return std::nullopt;
-  return Note{.detail = style, .remedy = {text::kDropStyle, {{Change::Kind::SetField, "style", L""}}}};
+  if (style) return Note{.detail = style, .remedy = {text::kDropStyle, {{Change::Kind::SetField, "style", L""}}}};
+  const std::optional<std::wstring> lost = LostStyleOf(view);
+  return lost ? std::optional(Note{.detail = lost}) : std::nullopt;
 }
 
 std::optional<Note> WithoutId(const CardView& view) {
