@@ -39,7 +39,8 @@ class RVReportPage {
 
   ModelServices& Services() const { return services_; }
 
-  // What its cards lost when they were read; null when nothing, and once the file does not have it either.
+  // What its cards lost when they were read, in the order of their keys; null when nothing, and once the file does not
+  // have it either.
   const std::shared_ptr<const LostStyles>& StylesLost() const { return lostStyles_; }
   void LoseStyle(LostStyle lost);
   void ForgetLostStyles() { lostStyles_.reset(); }

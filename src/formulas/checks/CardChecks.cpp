@@ -1,4 +1,5 @@
 // Checks of one card: its place on the page, its text, its picture, its style, its identity.
+#include <algorithm>
 #include <cmath>
 
 #include "formulas/checks/CheckTexts.h"
@@ -96,10 +97,11 @@ std::wstring StyleOf(const RVCardControl& card) {
 // What the file of an open report has and the card has not, until it is given another style.
 std::optional<std::wstring> LostStyleOf(const CardView& view) {
   if (!view.page.lostStyles || !StyleOf(view.card).empty()) return std::nullopt;
-  for (const LostStyle& lost : *view.page.lostStyles) {
-    if (lost.card == view.card.Key()) return lost.id;
-  }
-  return std::nullopt;
+  const LostStyles& lost = *view.page.lostStyles;
+  const CardKey key = view.card.Key();
+  const auto at =
+      std::lower_bound(lost.begin(), lost.end(), key, [](const LostStyle& one, CardKey k) { return one.card < k; });
+  return at == lost.end() || at->card != key ? std::nullopt : std::optional(at->id);
 }
 
 std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
