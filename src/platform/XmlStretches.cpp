@@ -73,8 +73,11 @@ class StretchReader {
       VisitUpTo(last, to);
       const bool isFurther = start > at_;
       if (!Take(start)) return false;
-      size = isFurther ? kStretch : 2 * size;
-      if (!isFurther && !foundEnd && (stop == text_.size() || stop == endTag.start)) return false;
+      if (isFurther) size = kStretch;
+      if (isFurther || foundEnd) continue;
+      if (at_ + size >= text_.size()) return false;
+      if (stop == endTag.start) endTag = {};  // of a child, which the stretch had cut
+      size *= 2;
     }
   }
 
@@ -103,8 +106,8 @@ class StretchReader {
     return static_cast<bool>(result_);
   }
 
-  // Whether the parser stopped at an end tag that none of the children has. One that a child has would be a fault: the
-  // children are not whole then, as the next stretch, which ends here, will show.
+  // Whether the parser stopped at what may be the end tag of the element whose children these are. It may be a child's:
+  // then the children are not whole, as the next stretch, which ends here, will show.
   bool FindEndTag(std::string_view tag, EndTag& found) const {
     if (result_.status != pugi::status_end_element_mismatch || result_.offset < 2) return false;
     const std::size_t name = at_ + static_cast<std::size_t>(result_.offset);
