@@ -59,6 +59,7 @@ class StretchReader {
     EndTag endTag;
     for (std::size_t size = kStretch;;) {
       if (!ReadEntered(level, to)) return false;
+      if (endTag.start < at_) endTag = {};  // it was inside what has just been read
       const std::size_t stop = std::min({text_.size(), at_ + size, endTag.start});
       const bool isWhole = Parse(stop);
       if (IsTooDeep(tree_, level)) return false;

@@ -2,6 +2,7 @@
 // faulty text.
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <random>
 
 #include "platform/XmlStretches.h"
@@ -9,21 +10,30 @@
 namespace xrpt {
 namespace {
 
+std::string PageOf(const XmlNode& page) {
+  std::string seen = "[page]";
+  for (const XmlNode& card : page) seen += card.CreateXmlCode();
+  return seen + "[end]";
+}
+
+std::string ChildOf(const XmlNode& child) { return child.Tag() == "page" ? PageOf(child) : child.CreateXmlCode(); }
+
 // Writes down all that it is told.
 class Recorder final : public XmlVisitor {
  public:
-  explicit Recorder(std::string& seen) : seen_(seen) {}
-  void Child(const XmlNode& element) override { seen_ += element.CreateXmlCode(); }
+  explicit Recorder(std::string& seen, bool isRoot = true) : seen_(seen), isRoot_(isRoot) {}
+  void Child(const XmlNode& element) override { seen_ += isRoot_ ? ChildOf(element) : element.CreateXmlCode(); }
   XmlVisitor* Inside(std::string_view tag) override {
-    if (tag != "page") return nullptr;
+    if (tag != "page" || !isRoot_) return nullptr;
     seen_ += "[page]";
-    inner_ = std::make_unique<Recorder>(seen_);
+    inner_ = std::make_unique<Recorder>(seen_, false);
     return inner_.get();
   }
   void End() override { seen_ += "[end]"; }
 
  private:
   std::string& seen_;
+  const bool isRoot_;
   std::unique_ptr<Recorder> inner_;
 };
 
@@ -37,15 +47,7 @@ std::string AsTree(const std::string& text) {
   XmlDocument document;
   if (!document.Parse(text)) return "refused";
   std::string seen;
-  for (const XmlNode& child : document.Root()) {
-    if (child.Tag() != "page") {
-      seen += child.CreateXmlCode();
-      continue;
-    }
-    seen += "[page]";
-    for (const XmlNode& card : child) seen += card.CreateXmlCode();
-    seen += "[end]";
-  }
+  for (const XmlNode& child : document.Root()) seen += ChildOf(child);
   return seen + "[end]";
 }
 
