@@ -343,7 +343,7 @@ constexpr Command kCommands[] = {
     {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+K,V", true,
      Always, nullptr, nullptr},
     {"Styles", kReport, text::kResourcesGroup, text::kStyles, "styles", "Ctrl+Shift+Y", true, Always, nullptr, nullptr},
-    {"ImageStore", kReport, text::kResourcesGroup, text::kImageStore, "image-store", "Ctrl+Shift+M", true, Always,
+    {"ImageStore", kReport, text::kResourcesGroup, text::kImageStore, "image-store", "Ctrl+Shift+J", true, Always,
      nullptr, nullptr},
     {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},
     {"NextProblem", kReport, text::kChecksGroup, text::kNextProblem, "chevron-down", "F8", false, Always, nullptr,
