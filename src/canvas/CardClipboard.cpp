@@ -31,8 +31,9 @@ const XmlDocument* ClipboardReader::Document() const {
   return document_.get();
 }
 
+// As of the last look for cards: asking the clipboard may take its time.
 std::wstring ClipboardReader::PlainText() const {
-  if (HoldsCards() || text_.size() > kLongestText) return {};
+  if (document_ || text_.size() > kLongestText) return {};
   std::wstring words = FromUtf8(text_);
   std::erase(words, L'\r');
   const auto first = words.find_first_not_of(L" \t\n");

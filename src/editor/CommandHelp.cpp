@@ -40,11 +40,11 @@ const OtherWords kOtherWords[] = {
 constexpr const char* kParting = "";
 
 constexpr const char* kOfCards[] = {
-    "EditText",     "Cut",          "Copy",         "Paste",           "PasteInPlace", "Duplicate", "Delete", kParting,
-    "BringToFront", "BringForward", "SendBackward", "SendToBack",      "SelectBelow",  kParting,    "Group",  "Ungroup",
-    "Lock",         "HideCards",    kParting,       "ZoomToSelection", "BringBack",    "Undo"};
-constexpr const char* kOfPage[] = {"Paste", "PasteInPlace", "SelectAll", kParting, "UnlockAll", "ShowAll", kParting,
-                                   "Undo",  "Redo",         kParting,    "Grid",   "ShowGrid",  "Preview", "Adjusted"};
+    "EditText",     "Cut",          "Copy",         "Paste",      "Duplicate",       "Delete",    kParting,
+    "BringToFront", "BringForward", "SendBackward", "SendToBack", "SelectBelow",     kParting,    "Group",
+    "Ungroup",      "Lock",         "HideCards",    kParting,     "ZoomToSelection", "BringBack", "Undo"};
+constexpr const char* kOfPage[] = {"Paste", "SelectAll", kParting, "UnlockAll", "ShowAll", kParting,  "Undo",
+                                   "Redo",  kParting,    "Grid",   "ShowGrid",  "Preview", "Adjusted"};
 
 }  // namespace
 

@@ -24,6 +24,8 @@ class StartPage final : public QWidget {
   // Looks again what there is.
   void Refresh();
   void FocusFirst();
+  // It takes the room there is: what is open decides how narrow a window may be.
+  QSize minimumSizeHint() const override { return {60, 60}; }
 
   // A report's file was chosen: to be opened, or to be the beginning of a new one.
   std::function<void(const Path&)> openWanted;
