@@ -143,7 +143,7 @@ void PageDialog::AddOrientation(QFormLayout& form) {
 
 void PageDialog::AddGrid(QFormLayout& form) {
   form.addRow(MakeSectionTitle(text::kGridGroupTitle, this));
-  grid_ = new QCheckBox(Translated(text::kShowGrid), this);
+  grid_ = new QCheckBox(Translated(text::kGridIsShown), this);
   connect(grid_, &QCheckBox::toggled, this, [this](bool on) {
     page_.ShowGrid(on);
     Refresh();
