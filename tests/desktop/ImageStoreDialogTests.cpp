@@ -38,7 +38,14 @@ class ImageStoreWindow : public WindowTest {
   static void WhenOpen(std::function<void(QWidget&)> act) {
     QTimer::singleShot(0, qApp, [act = std::move(act)] { act(*QApplication::activeModalWidget()); });
   }
-  static int Shown(ImageStoreDialog& dialog) { return dialog.findChild<QListView*>()->model()->rowCount(); }
+  // The folders are a list, too.
+  static QListView& Pictures(const ImageStoreDialog& dialog) {
+    for (auto* view : dialog.findChildren<QListView*>()) {
+      if (dynamic_cast<PicturesModel*>(view->model())) return *view;
+    }
+    throw std::out_of_range("no pictures");
+  }
+  static int Shown(const ImageStoreDialog& dialog) { return Pictures(dialog).model()->rowCount(); }
 };
 
 TEST_F(ImageStoreWindow, PicturesComeByClipboardAndDropAndGoAfterAQuestion) {
@@ -61,7 +68,7 @@ TEST_F(ImageStoreWindow, PicturesComeByClipboardAndDropAndGoAfterAQuestion) {
   EXPECT_EQ(PartsOf<QLabel>(dialog).size(), 2u);
   EXPECT_TRUE(Button(dialog, text::kReplaceButton).isEnabled()) << "what was added is selected";
 
-  auto* pictures = dialog.findChild<QListView*>();
+  auto* pictures = &Pictures(dialog);
   pictures->setFocus();
   WhenOpen([](QWidget& box) { Button(box, text::kDeleteAnswer).click(); });
   QTest::keyClick(pictures, Qt::Key_Delete);
@@ -87,7 +94,7 @@ TEST_F(ImageStoreWindow, FoldersNarrowTheListAndUsesLeadToTheCard) {
   folders->setCurrentRow(0);
   const PictureUses uses = UsesOfPictures(Frame().Report());
   ASSERT_FALSE(uses.empty());
-  auto* pictures = dialog.findChild<QListView*>();
+  auto* pictures = &Pictures(dialog);
   const auto* model = dynamic_cast<const PicturesModel*>(pictures->model());
   pictures->setCurrentIndex(model->index(model->RowOf(uses.begin()->first)));
   auto* list = dialog.findChildren<QListWidget*>().at(1);
