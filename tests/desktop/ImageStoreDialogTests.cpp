@@ -70,6 +70,7 @@ TEST_F(ImageStoreWindow, PicturesComeByClipboardAndDropAndGoAfterAQuestion) {
 
   auto* pictures = &Pictures(dialog);
   pictures->setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   WhenOpen([](QWidget& box) { Button(box, text::kDeleteAnswer).click(); });
   QTest::keyClick(pictures, Qt::Key_Delete);
   EXPECT_EQ(ListPictures(), std::vector<std::wstring>{L"picture"});

@@ -117,6 +117,7 @@ TEST_F(ReportListWindow, ADoubleClickOpens) {
 TEST_F(ReportListWindow, FilesAreRenamedCopiedAndDeletedByHand) {
   Choose(L"Water", [this](ReportListDialog& dialog) {
     list_->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) {
       QTest::keyClicks(box.findChild<QLineEdit*>(), "Steam");
       QTest::keyClick(&box, Qt::Key_Return);
@@ -126,9 +127,12 @@ TEST_F(ReportListWindow, FilesAreRenamedCopiedAndDeletedByHand) {
     WhenOpen([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
     Button(dialog, text::kDuplicateButton).click();
     EXPECT_EQ(Current(), "Steam_1");
+    list_->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     QTest::keyClick(list_, Qt::Key_Delete);
     EXPECT_EQ(Shown().size(), 5u) << "asked first";
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) { Button(box, text::kDeleteAnswer).click(); });
     QTest::keyClick(list_, Qt::Key_Delete);
     EXPECT_THAT(Shown(), ElementsAre("Energy month", "energy week", "Gas", "Steam"));
