@@ -10,13 +10,14 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "desktop/DialogTest.h"
 #include "desktop/TextIds.h"
-#include "desktop/WindowTest.h"
 #include "desktop/dialogs/ImageStoreDialog.h"
 #include "desktop/dialogs/PictureChooser.h"
 #include "desktop/look/Texts.h"
 #include "editor/EditorTexts.h"
 #include "editor/ImageStore.h"
+#include "host/qt/QtPictures.h"
 #include "model/RVCardImage.h"
 
 namespace xrpt {
@@ -24,6 +25,7 @@ namespace {
 
 class ImageStoreWindow : public WindowTest {
  protected:
+  ImageStoreWindow() { host->pictures = std::make_unique<QtPictures>(); }
   static QImage Blue() {
     QImage image(40, 20, QImage::Format_RGB32);
     image.fill(Qt::blue);
@@ -34,9 +36,6 @@ class ImageStoreWindow : public WindowTest {
       if (button->text() == Translated(textId)) return *button;
     }
     throw std::out_of_range("no such button");
-  }
-  static void WhenOpen(std::function<void(QWidget&)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] { act(*QApplication::activeModalWidget()); });
   }
   // The folders are a list, too.
   static QListView& Pictures(const ImageStoreDialog& dialog) {
@@ -61,6 +60,8 @@ TEST_F(ImageStoreWindow, PicturesComeByClipboardAndDropAndGoAfterAQuestion) {
   ASSERT_TRUE(Blue().save(file));
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(file), QUrl(QStringLiteral("https://example.org/x.png"))});
+  QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&dialog, &enter);
   QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&dialog, &drop);
   EXPECT_EQ(Shown(dialog), 2);

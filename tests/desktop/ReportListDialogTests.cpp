@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "desktop/DialogTest.h"
 #include "desktop/TextIds.h"
-#include "desktop/WindowTest.h"
 #include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/ReportPreview.h"
 #include "desktop/look/Texts.h"
@@ -31,8 +31,8 @@ class ReportListWindow : public WindowTest {
   // What `look` sees of the dialog, and what the dialog gives back.
   template <class Look>
   std::optional<std::wstring> Choose(const std::wstring& current, const Look& look) {
-    QTimer::singleShot(0, &Window(), [&] {
-      auto* dialog = dynamic_cast<ReportListDialog*>(QApplication::activeModalWidget());
+    WhenOpen([&](QWidget& opened) {
+      auto* dialog = dynamic_cast<ReportListDialog*>(&opened);
       ASSERT_NE(dialog, nullptr);
       list_ = dialog->findChild<QTreeWidget*>();
       filter_ = dialog->findChild<QLineEdit*>();
@@ -47,10 +47,6 @@ class ReportListWindow : public WindowTest {
       if (button->text() == Translated(textId)) return *button;
     }
     throw std::out_of_range("no such button");
-  }
-  // What is done to the window that opens next.
-  static void WhenOpen(std::function<void(QWidget&)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] { act(*QApplication::activeModalWidget()); });
   }
   std::vector<std::string> Shown() const {
     std::vector<std::string> names;
@@ -117,6 +113,7 @@ TEST_F(ReportListWindow, ADoubleClickOpens) {
 TEST_F(ReportListWindow, FilesAreRenamedCopiedAndDeletedByHand) {
   Choose(L"Water", [this](ReportListDialog& dialog) {
     list_->setFocus();
+    dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) {
       QTest::keyClicks(box.findChild<QLineEdit*>(), "Steam");
@@ -128,10 +125,12 @@ TEST_F(ReportListWindow, FilesAreRenamedCopiedAndDeletedByHand) {
     Button(dialog, text::kDuplicateButton).click();
     EXPECT_EQ(Current(), "Steam_1");
     list_->setFocus();
+    dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     QTest::keyClick(list_, Qt::Key_Delete);
     EXPECT_EQ(Shown().size(), 5u) << "asked first";
+    dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     WhenOpen([](QWidget& box) { Button(box, text::kDeleteAnswer).click(); });
     QTest::keyClick(list_, Qt::Key_Delete);
