@@ -69,11 +69,8 @@ TEST_F(ImageStoreWindow, PicturesComeByClipboardAndDropAndGoAfterAQuestion) {
   EXPECT_EQ(PartsOf<QLabel>(dialog).size(), 2u);
   EXPECT_TRUE(Button(dialog, text::kReplaceButton).isEnabled()) << "what was added is selected";
 
-  auto* pictures = &Pictures(dialog);
-  pictures->setFocus();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   WhenOpen([](QWidget& box) { Button(box, text::kDeleteAnswer).click(); });
-  QTest::keyClick(pictures, Qt::Key_Delete);
+  Button(dialog, text::kDeleteButton).click();
   EXPECT_EQ(ListPictures(), std::vector<std::wstring>{L"picture"});
 
   QGuiApplication::clipboard()->setText(QStringLiteral("words"));
