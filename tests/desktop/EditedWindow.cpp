@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
@@ -63,7 +62,7 @@ std::vector<Deed> EditedWindow::EditorDeeds(int turn) {
     for (const QWidget* body : form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       for (const QWidget* part : UsableParts(*body)) {
         const QString name = part->objectName();
-        const bool isTitle = qobject_cast<const QLabel*>(part);  // folds its section
+        const bool isTitle = name == QStringLiteral("sectionTitle");  // folds its section
         if (name.isEmpty() || isTitle) continue;
         deeds.push_back({"field " + name.toStdString(),
                          [this, name, turn] { UsePart(Window().Properties().findChild<QWidget*>(name), turn); }, true});
