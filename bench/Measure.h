@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,18 @@ class Stopwatch {
  private:
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
+
+// Milliseconds of the best of several runs, for other programs disturb.
+template <class Work>
+double BestOf(int runs, const Work& work) {
+  double best = std::numeric_limits<double>::max();
+  for (int i = 0; i < runs; ++i) {
+    const Stopwatch watch;
+    work();
+    best = std::min(best, watch.Milliseconds());
+  }
+  return best;
+}
 
 inline double Seconds(const timeval& time) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;

@@ -88,7 +88,7 @@ void MarkSelection(PixelBuffer& pixels, const RVEditTemplateWnd& window, const R
 PagePaint PaintOf(const RVEditTemplateWnd& window, PixelBuffer& pixels) {
   const bool shown = window.IsGridShown() && !window.IsPreview();
   PagePaint how{true, window.Surround(), shown ? &pixels : nullptr, shown, {}};
-  if (!window.IsPreview() && window.HasNoted(&CardNote::hidden))
+  if (!window.IsPreview() && window.HidesAny())
     how.shows = [&window](const RVCardControl& card) { return !window.IsHidden(card); };
   return how;
 }
