@@ -2,7 +2,6 @@
 """Builds a sample report in an empty folder with mouse and keyboard alone, saves it, and compares the file with the
 sample. `--only 2 3` builds the pages of these numbers, `--record FILE.gif` keeps a moving picture of it."""
 import argparse
-import os
 import shutil
 import signal
 import sys
@@ -18,7 +17,7 @@ if missing := screens.missing_tools():
 
 from hands import Hands  # noqa: E402
 from reports import Report, differences  # noqa: E402
-from seen import Editor, NotSeen, Panel, wait_for  # noqa: E402
+from seen import Editor, NotSeen, wait_for  # noqa: E402
 from work import Desk  # noqa: E402
 
 SCREEN = (1600, 1400)  # high enough for a page and for the longest panel
@@ -31,6 +30,7 @@ def read_arguments():
     parser.add_argument('--report', default='Consumo_mensual')
     parser.add_argument('--only', type=int, nargs='+', help='pages, from 1')
     parser.add_argument('--record', type=Path)
+    parser.add_argument('--trace', action='store_true', help='tells each card, and where it was when it gave up')
     parser.add_argument('--limit', type=int, default=600, help='seconds after which it gives up')
     parser.add_argument('--keep', type=Path, help='folder for what was made, and a picture of the screen when it fails')
     return parser.parse_args()
@@ -48,7 +48,7 @@ def build(desk, wanted):
         if index:
             desk.add_page()
         desk.set_page(page)
-        for number, card in enumerate(reversed(page.cards)):
+        for card in reversed(page.cards):
             desk.make(card)
         print(f'page "{page.fields["Name"]}": {len(page.cards)} cards in {time.time() - started:.1f} s', flush=True)
 
@@ -72,15 +72,15 @@ def main():
             shutil.copy(plant, config)
         started = time.time()
         screen.start_editor(arguments.editor, '--config', config, '--images', arguments.examples / 'images')
-        desk = Desk(hands, Editor())
+        desk = Desk(hands, Editor(), arguments.trace)
         recording = arguments.record and screen.record(arguments.record.resolve(), 800, 1.2)
         try:
             build(desk, wanted)
             desk.save(arguments.report)
             file = wait_for(lambda: next(config.glob(f'*.{arguments.report}.xrpt'), None), 'the saved file')
             found = differences(wanted, Report(file))
-        except NotSeen as error:
-            if os.environ.get('XRPT_TRACE'):
+        except (NotSeen, TimeIsUp) as error:
+            if arguments.trace:
                 traceback.print_exc()
             found = [f'waited in vain for {error}']
         finally:
@@ -94,8 +94,12 @@ def main():
         return 1 if found else 0
 
 
+class TimeIsUp(Exception):
+    """Nobody but `main` waits for it."""
+
+
 def give_up(*_):
-    raise NotSeen('the end within its time')
+    raise TimeIsUp('the end within its time')
 
 
 def keep(screen, config, folder):

@@ -1,5 +1,4 @@
 """What a user does in the editor: pages, cards, fields, formulas, each with mouse and keyboard, each waited for."""
-import os
 import time
 
 from seen import NotSeen, Panel, wait_for
@@ -21,8 +20,8 @@ def same(shown, wanted):
 
 
 class Desk:
-    def __init__(self, hands, editor):
-        self.hands, self.editor = hands, editor
+    def __init__(self, hands, editor, trace):
+        self.hands, self.editor, self.trace, self.began = hands, editor, trace, time.time()
         self.made = []  # of the shown page, the lowest first
         self.tab, self.seen_at = 'Home', {}  # the ribbon's tab, and its buttons
         self.fresh = {}  # what a new card of each kind shows
@@ -134,8 +133,8 @@ class Desk:
     def make(self, card):
         """Copies a card that is much alike when there is one, else draws it; then sets what is left to set."""
         source = self.source_for(card)
-        if os.environ.get('XRPT_TRACE'):
-            print(f'{time.time() % 1000:.2f} {"copy" if source else "draw"} {card.name} {card.place}', flush=True)
+        if self.trace:
+            print(f'{time.time() - self.began:.1f} s: {"copy" if source else "draw"} {card.name} {card.place}', flush=True)
         known = source.fields if source else self.fresh.get(card.tag, {})
         if source:
             self.copy(source)
@@ -144,8 +143,7 @@ class Desk:
         self.panel.look()
         if card.tag not in self.fresh and not source:
             self.fresh[card.tag] = {label: self.panel.value(label) for label in card.fields if label not in PLACES}
-        self.fill({label: card.fields[label] for label in self.in_order(card)
-                   if label in PLACES or not same(known.get(label), card.fields[label]) or 'Text style' in self.changed(known, card)})
+        self.fill(self.to_set(card, known))
         if card.series:
             self.fill_series(card)
         if card.alternatives:
@@ -153,14 +151,13 @@ class Desk:
         self.made.append(card)
 
     @staticmethod
-    def changed(known, card):
-        return [label for label, value in card.fields.items() if not same(known.get(label), value)]
-
-    @staticmethod
-    def in_order(card):
-        """Sizes before places, for a card is kept on its page."""
+    def to_set(card, known):
+        """The place, sizes first, for a card is kept on its page; and what it does not show yet. A text style sets
+        others."""
+        changed = [label for label, value in card.fields.items() if not same(known.get(label), value)]
+        rest = list(card.fields) if 'Text style' in changed else changed
         first = ['Width', 'Height', 'X', 'Y']
-        return first + [label for label in card.fields if label not in first]
+        return {label: card.fields[label] for label in first + [label for label in rest if label not in first]}
 
     def source_for(self, card):
         """Of the cards of that kind the one with the fewest fields to change, when that is less work than drawing."""

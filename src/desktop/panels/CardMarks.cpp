@@ -30,8 +30,8 @@ struct Mark {
 };
 
 constexpr Mark kMarks[] = {
-    {CardMarks::HideButton, 1, "hide", "preview", text::kShowCard, text::kHideCard, &CardMarks::hidden},
-    {CardMarks::LockButton, 2, "lock", "unlock", text::kUnlockCard, text::kLockCard, &CardMarks::locked}};
+    {CardMarks::HideButton, 1, "hide", "preview", text::kShowInList, text::kHideInList, &CardMarks::hidden},
+    {CardMarks::LockButton, 2, "lock", "unlock", text::kUnlockInList, text::kLockInList, &CardMarks::locked}};
 
 QRect ButtonAt(const QRect& line, int fromRight) {
   return {line.right() + 1 - fromRight * (kSide + kGap), line.top() + (line.height() - kSide) / 2, kSide, kSide};
