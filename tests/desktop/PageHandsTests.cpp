@@ -11,6 +11,7 @@
 namespace xrpt {
 namespace {
 
+using ::testing::DoubleNear;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -111,45 +112,34 @@ TEST_F(PageHands, TheGridIsShownAndSnappedToSeparately) {
   EXPECT_FALSE(IsMultiple(RectAt(from_).x, 5) && IsMultiple(RectAt(from_).y, 5));
 }
 
-// A line is pulled out of a ruler, moved by taking it where it crosses the ruler, and put away there.
+// A line is pulled out of one ruler, moved by taking it where it crosses the other, and put away beyond the page.
 TEST_F(PageHands, LinesAreDraggedOutOfTheRulersAndBack) {
-  Ruler* ruler = nullptr;
-  for (Ruler* each : PartsOf<Ruler>(Window())) {
-    if (each->width() > each->height()) ruler = each;
-  }
-  ASSERT_TRUE(ruler);
-  const auto pull = [&](QPoint from, QPoint to) {
-    QTest::mousePress(ruler, Qt::LeftButton, {}, from);
-    QTest::mouseMove(ruler, (from + to) / 2);
-    QTest::mouseMove(ruler, to);
-    QTest::mouseRelease(ruler, Qt::LeftButton, {}, to);
+  const auto rulers = PartsOf<Ruler>(Window());
+  const auto lies = [](const Ruler* ruler) { return ruler->width() > ruler->height(); };
+  Ruler& across = **std::find_if(rulers.begin(), rulers.end(), lies);
+  Ruler& down = **std::find_if_not(rulers.begin(), rulers.end(), lies);
+  const auto pull = [&](Ruler& ruler, double from, double to) {
+    const auto at = [&](double y) { return ruler.mapFromGlobal(View().viewport()->mapToGlobal(At(50, y))); };
+    const QPoint start = &ruler == &across ? QPoint(at(from).x(), 10) : QPoint(10, at(from).y());
+    QTest::mousePress(&ruler, Qt::LeftButton, {}, start);
+    QTest::mouseMove(&ruler, (start + at(to)) / 2);
+    QTest::mouseMove(&ruler, at(to));
+    QTest::mouseRelease(&ruler, Qt::LeftButton, {}, at(to));
     Settle();
   };
-  const auto below = [&](double x, double y) { return ruler->mapFromGlobal(View().viewport()->mapToGlobal(At(x, y))); };
-  pull({below(50, 0).x(), 10}, below(50, 100));
-  ASSERT_EQ(Page().Lines().across.size() + Page().Lines().down.size(), 1u);
-  EXPECT_FALSE(Frame().IsModified()) << "lines are the editor's";
-  Ruler* crossed = ruler;
-  for (Ruler* each : PartsOf<Ruler>(Window())) {
-    if (each != ruler && !Page().Lines().across.empty()) crossed = each;
-  }
-  ruler = crossed;
-  const double at = Page().Lines().across.empty() ? Page().Lines().down[0] : Page().Lines().across[0];
-  const QPoint where = below(at, at);
-  const bool upright = ruler->height() > ruler->width();
-  pull(upright ? QPoint(10, where.y()) : QPoint(where.x(), 10),
-       upright ? QPoint(-30, where.y()) : QPoint(where.x(), -30));
+  pull(across, 0, 100);
+  ASSERT_THAT(Page().Lines().across, ElementsAre(DoubleNear(100, 1)));
+  EXPECT_THAT(Page().Lines().down, IsEmpty());
+  pull(down, 100, 150);
+  EXPECT_THAT(Page().Lines().across, ElementsAre(DoubleNear(150, 1)));
+  pull(down, 150, -60);
   EXPECT_TRUE(Page().Lines().IsEmpty());
+  EXPECT_FALSE(Frame().IsModified()) << "lines are the editor's";
 }
 
 TEST_F(PageHands, KeysAlignToTheCardChosenLast) {
-  Choose(from_);
-  Choose(title_, kControl);
-  Drag(MiddleOf(title_), At(10, 0) - At(0, 0));
-  const double left = RectAt(title_).x;
-  ASSERT_EQ(Page().Selection().Size(), 2u);
-  Click(MiddleOf(from_));
   Drag(MiddleOf(from_), At(20, 0) - At(0, 0));
+  const double left = RectAt(title_).x;
   ASSERT_NE(RectAt(from_).x, left);
   Choose(title_, kControl);
   Key(Qt::Key_L, kAlt | kShift);

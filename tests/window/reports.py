@@ -41,8 +41,9 @@ PLACE = [('X', 'x', number, None), ('Y', 'y', number, None), ('Width', 'width', 
 COLOURS = [('Colour', 'color', colour, None), ('Background', 'backcolor', colour, 'No colour')]
 ALIGNED = [('Across', 'horizontalAlign', ACROSS, None), ('Down', 'verticalAlign', DOWN, None)]
 SCALE = [('Keep proportions', 'maintainAspectRatio', flag, None), ('Real size', 'maintainRealSize', flag, None)]
-MOVING = [('Movement', 'behavior', words(BEHAVIOR_SCROLL='Scrolling'), 'None'),
-          ('Direction', 'direction', words(DIRECTION_LEFT='To the left', DIRECTION_RIGHT='To the right'), None),
+MOVING = [('Movement', 'behavior', words(BEHAVIOR_SCROLL='Scrolling', BEHAVIOR_ALTERNATE='To and fro'), 'None'),
+          ('Direction', 'direction', words(DIRECTION_LEFT='To the left', DIRECTION_RIGHT='To the right', DIRECTION_UP='Up',
+                                        DIRECTION_DOWN='Down'), None),
           ('Pixels a step', 'scrollamount', number, None), ('Step every ms', 'scrolldelay', number, None)]
 LETTERS = [('Font', 'font/name', plain, None), ('Style', 'font/style', FACE, None), ('Size', 'font/size', number, None)]
 TURN = [('Rotation', 'font/orientation', number, None)]
@@ -57,7 +58,7 @@ FIELDS = {
                        ('Trailing zeros', 'rightPadding', given, False),
                        ('Thousands separator', 'thousandSeparator', flag, None),
                        ('Default value', 'enableVariableDefaultValue', flag, False)],
-    'staticImage': [('Picture', 'image', None, '')] + ALIGNED + SCALE + COLOURS,
+    'staticImage': [('Picture', 'image', None, '')] + ALIGNED + SCALE + COLOURS + MOVING,
     'dynamicImage': [('Variable', 'variable/id', plain, '')] + ALIGNED + SCALE + COLOURS,
     'primitive': [('Shape', 'type', words(LINE='Line', BOX='Rectangle', ELLIPSE='Ellipse'), None)] + COLOURS +
                  [('No filling', 'isBackTransparent', flag, None), ('Outline width', 'size', number, None),
@@ -72,6 +73,7 @@ FIELDS = {
                     ('Hide X labels', 'hideXAxisLabels', flag, None), ('Transparent', 'transparent', flag, None),
                     ('One graph', 'justOneGraph', flag, None)],
     'forceValues': [('Shown as', 'visualization', words(IMAGE='Picture', TEXT='Text', BUTTON='Button'), None),
+                    ('Text style', 'style', plain, None), ('Text colour', 'font/color', colour, None),
                     ('Picture', 'image', None, None), ('Text', 'text/textStr', plain, None)] + LETTERS + TURN +
                    ALIGNED + SCALE + COLOURS,
 }
@@ -89,6 +91,7 @@ SERIES = {
 PAGE = [('Name', 'name', plain, None), ('Width', 'width', number, None), ('Height', 'height', number, None),
         ('Rounded corners', 'rounded', number, None), ('Grid across', 'xgrid', number, None),
         ('Grid down', 'ygrid', number, None)]
+BACKGROUND = [('Picture', 'image', None, '')] + ALIGNED + SCALE
 NAMES = {'label': 'Label', 'date': 'Date', 'formule': 'Formula', 'staticImage': 'Image', 'conditioned': 'Conditioned',
          'reportGraph': 'Graph', 'primitive': 'Shape', 'dynamicImage': 'Camera image',
          'forceValues': 'Forced values'}
@@ -106,6 +109,8 @@ class Card:
         self.tag = element.tag
         self.name = NAMES[element.tag]
         self.fields = read_fields(element, PLACE + FIELDS[element.tag], styles)
+        if self.fields.get('Shown as') in ('Text', 'Button'):  # with a picture there is no style to choose
+            self.fields.setdefault('Text style', 'No style')
         self.series = [read_fields(e, SERIES[self.tag], styles) for e in element.findall('variable')] \
             if self.tag in SERIES else []
         self.alternatives = [(e.findtext('condition') or '', Card(next(c for c in e if c.tag in NAMES), styles))
@@ -136,8 +141,7 @@ class Page:
     def __init__(self, element, styles):
         self.fields = read_fields(element, PAGE, styles)
         background = element.find('backgroundImage')
-        self.background = {} if background is None else read_fields(background, FIELDS['staticImage'], styles)
-        self.background = {k: v for k, v in self.background.items() if k not in ('Colour', 'Background')}
+        self.background = {} if background is None else read_fields(background, BACKGROUND, styles)
         self.cards = [Card(e, styles) for e in element if e.tag in NAMES]
 
 
@@ -181,7 +185,7 @@ def differences(wanted, made, most=20):
             x = ours[index] if index < len(ours) else None
             y = theirs[index] if index < len(theirs) else None
             part = x if x is not None else y
-            compare(x, y, f'{where}/{part.tag}[{index}]' if len(part) else where)
+            compare(x, y, f'{where}/{part.tag}[{index}]' if len(part) or x is None or y is None else where)
 
     compare(wanted.root, made.root, 'report')
     return found[:most]
