@@ -26,6 +26,7 @@
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/page/PageView.h"
+#include "desktop/page/PastedPicture.h"
 #include "desktop/panels/HistoryPanel.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/Outline.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow() {
   BuildStatusBar();
   BuildKeys();
   WatchLog();
+  new PastedPicture(*frame_, *actions_, *messages_, *pages_->View().viewport());
   files_ = std::make_unique<FileKeeper>(*frame_, *messages_, *this);
   RestoreLayout();
   ApplySurround();

@@ -32,6 +32,13 @@ void TakePicture(RVCardControl& card, const std::wstring& name) {
   image.height = wide * picture->height / picture->width;
 }
 
+std::wstring InsertPicture(RVEditControlWnd& frame, const AddedPicture& added, Point at) {
+  if (added.name.empty()) return added.problem;
+  frame.CurrentPage().InsertCardAt(tool::kImage, at, {text::kInsert, 1},
+                                   [&](RVCardControl& card) { TakePicture(card, added.name); });
+  return {};
+}
+
 }  // namespace
 
 bool DropText(RVEditControlWnd& frame, const std::wstring& words, Point at) {
@@ -42,11 +49,11 @@ bool DropText(RVEditControlWnd& frame, const std::wstring& words, Point at) {
 }
 
 std::wstring DropPicture(RVEditControlWnd& frame, const Path& file, Point at) {
-  const AddedPicture added = AddPicture(file);
-  if (added.name.empty()) return added.problem;
-  frame.CurrentPage().InsertCardAt(tool::kImage, at, {text::kInsert, 1},
-                                   [&](RVCardControl& card) { TakePicture(card, added.name); });
-  return {};
+  return InsertPicture(frame, AddPicture(file), at);
+}
+
+std::wstring DropPictureBytes(RVEditControlWnd& frame, const std::string& bytes, Point at) {
+  return InsertPicture(frame, AddPictureBytes(bytes, L"picture"), at);
 }
 
 }  // namespace xrpt

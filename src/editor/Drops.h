@@ -16,5 +16,7 @@ bool DropText(RVEditControlWnd& frame, const std::wstring& words, Point at);
 
 // Adds the picture to the store first. What is wrong with it, as a sentence; empty when it is there.
 std::wstring DropPicture(RVEditControlWnd& frame, const Path& file, Point at);
+// The same with the bytes of a picture file.
+std::wstring DropPictureBytes(RVEditControlWnd& frame, const std::string& bytes, Point at);
 
 }  // namespace xrpt

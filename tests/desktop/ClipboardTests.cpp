@@ -1,9 +1,15 @@
 // What copying leaves for other programs, and pasting into another window.
 #include <gmock/gmock.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QImage>
+#include <QMimeData>
 
 #include "desktop/WindowTest.h"
+#include "desktop/panels/MessageBar.h"
+#include "host/qt/QtPictures.h"
+#include "model/RVCardImage.h"
 
 namespace xrpt {
 namespace {
@@ -45,6 +51,34 @@ TEST_F(Clipboard, CardsArePastedOnAnotherReport) {
   Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Page().Page().cards.Size(), copied);
   EXPECT_TRUE(Frame().IsModified());
+}
+
+// One that cannot be read changes nothing and says so.
+TEST_F(Clipboard, APictureOfAnotherProgramIsStoredAndShownAsOneStep) {
+  host->pictures = std::make_unique<QtPictures>();
+  OpenSample();
+  View().setFocus();
+  const std::size_t before = Page().Page().cards.Size();
+  QImage picture(60, 30, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  QGuiApplication::clipboard()->setImage(picture);
+  Settle();
+  Key(Qt::Key_V, Qt::ControlModifier);
+  ASSERT_EQ(Page().Page().cards.Size(), before + 1);
+  const auto& card = dynamic_cast<const RVCardImage&>(Page().Page().cards[0]);
+  ASSERT_TRUE(card.GetPicture());
+  EXPECT_EQ(card.GetPicture()->width, 60);
+  EXPECT_GT(card.width, card.height);
+  Run("Undo");
+  EXPECT_EQ(Page().Page().cards.Size(), before);
+  auto broken = std::make_unique<QMimeData>();
+  broken->setData(QStringLiteral("image/png"), "no picture");
+  QGuiApplication::clipboard()->setMimeData(broken.release());
+  Settle();
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Page().Page().cards.Size(), before);
+  EXPECT_TRUE(PartOf<MessageBar>(Window()).isVisible());
+  QGuiApplication::clipboard()->clear();
 }
 
 // The answer may have to come from another program, which takes its time.

@@ -73,7 +73,7 @@ def main():
         started = time.time()
         screen.start_editor(arguments.editor, '--config', config, '--images', arguments.examples / 'images')
         desk = Desk(hands, Editor(), arguments.trace)
-        recording = arguments.record and screen.record(arguments.record.resolve(), 800, 1.2)
+        recording = arguments.record and screen.record(arguments.record.resolve(), 720, 1.8)
         try:
             build(desk, wanted)
             desk.save(arguments.report)

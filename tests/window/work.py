@@ -85,8 +85,10 @@ class Desk:
             self.seen_at[tab, button] = wait_for(
                 lambda: self.editor.look('push button', button) or self.editor.look('check box', button),
                 f'"{button}" in the ribbon')
-        self.hands.click(*self.seen_at[tab, button].middle)
-        return self.seen_at[tab, button]
+        node = self.seen_at[tab, button]
+        wait_for(lambda: node.is_shown, f'"{button}" in the ribbon')
+        self.hands.click(*node.middle)
+        return node
 
     def add_page(self):
         pages = self.editor.find('list', 'Pages')
