@@ -189,17 +189,32 @@ class Desk:
 
     def copy(self, source):
         if source is not self.made[-1]:
-            self.hands.click(*self.pixel(*self.point_of(source)))
-            self.wait_for_card(source.name, lambda: all(self.shows(label, source.fields[label]) for label in PLACES))
+            self.select(source)
         self.hands.key('ctrl+d')
         self.wait_for_card(source.name, lambda: self.panel.value('X') is not None and not all(
             self.shows(label, source.fields[label]) for label in PLACES))
 
+    def select(self, card):
+        """A list of names that is still open takes the first click."""
+        for _ in range(3):
+            self.hands.click(*self.pixel(*self.point_of(card)))
+            try:
+                return self.wait_for_card(
+                    card.name, lambda: all(self.shows(label, card.fields[label]) for label in PLACES), 4)
+            except NotSeen:
+                pass
+        raise NotSeen(f'{card.name} {card.place} selected')
+
     def draw(self, card):
         """The tool is put away when the card is drawn, and the card selected."""
         x, y, width, height = card.place
-        tool = self.ribbon('Home', card.name)
-        wait_for(lambda: tool.is_checked, f'the tool {card.name}')
+        for _ in range(3):
+            tool = self.ribbon('Home', card.name)
+            try:
+                wait_for(lambda: tool.is_checked, f'the tool {card.name}', 4)
+                break
+            except NotSeen:
+                pass
         self.hands.drag(self.pixel(x, y), self.pixel(x + width, y + height))
 
         def is_new():
@@ -207,10 +222,10 @@ class Desk:
             return left is not None and top is not None and abs(left - x) < 6 and abs(top - y) < 6
         self.wait_for_card(card.name, is_new)
 
-    def wait_for_card(self, title, is_it):
+    def wait_for_card(self, title, is_it, seconds=20):
         def look():
             return self.panel.title == title and self.panel.look() and is_it()
-        wait_for(look, f'the panel of the {title}')
+        wait_for(look, f'the panel of the {title}', seconds)
 
     def fill_series(self, card):
         for index, fields in enumerate(card.series):
@@ -299,6 +314,7 @@ class Desk:
         else:
             self.type_over(field.node, value)
             if 'Expression' in label or 'Condition' in label:
+                wait_for(lambda: field.value == value, label, 3)
                 self.hands.click(self.panel.box[0] + 3, field.node.middle[1])  # puts away names that are offered
 
     def type_over(self, node, text):
