@@ -109,7 +109,8 @@ void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw
   if (how.grid) DrawGrid(*how.grid, page.properties, draw);
   const GraphicsState state(graphics);
   if (how.surround || IsRounded(draw)) ClipToPage(graphics, draw);  // else the device ends with the page
-  PaintCards(graphics, page.cards, draw);
+  if (!how.cards) return PaintCards(graphics, page.cards, draw);
+  for (auto at = how.cards->rbegin(); at != how.cards->rend(); ++at) PaintCard(graphics, page.cards[*at], draw);
 }
 
 }  // namespace xrpt

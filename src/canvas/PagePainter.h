@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
@@ -16,6 +17,7 @@ struct PagePaint {
   bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
   std::optional<Color> surroundColor;
   PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
+  const std::vector<std::size_t>* cards = nullptr;  // those that can be in the clip, top first; null: nobody knows
 };
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how = {});

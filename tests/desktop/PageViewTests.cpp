@@ -2,12 +2,15 @@
 // screens.
 #include <gmock/gmock.h>
 
+#include <QPainter>
+
 #include "desktop/WindowTest.h"
 #include "desktop/page/KeyCodes.h"
 #include "desktop/page/PageImage.h"
 #include "desktop/page/RulerMarks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Ribbon.h"
+#include "model/RVCardLabel.h"
 
 namespace xrpt {
 namespace {
@@ -38,6 +41,37 @@ TEST_F(PageViewTest, FramesMarchWithoutPaintingThePageAgain) {
   Page().RedrawBackground();
   View().viewport()->grab();
   EXPECT_EQ(View().PagePaintings(), paintings + 1);
+}
+
+// A tick paints what moves and nothing else, and shows what painting everything at that moment would show.
+TEST_F(PageViewTest, MovingTextsArePaintedByThemselves) {
+  for (const wchar_t* label : {L"Desde", L"Informe mensual de energía"}) {
+    PageEdit edit = Page().Edit({});
+    auto& moving = static_cast<RVCardLabel&>(*edit.Card(CardWith("text/textStr", label)));
+    moving.animation.behavior = Behavior::Scroll;
+  }
+  const QSize size = View().viewport()->size();
+  for (const double scale : {1.0, 1.5}) {
+    PageImage image;
+    QImage before = image.Paint(Page(), size, scale).copy();
+    const int paintings = image.Paintings();
+    for (int time : {400, 800, 1200}) {
+      Page().SetAnimationTime(time);
+      const QRegion changed = image.PaintMoving(Page());
+      QImage shown = image.Paint(Page(), size, scale).copy();
+      PageImage fresh;
+      EXPECT_EQ(shown, fresh.Paint(Page(), size, scale)) << time << " at " << scale;
+      EXPECT_NE(shown, before) << time;
+      for (QImage* picture : {&before, &shown}) {
+        QPainter painter(picture);
+        painter.setClipRegion(changed);
+        painter.fillRect(View().viewport()->rect(), Qt::black);
+      }
+      EXPECT_EQ(shown, before) << "something changed that is not shown";
+      before = fresh.Paint(Page(), size, scale).copy();
+    }
+    EXPECT_EQ(image.Paintings(), paintings);
+  }
 }
 
 TEST_F(PageViewTest, ControlWheelZoomsAtThePointer) {

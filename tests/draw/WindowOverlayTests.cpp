@@ -1,4 +1,7 @@
 // The overlay that remembers what stands still shows what one made afresh shows, whatever happens in the window.
+#include <rapidcheck/gtest.h>
+
+#include "canvas/PagePainter.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/WindowPainter.h"
 #include "draw/Drawing.h"
@@ -93,6 +96,91 @@ TEST_F(WindowOverlayTest, ShowsWhatAFreshOneShows) {
   window->OnLButtonUp({card.left + 70, card.top + 45});
   ++painting;
   Check("dropped");
+}
+
+// Texts move on the page while the user points, selects and drags.
+TEST_F(WindowOverlayTest, WhatMovesIsFilledInAndLooksAsIfAllWere) {
+  const Rect page = window->Placement().PageRect();
+  const std::vector<Rect> places = {{page.left + 40, page.top + 30, page.left + 90, page.top + 60}};
+  std::uint32_t color = 0xFF000100u;
+  auto shown = Shown(kept);
+  const auto tick = [&](const char* step) {
+    color += 0x20u;
+    for (int y = places[0].top; y < places[0].bottom; ++y) {
+      for (int x = places[0].left; x < places[0].right; ++x) paper[static_cast<std::size_t>(y * kWidth + x)] = color;
+    }
+    PixelBuffer buffer = BufferOf(shown);
+    kept.PaintMoved(buffer, BufferOf(paper), painting, *window, port.ClientRect(), kBlack, places);
+    WindowOverlay fresh;
+    EXPECT_TRUE(shown == Shown(fresh)) << step;
+  };
+  tick("a first tick");
+  tick("and another");
+  MoveTo({page.left + 50, page.top + 40});
+  tick("pointer over a card");
+  window->SelectControls({L"card1", L"card4"});
+  tick("two selected");
+  tick("standing still");
+  window->OnTimer();
+  tick("dashes marched");
+  window->OnLButtonDown({page.left + 60, page.top + 40}, {});
+  MoveTo({page.left + 70, page.top + 45});
+  tick("dragging");
+  tick("holding still");
+  window->OnLButtonUp({page.left + 70, page.top + 45});
+  ++painting;
+  shown = Shown(kept);
+  tick("dropped");
+}
+
+// However many cards there are, a tick draws those that meet the one that moves.
+TEST_F(WindowOverlayTest, ATickDrawsTheCardsAroundWhatMoves) {
+  for (int i = 0; i < 6; ++i) static_cast<RVCardLabel&>(page.cards.Edit(page.cards.Size() - 1 - i)).text = L"still";
+  RVCardLabel& moving = static_cast<RVCardLabel&>(page.cards.Edit(2));
+  moving.text = L"moving";
+  moving.animation.behavior = Behavior::Scroll;
+  const CardsInSight sight(page.cards, window->Placement(), port.ClientRect());
+  EXPECT_EQ(sight.Cards().size(), 6u);
+  const std::vector<PagePart> parts = MovingParts(*window, sight);
+  ASSERT_EQ(parts.size(), 1u);
+  EXPECT_EQ(parts[0].rect, ToPixels(window->Placement(), RectOf(moving)));
+  EXPECT_EQ(parts[0].cards, (std::vector<std::size_t>{1, 2, 3})) << "its neighbours lie over and under it";
+  RecordingGraphics graphics;
+  PixelBuffer buffer = BufferOf(paper);
+  PaintWindowPart(graphics, buffer, *window, parts[0]);
+  EXPECT_EQ(graphics.Texts(), (std::vector<std::wstring>{L"still", L"moving", L"still"}));
+}
+
+// Any card, anywhere, of any size: asking for a place gives what a walk over all gives.
+RC_GTEST_PROP(CardsInSight, FindsWhatAWalkFinds,
+              (std::vector<std::array<short, 4>> rects, std::array<short, 4> asked)) {
+  TestHost host;
+  RVReportPage page;
+  page.properties.width = page.properties.height = 1000.0;
+  for (const auto& [x, y, width, height] : rects) {
+    auto card = std::make_unique<RVCardLabel>();
+    card->x = x % 700 / 2.0;
+    card->y = y % 500 / 2.0;
+    card->width = std::abs(width % 90);
+    card->height = std::abs(height % 400);
+    page.cards.PushBack(std::move(card));
+  }
+  const Rect client{0, 0, 900, 700};
+  const PagePlacement place = PlacePage(page.properties, {}, 1.0, client, 0, 0);
+  const CardsInSight sight(page.cards, place, client);
+  const Rect part{asked[0] % 900, asked[1] % 700, asked[0] % 900 + std::abs(asked[2] % 50),
+                  asked[1] % 700 + std::abs(asked[3] % 50)};
+  std::vector<std::size_t> expected;
+  std::optional<std::size_t> top;
+  for (std::size_t i = 0; i < page.cards.Size(); ++i) {
+    const Rect rect = ToPixels(place, RectOf(page.cards[i]));
+    if (!Touches(client, rect)) continue;
+    if (Touches(part, rect)) expected.push_back(i);
+    if (!top && rect.Contains({part.left, part.top})) top = i;
+  }
+  RC_ASSERT(PartAt(sight, part).cards == expected);
+  const auto at = sight.At({part.left, part.top});
+  RC_ASSERT((at ? std::optional(sight.Cards()[*at].index) : std::nullopt) == top);
 }
 
 TEST_F(WindowOverlayTest, FramesReachThePagesFarEdges) {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "canvas/PagePreparation.h"
 #include "desktop/page/PageImage.h"
 #include "platform/Window.h"
 
@@ -88,13 +89,20 @@ class PageView final : public QAbstractScrollArea {
   void ScrollByWheel(QWheelEvent& event);
   bool SelectNeighbour(bool next);
   void ShowMoment();
+  void ShowArrived();
+  void PrepareWhenAtRest();
+  void Prepare();
   void Escape();
 
   RVEditControlWnd* frame_ = nullptr;
   const Actions* actions_ = nullptr;
   PagePort* port_ = nullptr;
-  PageImage image_;
   QTimer animation_;  // runs while something in sight moves
+  QTimer arrivals_;   // runs for a moment when pictures have arrived
+  QTimer rest_;       // runs until the page was left alone for a while
+  int prepared_ = 0;  // the painting after which the rest of the page was laid out last
+  PagePreparation preparation_;
+  PageImage image_;  // before the timers: its thread starts one
   QElapsedTimer clock_;
   bool animated_ = true;
   bool captured_ = false;
