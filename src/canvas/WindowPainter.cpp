@@ -1,5 +1,7 @@
 #include "canvas/WindowPainter.h"
 
+#include <utility>
+
 #include "canvas/PagePainter.h"
 #include "canvas/RVEditTemplateWnd.h"
 
