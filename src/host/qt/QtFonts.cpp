@@ -100,7 +100,7 @@ ShapedText QtFonts::Shaped(const Font& font, std::wstring_view text) {
   ++shapings_;
   const QString whole = QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
   const QFont reference = own ? *own : ReferenceFont(font);
-  if (text.size() > kLongestText) return {.width = QFontMetricsF(reference).horizontalAdvance(whole)};
+  if (text.size() > kLongestText) return {QFontMetricsF(reference).horizontalAdvance(whole), {}, {}, false};
   const ShapedText shaped = ShapeText(reference, whole);
   const std::lock_guard lock(mutex_);
   return FaceOf(font).texts.Keep(text, shaped);
