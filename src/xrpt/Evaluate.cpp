@@ -6,6 +6,7 @@
 
 #include "formulas/CDlgNewFormule.h"
 #include "platform/Json.h"
+#include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
@@ -76,9 +77,14 @@ std::string Pointed(const std::string& expression, const ExpressionReport& repor
   return expression + "\n" + std::string(report.position - 1, ' ') + "^ " + ToUtf8(report.error) + "\n";
 }
 
+// The value of what no formula can be: a condition's 1 or 0.
+std::string Valued(const ExpressionReport& report, const FormulaResult& result) {
+  return report.HasValue() && !result.accepted ? "value: " + FormatExact(report.value) + "\n" : std::string();
+}
+
 std::string AsText(const std::string& expression, const ExpressionReport& report, const FormulaResult& result) {
-  return ToUtf8(result.shown) + "\n" + Pointed(expression, report, result) + Listed("undefined: ", report.undefined) +
-         Listed("variables: ", report.variables);
+  return ToUtf8(result.shown) + "\n" + Valued(report, result) + Pointed(expression, report, result) +
+         Listed("undefined: ", report.undefined) + Listed("variables: ", report.variables);
 }
 
 int Evaluate(const EvaluateOptions& options) {

@@ -7,6 +7,8 @@
 #include <QPlainTextEdit>
 
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/formulas/ExpressionEdit.h"
+#include "desktop/dialogs/formulas/ExpressionField.h"
 #include "desktop/panels/MixedSpinBox.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/TypedNumber.h"
@@ -121,6 +123,29 @@ TEST_P(FieldUndo, TakesBackWhatIsBeingTypedThenWhatTheReportHas) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Fields, FieldUndo, ::testing::Values("x", "font/size", "text/textStr"));
+
+TEST_F(Panel, AnExpressionIsJudgedAsItIsTypedAndTakenBack) {
+  Frame().ShowPage(1);
+  const std::wstring id = CardWith("value", L"[BLR1.STEAM]");
+  Select({id});
+  auto& field = Field<ExpressionField>("value");
+  auto& edit = field.Edit();
+  edit.setFocus();
+  edit.selectAll();
+  QTest::keyClicks(&edit, QStringLiteral("2 * 21"));
+  Settle();
+  field.Judge();
+  EXPECT_EQ(TextOf(id, "value"), L"2 * 21");
+  EXPECT_TRUE(field.Line().startsWith(QStringLiteral("42"))) << field.Line().toStdString();
+  QTest::keyClicks(&edit, QStringLiteral(" +"));
+  field.Judge();
+  EXPECT_FALSE(field.Judgement().accepted);
+  EXPECT_EQ(TextOf(id, "value"), L"2 * 21 +") << "what is wrong is kept, and said";
+  Window().Properties().Commit();
+  QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier);
+  Settle();
+  EXPECT_EQ(TextOf(id, "value"), L"[BLR1.STEAM]") << "the report's history is reached from the field";
+}
 
 TEST_F(Panel, ATypedFontFaceCountsWhenACommandOrTheEndOfTheWindowComes) {
   Select({title_});

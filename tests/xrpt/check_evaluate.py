@@ -44,5 +44,7 @@ expect(["1", *with_report, "--name", ""], textId=32451, accepted=False)
 expect(["1", *with_report, "--name", "A"], textId=32450, accepted=False)
 expect(["1", *with_report, "--name", "A", "--was", "A"], shown="1", accepted=True)
 expect(["B", *with_report, "--name", "A", "--was", "A"], textId=32445, accepted=False)
+condition = subprocess.run([xrpt, "evaluate", "1 < 2"], capture_output=True, text=True)
+assert condition.stdout.endswith("value: 1\n"), condition
 missing = subprocess.run([xrpt, "evaluate", "1", "--report", str(work / "none.xrpt")], capture_output=True, text=True)
 assert missing.returncode == 2 and "none.xrpt" in missing.stderr and not missing.stdout, missing

@@ -25,7 +25,9 @@ QColor PaletteColor(QIcon::Mode mode) {
   return palette.color(QPalette::ButtonText);
 }
 
+// Nothing for no size: a button that has no room asks for that.
 QPixmap RenderDrawing(QByteArray drawing, const QColor& color, const QSize& size) {
+  if (size.isEmpty()) return {};
   drawing.replace("currentColor", color.name().toLatin1());
   QSvgRenderer renderer(drawing);
   QPixmap pixmap(size);
