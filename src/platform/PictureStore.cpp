@@ -57,10 +57,18 @@ PicturePtr ImageRecord::Current() const {
     const std::lock_guard guard(store_.memory_->Lock());
     return read_;
   };
+  // Whatever goes wrong, there is no picture then, and nobody waits for it in vain.
+  const auto readQuietly = [this]() -> PicturePtr {
+    try {
+      return store_.Read(*this);
+    } catch (...) {
+      return nullptr;
+    }
+  };
   while (!isRead()) {
     if (!AllReadings().Begin(*this)) continue;
     const bool isMine = !isRead();  // else another thread was done just now
-    PicturePtr picture = isMine ? store_.Read(*this) : nullptr;
+    PicturePtr picture = isMine ? readQuietly() : nullptr;
     const std::lock_guard guard(store_.memory_->Lock());
     if (!AllReadings().End(*this) || !isMine) continue;
     Keep(std::move(picture));
