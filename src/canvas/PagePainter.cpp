@@ -110,7 +110,10 @@ void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw
   const GraphicsState state(graphics);
   if (how.surround || IsRounded(draw)) ClipToPage(graphics, draw);  // else the device ends with the page
   if (!how.cards) return PaintCards(graphics, page.cards, draw);
-  for (auto at = how.cards->rbegin(); at != how.cards->rend(); ++at) PaintCard(graphics, page.cards[*at], draw);
+  for (auto at = how.cards->rbegin(); at != how.cards->rend(); ++at) {
+    if (*at < page.cards.Size())
+      PaintCard(graphics, page.cards[*at], draw);  // else the page is about to be painted anew
+  }
 }
 
 }  // namespace xrpt
