@@ -4,18 +4,26 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <QTextOption>
+#include <algorithm>
 
 namespace xrpt {
 namespace {
 
 constexpr double kUnbroken = 1e7;
-// What the toolkit takes for the end of a text when it measures one.
-constexpr QChar kVariantsEnd(0x9C);
+
+// True for a text that is as wide as the line it makes: not one with blanks at its ends, which a line lets hang over,
+// one that may run both ways, or one with signs that end or bind a text.
+bool IsAsWideAsItsLine(const QString& text) {
+  const auto isLetter = [](QChar c) {
+    return (c >= u' ' && c <= u'~') || (c > u'\u00A0' && c < u'\u0590' && c != u'\u00AD');
+  };
+  return !text.isEmpty() && text.front() != u' ' && text.back() != u' ' &&
+         std::all_of(text.begin(), text.end(), isLetter);
+}
 
 QTextLine LayOut(QTextLayout& layout) {
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
-  option.setFlags(QTextOption::IncludeTrailingSpaces);
   layout.setTextOption(option);
   layout.beginLayout();
   QTextLine line = layout.createLine();
@@ -29,14 +37,12 @@ QTextLine LayOut(QTextLayout& layout) {
 
 ShapedText ShapeText(const QFont& font, const QString& text) {
   ShapedText shaped;
-  if (text.isEmpty() || text.contains(kVariantsEnd)) {
-    shaped.width = QFontMetricsF(font).horizontalAdvance(text);
-    return shaped;
-  }
   QTextLayout layout(text, font);
   shaped.width = LayOut(layout).horizontalAdvance();
+  if (!IsAsWideAsItsLine(text)) shaped.width = QFontMetricsF(font).horizontalAdvance(text);
   const QList<QGlyphRun> runs = layout.glyphRuns();
-  shaped.isWhole = runs.isEmpty() || (runs.size() == 1 && runs[0].rawFont() == QRawFont::fromFont(font));
+  shaped.isWhole =
+      (runs.isEmpty() && text.isEmpty()) || (runs.size() == 1 && runs[0].rawFont() == QRawFont::fromFont(font));
   if (shaped.isWhole && !runs.isEmpty()) {
     shaped.glyphs = runs[0].glyphIndexes();
     shaped.places = runs[0].positions();
