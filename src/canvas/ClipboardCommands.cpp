@@ -27,7 +27,7 @@ bool RVEditTemplateWnd::ControlCopy() {
     if (index != CardList::kNowhere) cards.push_back(&page_.cards[index]);
   }
   ClipboardContent content;
-  content.text = CardsAsText(cards);
+  if (ClipboardReader::Takes(cards.size(), 0)) content.text = CardsAsText(cards);
   // What could not be pasted again is not copied, and above all not cut.
   if (!ClipboardReader::Takes(cards.size(), content.text.size())) {
     Refuse(text::kTooMuchForClipboard);

@@ -72,8 +72,7 @@ void MainWindow::ShowSwitches() {
 
 void MainWindow::TogglePanel(QDockWidget& dock) {
   sideDocks_->Forget(dock);
-  dock.setVisible(dock.isHidden());
-  if (!dock.isHidden()) dock.raise();
+  dock.isHidden() ? sideDocks_->Open(dock) : dock.hide();
   ShowSwitches();
 }
 

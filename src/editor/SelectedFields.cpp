@@ -139,11 +139,26 @@ std::optional<FieldState> SelectedFields::Find(std::string_view name) const {
 
 void SelectedFields::Assign(const FieldRow& row, std::string_view text) {
   if (IsAboutPage()) return AssignToPage(frame_.CurrentPage(), row, text);
+  Change(row, [text](RVCardControl& card, const CardRow& own) { AssignToCard(card, own, text); });
+}
+
+void SelectedFields::Rewrite(const FieldRow& row, const std::function<std::string(const std::wstring&)>& becomes) {
+  Change(row,
+         [&becomes](RVCardControl& card, const CardRow& own) { AssignToCard(card, own, becomes(own.text(card))); });
+}
+
+bool SelectedFields::All(const FieldRow& row, const std::function<bool(const std::wstring&)>& isSo) const {
+  const auto cards = Cards();
+  const CardRow* own = cards.empty() ? nullptr : RowOfTable(cards.front()->GetRuntimeClass().table, row);
+  return own && std::all_of(cards.begin(), cards.end(), [&](auto* card) { return isSo(own->text(*card)); });
+}
+
+void SelectedFields::Change(const FieldRow& row, const ChangeCard& change) {
   const auto cards = Cards();
   const CardRow* common = cards.empty() ? nullptr : RowOfTable(cards.front()->GetRuntimeClass().table, row);
   if (!common) return;
   ChangeMeant(frame_, whose_, {text::kChangeField, static_cast<int>(cards.size()), row.panel.textId}, JoinKeyOf(row),
-              [&](RVCardControl& card) { AssignToCard(card, *common, text); });
+              [&](RVCardControl& card) { change(card, *common); });
 }
 
 // A row without a name in the file has one on the panel.

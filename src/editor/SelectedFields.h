@@ -40,10 +40,16 @@ class SelectedFields {
   // Writes the text into every card meant, or into the page: a step of the history, which goes on while the same field
   // is assigned to again.
   void Assign(const FieldRow& row, std::string_view text);
+  // The same with what each card's own text becomes: for a field that holds more than the one thing to change.
+  void Rewrite(const FieldRow& row, const std::function<std::string(const std::wstring&)>& becomes);
+  // Whether it is so of every card's text; false for the page.
+  bool All(const FieldRow& row, const std::function<bool(const std::wstring&)>& isSo) const;
   // The next assignment is a step of its own.
   void Commit();
 
  private:
+  using ChangeCard = std::function<void(RVCardControl&, const CardRow&)>;
+  void Change(const FieldRow& row, const ChangeCard& change);
   JoinKey JoinKeyOf(const FieldRow& row) const;
   bool IsAboutPage() const { return whose_ == FieldsOf::Selection && Count() == 0; }
   std::vector<const RVCardControl*> Cards() const { return MeantCards(frame_, whose_); }

@@ -17,10 +17,11 @@ constexpr Color kItemColors[] = {Rgb(0x1F, 0x77, 0xB4), Rgb(0xE6, 0x7E, 0x22), R
                                  Rgb(0xC0, 0x39, 0x2B), Rgb(0x8E, 0x44, 0xAD), Rgb(0x7F, 0x60, 0x00),
                                  Rgb(0xD6, 0x5D, 0xB1), Rgb(0x60, 0x60, 0x60)};
 
+// Null for a card without, and for one whose list cannot be edited by itself: conditions go with their cards.
 const ItemTable* ListOfCard(const RVCardControl& card) {
   const ItemTable* found = nullptr;
   ForEachField(card.GetRuntimeClass().table, [&found](const CardRow& row) {
-    if (row.list) found = &row.list();
+    if (row.list && row.list().rows.front().panel.editor != FieldEditor::None) found = &row.list();
   });
   return found;
 }

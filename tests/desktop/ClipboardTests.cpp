@@ -10,6 +10,16 @@ namespace {
 
 class Clipboard : public WindowTest {};
 
+class AskedClipboard final : public ClipboardService {
+ public:
+  bool PutToClipboard(const ClipboardContent&) override { return true; }
+  std::string GetFromClipboard(std::size_t) override {
+    ++asked;
+    return {};
+  }
+  int asked = 0;
+};
+
 TEST_F(Clipboard, CopiedCardsAreAPictureAndADrawingToOthers) {
   OpenSample();
   const std::wstring id = CardWith("text/textStr", L"Informe mensual de energía");
@@ -35,6 +45,19 @@ TEST_F(Clipboard, CardsArePastedOnAnotherReport) {
   Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Page().Page().cards.Size(), copied);
   EXPECT_TRUE(Frame().IsModified());
+}
+
+// The answer may have to come from another program, which takes its time.
+TEST_F(Clipboard, AClickAsksOnceAtMost) {
+  auto made = std::make_unique<AskedClipboard>();
+  AskedClipboard& clipboard = *made;
+  host->clipboard = std::move(made);
+  OpenSample();
+  const QPoint title = MiddleOf(CardWith("text/textStr", L"Informe mensual de energía"));
+  clipboard.asked = 0;
+  Click(title);
+  EXPECT_FALSE(Page().Selection().IsEmpty());
+  EXPECT_LE(clipboard.asked, 1);
 }
 
 }  // namespace

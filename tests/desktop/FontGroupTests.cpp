@@ -84,6 +84,28 @@ TEST_F(Fonts, EachPressIsAStepThatUndoTakesBack) {
   EXPECT_FALSE(Frame().IsModified());
 }
 
+TEST_F(Fonts, BoldAndItalicOfSeveralCardsLeaveEachOtherAlone) {
+  OpenSample();
+  const std::size_t date = CardOf("date");
+  const std::size_t label = CardOf("label");
+  Select({date});
+  Press("Bold");
+  Select({date, label});
+  ASSERT_EQ(TextOf(label, "font/style"), "NORMAL");
+  EXPECT_FALSE(Button("Bold").isChecked());
+  Press("Italic");
+  EXPECT_EQ(TextOf(date, "font/style"), "ITALICBOLD");
+  EXPECT_EQ(TextOf(label, "font/style"), "ITALIC");
+  EXPECT_TRUE(Button("Italic").isChecked()) << "both are";
+  Press("Italic");
+  EXPECT_EQ(TextOf(date, "font/style"), "BOLD");
+  EXPECT_EQ(TextOf(label, "font/style"), "NORMAL");
+  Press("Bold");
+  EXPECT_EQ(TextOf(label, "font/style"), "BOLD") << "what one of them lacks, all get";
+  Run("Undo");
+  EXPECT_EQ(TextOf(label, "font/style"), "NORMAL");
+}
+
 TEST_F(Fonts, TheColourOfLettersLeavesAGraphsFrameAlone) {
   Open(L"Line_comparison");
   const std::size_t graph = CardOf("reportGraph");

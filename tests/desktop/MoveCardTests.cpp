@@ -123,6 +123,16 @@ TEST_F(MoveCard, EscapePutsAnInsertToolAway) {
   EXPECT_TRUE(Window().AllActions().Find("Pointer")->isChecked());
 }
 
+TEST_F(MoveCard, EscapeAndAClickBesideThePageDeselect) {
+  for (const bool byKey : {true, false}) {
+    Click(MiddleOf(id_));
+    ASSERT_EQ(Page().SelectedCardId(), id_);
+    byKey ? Key(Qt::Key_Escape) : Click({2, 2});
+    EXPECT_TRUE(Page().Selection().IsEmpty()) << (byKey ? "Escape" : "a click");
+  }
+  EXPECT_FALSE(Frame().IsModified());
+}
+
 TEST_F(MoveCard, ADrawnRectangleBecomesACardThatIsSelectedAndShown) {
   const std::size_t before = Page().Page().cards.Size();
   Run("NewLabel");

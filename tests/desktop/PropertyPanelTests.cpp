@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "canvas/UndoTexts.h"
 #include "desktop/WindowTest.h"
 #include "desktop/dialogs/formulas/ExpressionEdit.h"
 #include "desktop/dialogs/formulas/ExpressionField.h"
@@ -295,6 +296,31 @@ TEST_F(Panel, ACardStaysOnThePageWhateverIsTyped) {
   EXPECT_EQ(RectOf(Card(title_)), before);
 }
 
+// Where a bar's number stands is above or below, or left and right, as the bar lies.
+TEST_F(Panel, ChoicesFollowTheFieldTheyHangOn) {
+  Window().Open(L"Power_quality");
+  Settle();
+  std::size_t bar = 0;
+  while (std::string_view(Page().Page().cards[bar].GetRuntimeClass().tag) != "analogBar") ++bar;
+  const std::wstring id = Page().Page().cards[bar].id;
+  Select({id});
+  const auto offered = [this] {
+    std::vector<std::string> words;
+    auto& list = Field<QComboBox>("positionValue");
+    for (int i = 0; i < list.count(); ++i) words.push_back(list.itemData(i).toString().toStdString());
+    return words;
+  };
+  const std::vector<std::string> before = offered();
+  EXPECT_EQ(before.size(), 2u);
+  for (int way = 0; way < 2; ++way) {
+    auto& lies = Field<QComboBox>("orientation");
+    QTest::keyClick(&lies, lies.currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
+    Settle();
+    EXPECT_EQ(offered() == before, way == 1);
+    EXPECT_GE(Field<QComboBox>("positionValue").currentIndex(), 0);
+  }
+}
+
 TEST_F(Panel, LostCardsAreBroughtBackByCommand) {
   EXPECT_FALSE(Window().AllActions().Find("BringBack")->isEnabled());
   const CardRect before = RectOf(Card(title_));
@@ -302,6 +328,7 @@ TEST_F(Panel, LostCardsAreBroughtBackByCommand) {
   Settle();
   EXPECT_TRUE(Window().AllActions().Find("BringBack")->isEnabled());
   Run("BringBack");
+  EXPECT_EQ(UndoText(Frame().History().NextUndoName()), L"Bring card back");
   EXPECT_EQ(RectOf(Card(title_)), CardRect({210.0 - before.width, 0.0, before.width, 0.5}));
   EXPECT_EQ(Page().SelectedCardId(), title_);
   EXPECT_FALSE(Window().AllActions().Find("BringBack")->isEnabled());

@@ -201,6 +201,25 @@ TEST_P(WindowWidths, TheCornerIsThereAtEveryWidth) {
   }
 }
 
+// Those that gave way come when they are asked for, and the window stays as narrow as the user made it.
+TEST_P(WindowWidths, PanelsOpenAtEveryWidth) {
+  const std::pair<const char*, const char*> panels[] = {
+      {"OutlinePanel", "outline"}, {"PropertiesPanel", "properties"}, {"ProblemsPanel", "problems"}};
+  for (const int width : {200, 430, 700, 1280}) {
+    Resize(width);
+    for (const auto& [command, name] : panels) {
+      const auto& dock = *Window().findChild<QDockWidget*>(QLatin1String(name));
+      const bool wasShown = dock.isVisible();
+      if (!wasShown) Run(command);
+      EXPECT_TRUE(dock.isVisible()) << name << " at " << width;
+      EXPECT_EQ(Window().width(), width) << name;
+      EXPECT_GE(dock.width(), std::min(180, width / 2)) << name << " at " << width;
+      EXPECT_TRUE(Window().rect().contains(dock.geometry())) << name << " at " << width;
+      if (!wasShown) Run(command);
+    }
+  }
+}
+
 class SideDocksTest : public WindowTest {
  protected:
   bool IsShown(const char* dock) { return Window().findChild<QDockWidget*>(QLatin1String(dock))->isVisible(); }

@@ -134,6 +134,31 @@ TEST_F(FrameTest, ZoomIsRefusedPastItsEndsAndTheBoxFollows) {
   EXPECT_EQ(frame.ZoomEntry(), RVEditControlWnd::kFitPageEntry);
 }
 
+TEST_F(FrameTest, AFittedPageGoesOnFittingTheSameWay) {
+  RVEditControlWnd frame(port, EditingOptions::Comfort());
+  const auto resize = [&](double width) { frame.CurrentPage().Edit({0, 0}).Properties().width = width; };
+  for (const int entry : {RVEditControlWnd::kFitPageEntry, RVEditControlWnd::kFitWidthEntry}) {
+    const auto fits = [&](const char* after) {
+      EXPECT_EQ(frame.ZoomEntry(), entry) << after;
+      const double zoom = frame.CurrentPage().Zoom();
+      frame.SetZoomEntry(entry);
+      EXPECT_EQ(frame.CurrentPage().Zoom(), zoom) << after << " the page does not fit";
+    };
+    frame.SetZoomEntry(entry);
+    frame.SetOrientation(0);
+    fits("a turn");
+    frame.Undo();
+    fits("undo of it");
+    resize(130.0);
+    fits("another width");
+    frame.Undo();
+    fits("undo of that");
+    frame.Redo();
+    fits("redo");
+    frame.Undo();
+  }
+}
+
 TEST(CommandCatalogue, NamesAndKeysAreTheirOwnAndEveryTextIsWritten) {
   std::set<std::string> names;
   std::set<std::string> keys;

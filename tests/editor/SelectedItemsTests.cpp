@@ -155,5 +155,14 @@ TEST_F(OneCard, ThePagesBackgroundIsAPictureWithFieldsOfItsOwn) {
   EXPECT_TRUE(background.Fields().empty()) << "a card is selected";
 }
 
+TEST_F(OneCard, AContainerHasNoListBesideItsAlternatives) {
+  Put("conditioned", "<control><condition>1</condition><forceValues><id>F</id></forceValues></control>");
+  EXPECT_FALSE(SelectedItems(frame).HasList()) << "a condition without a card would be lost";
+  SelectedItems items(frame, FieldsOf::Alternative);
+  ASSERT_TRUE(items.HasList());
+  IsOneStep([&] { items.Add(); });
+  EXPECT_EQ(items.Size(), 1u);
+}
+
 }  // namespace
 }  // namespace xrpt

@@ -2,6 +2,7 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
+#include <algorithm>
 
 namespace xrpt {
 
@@ -16,9 +17,16 @@ SideDocks::SideDocks(QMainWindow& window, const std::vector<QDockWidget*>& docks
   }
 }
 
+// Docks and page have less than they need, because the user asked for a dock all the same.
+bool SideDocks::IsCrowded() const {
+  int room = window_.width();
+  for (const Side& side : sides_) room -= IsBeside(side) ? side.dock->width() : 0;
+  return room < kPageWidth;
+}
+
 // A dock that changes while the window keeps its width is one that the user draws wider or narrower.
 bool SideDocks::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize && window_.width() == width_) {
+  if (event->type() == QEvent::Resize && window_.width() == width_ && !IsCrowded()) {
     for (Side& side : sides_) {
       if (side.dock == watched) side.width = side.dock->width();
     }
@@ -69,6 +77,15 @@ void SideDocks::ShowWhileTheyFit() {
 
 void SideDocks::Forget(const QDockWidget& dock) {
   for (Side& side : sides_) side.gaveWay = side.gaveWay && side.dock != &dock;
+}
+
+// A window too narrow for both would leave the dock next to nothing.
+void SideDocks::Open(QDockWidget& dock) {
+  const auto side = std::find_if(sides_.begin(), sides_.end(), [&](const Side& one) { return one.dock == &dock; });
+  const int width = side == sides_.end() ? 0 : std::min(side->width, window_.width() * 3 / 4);
+  dock.show();
+  dock.raise();
+  if (width > 0 && IsBeside(*side)) window_.resizeDocks({&dock}, {width}, Qt::Horizontal);
 }
 
 void SideDocks::BringBack() {

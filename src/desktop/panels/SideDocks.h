@@ -19,6 +19,8 @@ class SideDocks final : public QObject {
   void Fit();
   // The user decided about this one.
   void Forget(const QDockWidget& dock);
+  // Shows a dock that the user asks for, as wide as it was, or as the window allows.
+  void Open(QDockWidget& dock);
   // Shows those that gave way, so that the layout is kept as the user had it.
   void BringBack();
 
@@ -33,6 +35,7 @@ class SideDocks final : public QObject {
   };
 
   bool IsBeside(const Side& side) const;
+  bool IsCrowded() const;
   // Pixels the page would have.
   int RoomForPage() const;
   void HideUntilPageFits();

@@ -12,9 +12,37 @@
 #include "desktop/panels/MixedSpinBox.h"
 #include "editor/SelectedFields.h"
 #include "model/FieldTexts.h"
+#include "model/Words.h"
 #include "platform/Numbers.h"
+#include "platform/Text.h"
 
 namespace xrpt {
+
+namespace {
+
+FontStyle StyleOf(const std::wstring& word) {
+  for (const Word& known : kFontStyleWords) {
+    if (FromUtf8(known.text) == word) return static_cast<FontStyle>(known.value);
+  }
+  return FontStyle::Normal;
+}
+
+// Styles are bits of their marks.
+bool HasMark(FontStyle style, FontStyle mark) { return (static_cast<int>(style) & static_cast<int>(mark)) != 0; }
+
+FontStyle WithMark(FontStyle style, FontStyle mark, bool on) {
+  const int rest = static_cast<int>(style) & ~static_cast<int>(mark);
+  return static_cast<FontStyle>(on ? rest | static_cast<int>(mark) : rest);
+}
+
+std::string WordOf(FontStyle style) {
+  for (const Word& known : kFontStyleWords) {
+    if (known.value == static_cast<int>(style)) return known.text;
+  }
+  return {};
+}
+
+}  // namespace
 
 FontGroup::FontGroup(SelectedFields& fields, QWidget* parent) : QWidget(parent), fields_(fields) {
   auto* column = new QVBoxLayout(this);
@@ -28,8 +56,8 @@ FontGroup::FontGroup(SelectedFields& fields, QWidget* parent) : QWidget(parent),
   column->addLayout(lower);
   AddFace(*upper);
   AddSize(*upper);
-  AddStyleButton(*lower, bold_, "bold", text::kBold);
-  AddStyleButton(*lower, italic_, "italic", text::kItalic);
+  AddMarkButton(*lower, FontStyle::Bold, "bold", text::kBold);
+  AddMarkButton(*lower, FontStyle::Italic, "italic", text::kItalic);
   lower->addSpacing(6);
   AddWordButton(*lower, "text-left", text::kTextLeft, "horizontalAlign", "LEFT");
   AddWordButton(*lower, "text-center", text::kTextCenter, "horizontalAlign", "CENTER");
@@ -82,10 +110,11 @@ QToolButton* FontGroup::MakeButton(const char* icon, int textId) {
   return button;
 }
 
-void FontGroup::AddStyleButton(QBoxLayout& row, QToolButton*& button, const char* icon, int textId) {
-  button = MakeButton(icon, textId);
-  connect(button, &QToolButton::clicked, this, [this] { AssignStyle(); });
+void FontGroup::AddMarkButton(QBoxLayout& row, FontStyle mark, const char* icon, int textId) {
+  QToolButton* button = MakeButton(icon, textId);
+  connect(button, &QToolButton::clicked, this, [this, mark](bool on) { AssignMark(mark, on); });
   row.addWidget(button);
+  marks_.push_back({button, mark});
 }
 
 void FontGroup::AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word) {
@@ -113,9 +142,14 @@ const char* FontGroup::TextColorField() const {
   return fields_.Find("font/name") ? "color" : nullptr;
 }
 
-void FontGroup::AssignStyle() {
-  static constexpr const char* kWords[] = {"NORMAL", "BOLD", "ITALIC", "ITALICBOLD"};
-  AssignAtOnce("font/style", kWords[(bold_->isChecked() ? 1 : 0) + (italic_->isChecked() ? 2 : 0)]);
+void FontGroup::AssignMark(FontStyle mark, bool on) {
+  const auto state = fields_.Find("font/style");
+  if (!state) return;
+  fields_.Commit();
+  fields_.Rewrite(*state->row,
+                  [mark, on](const std::wstring& word) { return WordOf(WithMark(StyleOf(word), mark, on)); });
+  fields_.Commit();
+  if (edited) edited();
 }
 
 void FontGroup::Assign(const char* field, const std::string& text) {
@@ -137,6 +171,15 @@ std::optional<std::wstring> FontGroup::TextOf(const char* field, bool& isThere) 
   return state ? state->text : std::nullopt;
 }
 
+void FontGroup::ShowMarks() {
+  const auto state = fields_.Find("font/style");
+  for (const MarkButton& button : marks_) {
+    const auto has = [&](const std::wstring& word) { return HasMark(StyleOf(word), button.mark); };
+    button.button->setEnabled(state.has_value());
+    button.button->setChecked(state && (state->text ? has(*state->text) : fields_.All(*state->row, has)));
+  }
+}
+
 void FontGroup::Refresh() {
   bool isThere = false;
   const QSignalBlocker quiet(face_);
@@ -151,11 +194,7 @@ void FontGroup::Refresh() {
   } else if (size_->IsMixed() || size_->value() != ParseDecimal(*size)) {
     size_->ShowValue(ParseDecimal(*size));
   }
-  const std::wstring style = TextOf("font/style", isThere).value_or(L"");
-  bold_->setEnabled(isThere);
-  italic_->setEnabled(isThere);
-  bold_->setChecked(style == L"BOLD" || style == L"ITALICBOLD");
-  italic_->setChecked(style == L"ITALIC" || style == L"ITALICBOLD");
+  ShowMarks();
   for (const WordButton& word : words_) {
     const auto text = TextOf(word.field, isThere);
     word.button->setEnabled(isThere);

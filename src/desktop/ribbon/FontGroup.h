@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/Fonts.h"
+
 class QBoxLayout;
 class QFontComboBox;
 class QToolButton;
@@ -33,10 +35,15 @@ class FontGroup final : public QWidget {
     const char* field;
     const char* word;
   };
+  // Bold and italic stand in one field, and each button leaves the other's alone.
+  struct MarkButton {
+    QToolButton* button;
+    FontStyle mark;
+  };
 
   void AddFace(QBoxLayout& row);
   void AddSize(QBoxLayout& row);
-  void AddStyleButton(QBoxLayout& row, QToolButton*& button, const char* icon, int textId);
+  void AddMarkButton(QBoxLayout& row, FontStyle mark, const char* icon, int textId);
   void AddWordButton(QBoxLayout& row, const char* icon, int textId, const char* field, const char* word);
   void AddColor(QBoxLayout& row);
   QToolButton* MakeButton(const char* icon, int textId);
@@ -44,7 +51,8 @@ class FontGroup final : public QWidget {
   void Assign(const char* field, const std::string& text);
   // Each press is a step of its own.
   void AssignAtOnce(const char* field, const std::string& text);
-  void AssignStyle();
+  void AssignMark(FontStyle mark, bool on);
+  void ShowMarks();
   // Null where the cards have no colour of letters in common.
   const char* TextColorField() const;
   std::optional<std::wstring> TextOf(const char* field, bool& isThere) const;
@@ -52,9 +60,8 @@ class FontGroup final : public QWidget {
   SelectedFields& fields_;
   QFontComboBox* face_;
   MixedSpinBox* size_;
-  QToolButton* bold_;
-  QToolButton* italic_;
   ColorButton* color_;
+  std::vector<MarkButton> marks_;
   std::vector<WordButton> words_;
 };
 
