@@ -1,4 +1,5 @@
 // The overlay that remembers what stands still shows what one made afresh shows, whatever happens in the window.
+#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include "canvas/PagePainter.h"
