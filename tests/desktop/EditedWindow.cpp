@@ -248,7 +248,8 @@ void EditedWindow::DragHeld(QPoint from, QPoint by, Qt::KeyboardModifiers held) 
 }
 
 void EditedWindow::PressKey(const QKeySequence& keys) {
-  Window().activateWindow();
+  Window().activateWindow();  // the search window may have the keyboard
+  Settle();
   View().setFocus();
   QTest::keyClick(&View(), keys[0].key(), keys[0].keyboardModifiers());
 }

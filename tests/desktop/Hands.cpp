@@ -48,7 +48,12 @@ bool IsOneOf(QWidget& dialog) {
 
 Answers::Answers() { startTimer(kPeriod); }
 
+// Out of the timer, which stands still meanwhile: what an answer opens wants one, too.
 void Answers::timerEvent(QTimerEvent*) {
+  QTimer::singleShot(0, this, [this] { Answer(); });
+}
+
+void Answers::Answer() {
   if (QWidget* popup = QApplication::activePopupWidget()) return AnswerPopup(*popup);
   if (QWidget* dialog = QApplication::activeModalWidget()) AnswerDialog(*dialog);
 }
@@ -78,12 +83,11 @@ void Answers::ChooseName(QDialog& chooser) {
   QTest::keyClick(list, Qt::Key_Return);
 }
 
-// A list gets an entry, which a dialog of its own asks for; it must open out of the timer, or nobody would answer it.
+// A list gets an entry, which a dialog of its own asks for.
 void Answers::AddEntry(QDialog& dialog) {
   if (IsSecondTime(dialog)) return dialog.accept();
   const auto lists = dialog.findChildren<QTreeView*>();
-  QTreeView* list = lists.at(name % lists.size());
-  QTimer::singleShot(0, list, [list] { QTest::keyClick(list, Qt::Key_Insert); });
+  QTest::keyClick(lists.at(name % lists.size()), Qt::Key_Insert);
 }
 
 // One that refuses what was typed is left.

@@ -29,6 +29,7 @@ class Answers final : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
+  void Answer();
   void AnswerPopup(QWidget& popup);
   void AnswerDialog(QWidget& dialog);
   void ChooseName(QDialog& chooser);

@@ -63,12 +63,14 @@ class RandomEdits : public EditedWindow, public ::testing::WithParamInterface<un
     Perform(&release);
   }
   void GoBack() {
+    if (!book_->CanGoBack()) return;
     last_.clear();
-    if (book_->CanGoBack()) Undo();
+    Undo();
   }
   void GoForth() {
+    if (!book_->CanGoForth()) return;
     last_.clear();
-    if (book_->CanGoForth()) Redo();
+    Redo();
   }
   void SaveAndReload() {
     Run("Save");
