@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QImage>
 #include <future>
+#include <mutex>
 
 #include "host/PngEncoder.h"
 #include "host/qt/PictureCache.h"
@@ -217,9 +218,10 @@ TEST_F(StoredPictures, ManyAreDecodedOnceEachAndKeepToTheLimit) {
 TEST_F(StoredPictures, ComeLaterWhereNobodyWaits) {
   Store("late", {300, 200});
   const PicturePtr picture = Of(L"late");
-  PictureCache cache;
   std::promise<void> arrived;
-  cache.LoadApart([&arrived] { arrived.set_value(); });
+  std::once_flag once;
+  PictureCache cache;  // the first to go, for it tells whenever something arrives
+  cache.LoadApart([&] { std::call_once(once, [&] { arrived.set_value(); }); });
   const QRectF here(1, 2, 30, 20);
   const QRectF there(50, 2, 30, 20);
   EXPECT_TRUE(cache.Soon(picture, {30, 20}, here).isNull());
