@@ -1,14 +1,16 @@
-// What loading, saving and cloning a report cost beside the bare XML work, in one run: medians of several repetitions
-// over a page of 10,000 mixed cards and a report of 200 pages with 100,000.
+// What loading and saving a report cost beside the bare work of the XML library on the same file, and the memory that
+// its cards take. Every figure is of a process of its own: the floor reads the same file, and begins with the same
+// nothing.
 #include <malloc.h>
 #include <unistd.h>
 #include <pugixml.hpp>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
+#include <fstream>
+#include <iterator>
 
+#include "Measure.h"
 #include "host/DefaultHost.h"
 #include "model/CardRegistry.h"
 #include "model/RVCardConditioned.h"
@@ -20,44 +22,6 @@
 
 namespace xrpt {
 namespace {
-
-// Processor time, so that a busy machine does not spoil the figures. The memory that earlier work left is given back
-// first, so that each run asks the system for its own, as a program does that opens one report. What `work` returns is
-// freed after the clock has stopped.
-template <class Work>
-double MedianMs(int repetitions, const Work& work) {
-  std::vector<double> times;
-  for (int i = 0; i < repetitions; ++i) {
-    ::malloc_trim(0);
-    const std::clock_t start = std::clock();
-    [[maybe_unused]] const auto result = work();
-    times.push_back(static_cast<double>(std::clock() - start) * 1000.0 / CLOCKS_PER_SEC);
-  }
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
-
-// Ours, what our XML layer takes alone, and what the XML library takes with its own defaults.
-template <class Ours, class Layer, class Library>
-void Compare(const char* what, int repetitions, const Ours& ours, const Layer& layer, const Library& library) {
-  const double our = MedianMs(repetitions, ours);
-  const double bare = MedianMs(repetitions, layer);
-  const double plain = MedianMs(repetitions, library);
-  std::printf("  %-6s %8.2f ms | XML layer alone %8.2f ms, ratio %5.2f | XML library alone %8.2f ms, ratio %5.2f\n",
-              what, our, bare, our / bare, plain, our / plain);
-}
-
-std::unique_ptr<RVReport> LoadReport(const Path& file) {
-  auto report = std::make_unique<RVReport>();
-  report->LoadFile(file);
-  return report;
-}
-
-std::unique_ptr<XmlDocument> LoadBare(const Path& file) {
-  auto document = std::make_unique<XmlDocument>();
-  document->Load(file);
-  return document;
-}
 
 void AddSeries(RVCardReportGraph& graph) {
   for (int i = 0; i < 3; ++i) {
@@ -95,21 +59,41 @@ void Fill(RVCardControl& card, int n) {
 }
 
 // Texts are what reports are mostly made of; every kind is there.
-void FillPage(RVReportPage& page, int cards) {
-  static const char* const kinds[] = {"label", "label",       "formule",   "date",      "label",
-                                      "label", "staticImage", "analogBar", "primitive", "formule",
-                                      "label", "conditioned", "label",     "formule",   "reportGraph"};
+constexpr const char* kMixed[] = {"label", "label",       "formule",   "date",      "label",
+                                  "label", "staticImage", "analogBar", "primitive", "formule",
+                                  "label", "conditioned", "label",     "formule",   "reportGraph"};
+constexpr const char* kLabels[] = {"label"};
+
+void FillPage(RVReportPage& page, std::span<const char* const> kinds, int cards) {
   for (int n = 0; n < cards; ++n) {
-    RVCardControl& card = page.cards.PushBack(NewPageCard(kinds[static_cast<std::size_t>(n) % std::size(kinds)]));
+    RVCardControl& card = page.cards.PushBack(NewPageCard(kinds[static_cast<std::size_t>(n) % kinds.size()]));
     card.SetParent(&page);
     Fill(card, n);
   }
 }
 
-std::unique_ptr<pugi::xml_document> LoadPlain(const Path& file) {
-  auto document = std::make_unique<pugi::xml_document>();
-  document->load_file(file.c_str());
-  return document;
+// --- What is measured, each in milliseconds or bytes ---
+
+std::string ReadBare(const Path& file) {
+  std::string bytes(std::filesystem::file_size(file), '\0');
+  std::ifstream in(file, std::ios::binary);
+  in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  return bytes;
+}
+
+double ParseInPlace(const Path& file) {
+  const bench::Stopwatch watch;
+  std::string bytes = ReadBare(file);
+  pugi::xml_document document;
+  document.load_buffer_inplace(bytes.data(), bytes.size());
+  return watch.Milliseconds();
+}
+
+double LoadOurs(const Path& file) {
+  const bench::Stopwatch watch;
+  RVReport report;
+  report.LoadFile(file);
+  return watch.Milliseconds();
 }
 
 struct StringWriter final : pugi::xml_writer {
@@ -117,46 +101,93 @@ struct StringWriter final : pugi::xml_writer {
   std::string text;
 };
 
-std::string TextOf(const pugi::xml_document& document) {
+double SaveBare(const Path& file) {
+  pugi::xml_document document;
+  document.load_file(file.c_str());
+  const bench::Stopwatch watch;
   StringWriter out;
   document.save(out, "  ");
-  return std::move(out.text);
+  return watch.Milliseconds();
 }
 
-using Cards = std::vector<std::unique_ptr<RVCardControl>>;
+double SaveOurs(const Path& file) {
+  RVReport report;
+  report.LoadFile(file);
+  const bench::Stopwatch watch;
+  const std::string text = report.TemplateText();
+  return watch.Milliseconds();
+}
 
-Cards CloneOf(const RVReport& report) {
-  Cards clones;
+double CloneAll(const Path& file) {
+  RVReport report;
+  report.LoadFile(file);
+  const bench::Stopwatch watch;
+  std::vector<std::unique_ptr<RVCardControl>> clones;
   for (const auto& page : report.pages) {
     for (std::size_t i = 0; i < page->cards.Size(); ++i) clones.push_back(page->cards[i].GetClone());
   }
-  return clones;
+  return watch.Milliseconds();
 }
 
-void Measure(const Path& file, int pages, int cardsPerPage, int repetitions) {
+// What the report takes once it is open and all that loading needed is given back.
+double BytesAtRest(const Path& file) {
+  ::malloc_trim(0);
+  const double before = bench::ResidentBytes();
   RVReport report;
-  for (int i = 1; i < pages; ++i) report.AddPage();
-  for (const auto& page : report.pages) FillPage(*page, cardsPerPage);
-  report.SaveTo(file);
-  XmlDocument document;
-  document.Load(file);
-  std::printf("%d cards on %d pages, %.1f MB\n", pages * cardsPerPage, pages,
-              static_cast<double>(report.TemplateText().size()) / 1e6);
-
-  RVReport loaded;
-  Compare(
-      "load", repetitions, [&] { return LoadReport(file); }, [&] { return LoadBare(file); },
-      [&] { return LoadPlain(file); });
-  const std::unique_ptr<pugi::xml_document> plain = LoadPlain(file);
-  Compare(
-      "save", repetitions, [&] { return report.TemplateText(); }, [&] { return document.Text(); },
-      [&] { return TextOf(*plain); });
-  std::printf("  %-6s %8.2f ms\n", "clone", MedianMs(repetitions, [&] { return CloneOf(report); }));
+  report.LoadFile(file);
+  ::malloc_trim(0);
+  return bench::ResidentBytes() - before;
 }
 
-int Run(int repetitions) {
+double Resave(const Path& file) {
+  RVReport report;
+  report.LoadFile(file);
+  report.WriteTo(file.string() + ".copy");
+  return 0.0;
+}
+
+void Measure(const char* what, const Path& file, int cards, int repetitions) {
+  const double megabytes = static_cast<double>(std::filesystem::file_size(file)) / 1048576.0;
+  std::printf("%d %s, %.1f MB\n", cards, what, megabytes);
+  std::fflush(stdout);
+  std::vector<bench::Row> rows = {
+      {"nothing", [] { return 0.0; }},
+      {"parse in place", [&] { return ParseInPlace(file); }},
+      {"load", [&] { return LoadOurs(file); }},
+      {"save bare", [&] { return SaveBare(file); }},
+      {"save", [&] { return SaveOurs(file); }},
+      {"clone all", [&] { return CloneAll(file); }},
+      {"at rest", [&] { return BytesAtRest(file); }},
+      {"resave", [&] { return Resave(file); }},
+  };
+  bench::RunInTurns(rows, repetitions);
+  const auto own = [&](std::size_t row) { return rows[row].Best(&bench::Figures::own); };
+  const auto peak = [&](std::size_t row) {
+    return rows[row].Best(&bench::Figures::megabytes) - rows[0].Best(&bench::Figures::megabytes);
+  };
+  std::printf("  load            %8.1f ms | the library's parse in place, reading included %8.1f ms, ratio %5.2f\n",
+              own(2), own(1), own(2) / own(1));
+  std::printf("  save            %8.1f ms | the library's writing of its tree              %8.1f ms, ratio %5.2f\n",
+              own(4), own(3), own(4) / own(3));
+  std::printf("  clone all       %8.1f ms\n", own(5));
+  std::printf("  at rest         %8.0f bytes a card\n", own(6) / cards);
+  std::printf("  peak of a load  %8.1f MB, of a resave %8.1f MB, ratio to the file %5.2f\n", peak(2), peak(7),
+              peak(7) / megabytes);
+}
+
+// Made in a process of its own: what is measured later begins small.
+void Write(const Path& file, std::span<const char* const> kinds, int pages, int cardsPerPage) {
+  bench::Measure([&] {
+    RVReport report;
+    for (int i = 1; i < pages; ++i) report.AddPage();
+    for (const auto& page : report.pages) FillPage(*page, kinds, cardsPerPage);
+    return report.SaveTo(file) ? 0.0 : 1.0;
+  });
+}
+
+int Run(int repetitions, const char* keepIn) {
   std::string pattern = (std::filesystem::temp_directory_path() / "xrpt-bench-XXXXXX").string();
-  const Path folder = ::mkdtemp(pattern.data());
+  const Path folder = keepIn ? Path(keepIn) : Path(::mkdtemp(pattern.data()));
   HostOptions options;
   options.cfgFolder = options.imagesFolder = options.stateFolder = folder;
   options.settingsFile = folder / "settings.ini";
@@ -165,15 +196,19 @@ int Run(int repetitions) {
   InstallHost(host.get());
   host->files->Write(folder / "S1.Data.XSTY",
                      "<style><id>S1</id><name>Data</name><font><name>Arial</name><size>9.00</size></font></style>");
-  Measure(folder / "page.xrpt", 1, 10000, repetitions);
-  Measure(folder / "report.xrpt", 200, 500, repetitions / 3 + 1);
+  Write(folder / "page.xrpt", kMixed, 1, 10000);
+  Write(folder / "mixed.xrpt", kMixed, 200, 500);
+  Write(folder / "labels.xrpt", kLabels, 1, 100000);
+  Measure("mixed cards on one page", folder / "page.xrpt", 10000, repetitions);
+  Measure("mixed cards on 200 pages", folder / "mixed.xrpt", 100000, repetitions);
+  Measure("labels on one page", folder / "labels.xrpt", 100000, repetitions);
   std::error_code ignored;
-  std::filesystem::remove_all(folder, ignored);
+  if (!keepIn) std::filesystem::remove_all(folder, ignored);
   return 0;
 }
 
 }  // namespace
 }  // namespace xrpt
 
-// Takes the number of repetitions.
-int main(int argc, char** argv) { return xrpt::Run(argc > 1 ? std::atoi(argv[1]) : 15); }
+// Takes the number of repetitions, and a folder that the measured files are left in.
+int main(int argc, char** argv) { return xrpt::Run(argc > 1 ? std::atoi(argv[1]) : 7, argc > 2 ? argv[2] : nullptr); }

@@ -1,16 +1,13 @@
 // What checking a folder of reports costs beside reading and parsing the same files and doing nothing with them: on one
 // thread and on two, with the host's checks and with all, and the most memory each takes.
-#include <malloc.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <pugixml.hpp>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 
+#include "Measure.h"
 #include "formulas/checks/FolderCheck.h"
 #include "host/DefaultHost.h"
 #include "model/RVReport.h"
@@ -131,18 +128,20 @@ void WriteReports(const Path& folder, int count) {
   std::ofstream(folder / "logo.img") << "";
 }
 
-void ParseWithOurLayer(const std::vector<Path>& files) {
-  for (const Path& file : files) {
-    XmlDocument document;
-    document.Load(file);
-  }
-}
-
-void ParseWithTheLibrary(const std::vector<Path>& files) {
+double ParseWithTheLibrary(const std::vector<Path>& files) {
   for (const Path& file : files) {
     pugi::xml_document document;
     document.load_file(file.c_str());
   }
+  return 0.0;
+}
+
+double ParseWithOurLayer(const std::vector<Path>& files) {
+  for (const Path& file : files) {
+    XmlDocument document;
+    document.Load(file);
+  }
+  return 0.0;
 }
 
 std::size_t CheckAll(const Path& folder, int jobs, const CheckChoice& choice) {
@@ -155,57 +154,15 @@ std::size_t CheckAll(const Path& folder, int jobs, const CheckChoice& choice) {
   return findings;
 }
 
-struct Figures {
-  double wall = 0.0;  // seconds
-  double processor = 0.0;
-  long kilobytes = 0;  // at most
-};
-
-double SecondsOf(const timeval& time) {
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-}
-
-// In a process of its own, so that its memory is its own.
-template <class Work>
-Figures Measure(const Work& work) {
-  const auto start = std::chrono::steady_clock::now();
-  const pid_t child = ::fork();
-  if (child == 0) {
-    work();
-    std::fflush(stdout);
-    ::_exit(0);
-  }
-  int status = 0;
-  struct rusage usage {};
-  ::wait4(child, &status, 0, &usage);
-  const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  return {wall, SecondsOf(usage.ru_utime) + SecondsOf(usage.ru_stime), usage.ru_maxrss};
-}
-
-struct Row {
-  const char* name;
-  std::function<void()> work;
-  std::vector<Figures> runs = {};
-
-  template <class Part>
-  double Best(Part Figures::*part) const {
-    double best = static_cast<double>(runs.front().*part);
-    for (const Figures& run : runs) best = std::min(best, static_cast<double>(run.*part));
-    return best;
-  }
-};
-
-// The rows take turns, so that a busy moment of the machine hits all alike.
-void Compare(std::vector<Row>& rows, int repetitions) {
-  for (int i = 0; i < repetitions; ++i) {
-    for (Row& row : rows) row.runs.push_back(Measure(row.work));
-  }
-  const Row& bare = rows.front();
-  for (const Row& row : rows) {
-    std::printf("  %-34s wall %6.2f s, ratio %5.2f | processor %6.2f s, ratio %5.2f | %6.1f MB\n", row.name,
-                row.Best(&Figures::wall), row.Best(&Figures::wall) / bare.Best(&Figures::wall),
-                row.Best(&Figures::processor), row.Best(&Figures::processor) / bare.Best(&Figures::processor),
-                row.Best(&Figures::kilobytes) / 1024.0);
+void Compare(std::vector<bench::Row>& rows, int repetitions) {
+  bench::RunInTurns(rows, repetitions);
+  const bench::Row& bare = rows.front();
+  for (const bench::Row& row : rows) {
+    const double wall = row.Best(&bench::Figures::wall);
+    const double processor = row.Best(&bench::Figures::processor);
+    std::printf("  %-40s wall %6.2f s, ratio %5.2f | processor %6.2f s, ratio %5.2f | %6.1f MB\n", row.name.c_str(),
+                wall, wall / bare.Best(&bench::Figures::wall), processor,
+                processor / bare.Best(&bench::Figures::processor), row.Best(&bench::Figures::megabytes));
   }
 }
 
@@ -216,12 +173,15 @@ void MeasureFolder(const Path& folder, int count, int repetitions) {
               files.size(), kCards, static_cast<double>(fs::file_size(files.front())) / 1000.0,
               allDifferent ? "all different" : "often alike", CheckAll(folder, 1, CheckChoice::AllHost()));
   std::fflush(stdout);  // before the first child takes a copy along
-  std::vector<Row> rows = {
-      {"read and parse, our XML layer", [&] { ParseWithOurLayer(files); }},
-      {"read and parse, XML library alone", [&] { ParseWithTheLibrary(files); }},
-      {"host's checks, one thread", [&] { CheckAll(folder, 1, CheckChoice::AllHost()); }},
-      {"host's checks, two threads", [&] { CheckAll(folder, 2, CheckChoice::AllHost()); }},
-      {"all checks, one thread", [&] { CheckAll(folder, 1, CheckChoice::All()); }},
+  const auto check = [&folder](int jobs, const CheckChoice& choice) {
+    return [&folder, jobs, choice] { return static_cast<double>(CheckAll(folder, jobs, choice)); };
+  };
+  std::vector<bench::Row> rows = {
+      {"read and parse bare, the XML library", [&] { return ParseWithTheLibrary(files); }},
+      {"read and parse, our XML layer", [&] { return ParseWithOurLayer(files); }},
+      {"host's checks, one thread", check(1, CheckChoice::AllHost())},
+      {"host's checks, two threads", check(2, CheckChoice::AllHost())},
+      {"all checks, one thread", check(1, CheckChoice::All())},
   };
   Compare(rows, repetitions);
 }

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "Timing.h"
+#include "Measure.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "desktop/MainWindow.h"
@@ -21,6 +21,10 @@
 namespace {
 
 using namespace xrpt;
+using bench::BestOf;
+using bench::MedianOf;
+using bench::ProcessorMilliseconds;
+using bench::ReportAtMost;
 
 constexpr int kCards = 10'000;
 constexpr int kColumns = 100;
@@ -69,7 +73,7 @@ double EventToPixels(QWidget& window, QWidget& painted, QPoint from, int moves) 
   for (int i = 0; i < moves; ++i) {
     const QPoint at = painted.mapTo(&window, from + QPoint(1 + i % 7, 1 + i % 3));
     const int before = watch->paints;
-    const double time = MillisecondsOf([&] {
+    const double time = BestOf(1, [&] {
       QTest::mouseMove(window.windowHandle(), at);
       for (int turn = 0; watch->paints == before && turn < 10; ++turn) QCoreApplication::processEvents();
     });

@@ -157,4 +157,50 @@ void SameSize(Rects& rects, const std::vector<bool>& resizable, bool width, bool
   }
 }
 
+namespace {
+
+std::vector<std::size_t> Unchanged(std::size_t count) {
+  std::vector<std::size_t> order(count);
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  return order;
+}
+
+std::vector<bool> Marked(std::size_t count, const std::vector<std::size_t>& chosen) {
+  std::vector<bool> marked(count, false);
+  for (const std::size_t index : chosen) {
+    if (index < count) marked[index] = true;
+  }
+  return marked;
+}
+
+}  // namespace
+
+std::vector<std::size_t> OrderAfterRaising(std::size_t count, const std::vector<std::size_t>& chosen) {
+  std::vector<std::size_t> order = Unchanged(count);
+  const std::vector<bool> marked = Marked(count, chosen);
+  for (std::size_t i = 1; i < count; ++i) {
+    if (marked[order[i]] && !marked[order[i - 1]]) std::swap(order[i], order[i - 1]);
+  }
+  return order;
+}
+
+std::vector<std::size_t> OrderAfterLowering(std::size_t count, const std::vector<std::size_t>& chosen) {
+  std::vector<std::size_t> order = Unchanged(count);
+  const std::vector<bool> marked = Marked(count, chosen);
+  for (std::size_t i = count; i-- > 1;) {
+    if (marked[order[i - 1]] && !marked[order[i]]) std::swap(order[i], order[i - 1]);
+  }
+  return order;
+}
+
+std::vector<std::size_t> OrderAfterMoving(std::size_t count, const std::vector<std::size_t>& chosen,
+                                          std::size_t before) {
+  const std::vector<bool> marked = Marked(count, chosen);
+  std::vector<std::size_t> order, moved, rest;
+  for (std::size_t i = 0; i < count; ++i) (marked[i] ? moved : i < before ? order : rest).push_back(i);
+  order.insert(order.end(), moved.begin(), moved.end());
+  order.insert(order.end(), rest.begin(), rest.end());
+  return order;
+}
+
 }  // namespace xrpt

@@ -37,6 +37,13 @@ void Distribute(Rects& rects, bool vertical, const ArrangePage& page);
 // Each by itself, or all as one block. Nothing keeps them on the page.
 void CenterEach(Rects& rects, bool vertical, const ArrangePage& page);
 void CenterAsGroup(Rects& rects, bool vertical, const ArrangePage& page);
+// The order of `count` stacked cards, the top first, after the chosen ones went up or down by one: where each of the
+// new places stood before. Chosen neighbours move as one, and those at the end already stay.
+std::vector<std::size_t> OrderAfterRaising(std::size_t count, const std::vector<std::size_t>& chosen);
+std::vector<std::size_t> OrderAfterLowering(std::size_t count, const std::vector<std::size_t>& chosen);
+// Or were put over the one at a place; the count puts them lowest.
+std::vector<std::size_t> OrderAfterMoving(std::size_t count, const std::vector<std::size_t>& chosen,
+                                          std::size_t before);
 // The reference's width and height; `resizable` says for each whether it may be resized. Only the far edges are kept on
 // the page, and a card is never pushed back to 0: unlike the alignments, on purpose.
 void SameSize(Rects& rects, const std::vector<bool>& resizable, bool width, bool height, const ArrangePage& page);

@@ -16,7 +16,8 @@ void RVEditTemplateWnd::Arrange(const Rule& rule, int undoTextId) {
   rule(rects, indexes);
   PageEdit edit = Edit({undoTextId, static_cast<int>(selection_.Size())});
   for (std::size_t i = 0; i < indexes.size(); ++i) {
-    if (rects[i] != RectOf(page_.cards[indexes[i]])) SetRect(edit.Card(indexes[i]), rects[i]);
+    const RVCardControl& card = page_.cards[indexes[i]];
+    if (rects[i] != RectOf(card) && !NoteOf(card).locked) SetRect(edit.Card(indexes[i]), rects[i]);
   }
   if (edit.EndQuietly()) PostChange(false);
 }
@@ -82,6 +83,27 @@ void RVEditTemplateWnd::Stack(bool front, int undoTextId) {
   PageEdit edit = Edit(name);
   front ? edit.Cards().MoveToFront(indexes) : edit.Cards().MoveToBack(indexes);
   if (!edit.EndQuietly() && !options_.keepsStoredDigits) AddUndoInfo(true, name);
+  PostChange(false);
+}
+
+void RVEditTemplateWnd::ControlBringForward() { Restack(OrderAfterRaising, text::kForward); }
+
+void RVEditTemplateWnd::ControlSendBackward() { Restack(OrderAfterLowering, text::kBackward); }
+
+void RVEditTemplateWnd::StackBefore(const std::vector<std::size_t>& indexes, std::size_t before) {
+  DropGesture();
+  PageEdit edit = Edit({text::kRestack, static_cast<int>(indexes.size())});
+  edit.Cards().Reorder(OrderAfterMoving(page_.cards.Size(), indexes, before));
+  edit.EndQuietly();
+  PostChange(false);
+}
+
+void RVEditTemplateWnd::Restack(OrderRule rule, int undoTextId) {
+  if (selection_.IsEmpty()) return;
+  DropGesture();
+  PageEdit edit = Edit({undoTextId, static_cast<int>(selection_.Size())});
+  edit.Cards().Reorder(rule(page_.cards.Size(), SelectedIndexes()));
+  edit.EndQuietly();
   PostChange(false);
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/CardRegistry.h"
 #include "platform/Host.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -28,6 +29,16 @@ const XmlDocument* ClipboardReader::Document() const {
     if (!document_->Parse(text_) || document_->Root().Tag() != kRoot) document_.reset();
   }
   return document_.get();
+}
+
+// As of the last look for cards: asking the clipboard may take its time.
+std::wstring ClipboardReader::PlainText() const {
+  if (document_ || text_.size() > kLongestText) return {};
+  std::wstring words = FromUtf8(text_);
+  std::erase(words, L'\r');
+  const auto first = words.find_first_not_of(L" \t\n");
+  if (first == std::wstring::npos) return {};
+  return words.substr(first, words.find_last_not_of(L" \t\n") + 1 - first);
 }
 
 bool ClipboardReader::Read(RVReportPage& page, std::vector<std::unique_ptr<RVCardControl>>& cards) const {

@@ -24,6 +24,9 @@ class ClipboardReader {
   static bool Takes(std::size_t cards, std::size_t bytes) { return cards <= kMostCards && bytes <= kLimit; }
 
   bool HoldsCards() const { return Document() != nullptr; }
+  // What it holds when that is no cards: a text no longer than anybody pastes into a report, without blanks around it.
+  static constexpr std::size_t kLongestText = 20'000;  // bytes
+  std::wstring PlainText() const;
   // New cards for a page, with fresh ids throughout, in document order; unknown elements are skipped. False when the
   // clipboard holds no cards document, or one of more cards than anybody copies.
   bool Read(RVReportPage& page, std::vector<std::unique_ptr<RVCardControl>>& cards) const;

@@ -27,13 +27,15 @@ struct CardsInSight::Cells {
   }
 };
 
-CardsInSight::CardsInSight(const CardList& cards, const PagePlacement& place, const Rect& client) : client_(client) {
+CardsInSight::CardsInSight(const CardList& cards, const PagePlacement& place, const Rect& client,
+                           const std::function<bool(const RVCardControl&)>& shows)
+    : client_(client) {
   if (!place.IsValid()) return;
   columns_ = std::clamp(client.Width() / kCell + 1, 1, kMostCells);
   rows_ = std::clamp(client.Height() / kCell + 1, 1, kMostCells);
   for (std::size_t i = 0; i < cards.Size(); ++i) {
     const Rect rect = ToPixels(place, RectOf(cards[i]));
-    if (Touches(client, rect)) cards_.push_back({i, rect});
+    if (Touches(client, rect) && (!shows || shows(cards[i]))) cards_.push_back({i, rect});
   }
   Sort();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,7 +21,9 @@ class CardsInSight {
   using Places = std::vector<std::uint32_t>;  // of cards in `Cards()`, rising: the top card first
 
   CardsInSight() = default;
-  CardsInSight(const CardList& cards, const PagePlacement& place, const Rect& client);
+  // All cards, or those that are shown.
+  CardsInSight(const CardList& cards, const PagePlacement& place, const Rect& client,
+               const std::function<bool(const RVCardControl&)>& shows = {});
 
   // Top card first; those that only touch the window's edge are seen too.
   const std::vector<Card>& Cards() const { return cards_; }

@@ -42,15 +42,36 @@ void RVEditTemplateWnd::ControlCut() {
   if (ControlCopy()) DeleteSelectedControls();
 }
 
-bool RVEditTemplateWnd::IsActionPasteEnabled() const { return clipboardReader_.HoldsCards(); }
+bool RVEditTemplateWnd::IsActionPasteEnabled() const {
+  return clipboardReader_.HoldsCards() || (options_.pastesText && !clipboardReader_.PlainText().empty());
+}
 
+// The clipboard then holds the shifted cards, so that pasting again lands one step further.
 void RVEditTemplateWnd::ControlPaste() {
-  std::vector<std::unique_ptr<RVCardControl>> cards;
-  if (!clipboardReader_.Read(editedPage_, cards)) return;
   const PagePlacement place = Placement();
   const GridSteps grid = GridOf(page_.properties);
   const double dx = place.IsValid() ? PasteShift(grid.x, place.pixelsPerMm.x, place.PixelWidth()) : 0.0;
   const double dy = place.IsValid() ? PasteShift(grid.y, place.pixelsPerMm.y, place.PixelHeight()) : 0.0;
+  PasteShifted(dx, dy) ? static_cast<void>(ControlCopy()) : PasteText();
+}
+
+void RVEditTemplateWnd::ControlPasteInPlace() {
+  if (!PasteShifted(0.0, 0.0)) PasteText();
+}
+
+// Where the pointer is, or in the middle of what is seen.
+void RVEditTemplateWnd::PasteText() {
+  const std::wstring words = options_.pastesText ? clipboardReader_.PlainText() : std::wstring();
+  if (words.empty()) return;
+  const Rect client = port_.ClientRect();
+  const Point middle{(client.left + client.right) / 2, (client.top + client.bottom) / 2};
+  InsertText(words, client.Contains(gesture_.lastPoint) ? gesture_.lastPoint : middle);
+}
+
+// False when the clipboard holds no cards.
+bool RVEditTemplateWnd::PasteShifted(double dx, double dy) {
+  std::vector<std::unique_ptr<RVCardControl>> cards;
+  if (!clipboardReader_.Read(editedPage_, cards)) return false;
   DropGesture();
   PauseTimer();
   ClearSelection();
@@ -63,16 +84,15 @@ void RVEditTemplateWnd::ControlPaste() {
   }
   edit.EndQuietly();
   if (!cards.empty()) PostChange(false);
-  // The clipboard now holds the shifted cards, so that pasting again lands one step further.
-  ControlCopy();
   StartTimer();
+  return true;
 }
 
 void RVEditTemplateWnd::DeleteSelectedControls() {
   if (selection_.IsEmpty()) return;
   DropGesture();
   const int count = static_cast<int>(selection_.Size());
-  std::vector<std::size_t> indexes = SelectedIndexes();
+  std::vector<std::size_t> indexes = ChangeableIndexes();
   // Cards that no id tells apart are left alone.
   std::erase_if(indexes, [&](std::size_t i) { return i == CardList::kNowhere || page_.cards[i].id.empty(); });
   for (const std::size_t index : indexes) {
@@ -91,7 +111,9 @@ void RVEditTemplateWnd::ControlSelectAll() {
   DropGesture();
   PauseTimer();
   ClearSelection();
-  for (std::size_t i = 0; i < page_.cards.Size(); ++i) selection_.AddSelection(page_.cards[i]);
+  for (std::size_t i = 0; i < page_.cards.Size(); ++i) {
+    if (IsReachable(page_.cards[i])) selection_.AddSelection(page_.cards[i]);
+  }
   StartTimer();
   AddUndoInfo(false, {text::kSelect, 0});
   port_.Invalidate();

@@ -1,5 +1,7 @@
 #include "canvas/DragRules.h"
 
+#include <algorithm>
+
 #include <cmath>
 
 namespace xrpt {
@@ -81,6 +83,13 @@ int SnapPixel(const DragAxis& axis, int pixel) {
 int ArrowStep(const DragAxis& axis, bool control) {
   if (axis.HasGrid()) return std::max(1, trunci(std::min<double>(GridPixels(axis), kFarPixel)));
   return control ? kControlArrowPixels : kArrowPixels;
+}
+
+int ScrollStep(int pointer, int near, int far) {
+  constexpr int kMost = 40;
+  if (pointer < near) return std::max(-kMost, (pointer - near) / 2 - 4);
+  if (pointer >= far) return std::min(kMost, (pointer - far) / 2 + 4);
+  return 0;
 }
 
 }  // namespace xrpt

@@ -31,6 +31,10 @@ int ResizeDelta(const DragAxis& axis, int edge, int delta);
 // The grid line nearest to a pixel, not before the page's edge; the pixel itself without a grid.
 int SnapPixel(const DragAxis& axis, int pixel);
 
+// How far a page is scrolled at a time while the pointer drags beyond one end of the client area: the faster the
+// further it is out.
+int ScrollStep(int pointer, int near, int far);
+
 // How far one press of an arrow key asks to go, in pixels; a grid finer than a pixel still lets it go one.
 int ArrowStep(const DragAxis& axis, bool control);
 

@@ -29,6 +29,20 @@ struct EditingOptions {
   // A report goes back to the file it was opened from, and nothing is lost or written over unasked: unsaved changes,
   // what others wrote, reports that somebody else has open. What is not saved survives a crash.
   bool guardsFiles = false;
+  // The text of a label is edited where it stands.
+  bool editsInPlace = false;
+  // An insert tool makes a card wherever it is used, over other cards too, and a click makes one of good size.
+  bool placesByClick = false;
+  // Alt held at the press copies what is dragged, and reaches what lies beneath with a click; with arrow keys it moves
+  // finer than any grid.
+  bool altCopies = false;
+  // Selected cards have handles to be seen and grabbed, and stand out whatever their colours.
+  bool showsHandles = false;
+  // Plain text on the clipboard is pasted as a label.
+  bool pastesText = false;
+  // Cards without content say what is missing, cut texts carry a mark, and new shapes begin with a thin outline and
+  // hide nothing.
+  bool hintsAtCards = false;
 
   // What the desktop, and scripts that ask for it, turn on.
   static constexpr EditingOptions Comfort() {
@@ -36,6 +50,8 @@ struct EditingOptions {
     options.countsGrid = options.keepsStoredDigits = options.returnsToPointer = true;
     options.rightClickSelects = options.bandsBesidePage = options.keepsFit = options.reportHistory = true;
     options.guardsFiles = true;
+    options.editsInPlace = options.placesByClick = options.altCopies = true;
+    options.showsHandles = options.hintsAtCards = options.pastesText = true;
     return options;
   }
 };

@@ -62,6 +62,7 @@ void Gesture::StartDrag(int state, int style, CardKey pressed, Point at, std::ve
 void Gesture::End() {
   state_ = kIdle;
   style_ = kNoEdge;
+  copies_ = false;
   parts_.clear();
   band_.reset();
   lines_.clear();
@@ -69,8 +70,19 @@ void Gesture::End() {
   guideSource_.reset();
 }
 
+void Gesture::Shift(Point by) {
+  for (Point* point : {&press_, &anchor_, &bandStart_, &lastPoint}) *point = {point->x + by.x, point->y + by.y};
+  for (Part& part : parts_) {
+    part.rect.Offset(by.x, by.y);
+    part.start.Offset(by.x, by.y);
+    part.fixed = {part.fixed.x + by.x, part.fixed.y + by.y};
+  }
+  if (band_) band_->Offset(by.x, by.y);
+  guideSource_.reset();
+}
+
 void Gesture::DragTo(Point point, const DragModifiers& held, const GestureGround& ground) {
-  snaps_ = !(ground.guides && held.alt);
+  snaps_ = !(ground.guides && held.alt) || copies_;
   lines_.clear();
   hits_ = {};
   if (!ground.place.IsValid()) return;

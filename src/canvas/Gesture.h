@@ -49,11 +49,17 @@ class Gesture {
   const std::vector<GuideLine>& Guides() const { return lines_; }
   // False while Alt lets go of grid and guides.
   bool Snaps() const { return snaps_; }
+  // The release makes copies, and what is dragged stays where it is.
+  bool Copies() const { return copies_; }
+  Point PressPoint() const { return press_; }
 
   // --- Its course ---
   void StartBand(int state, Point corner);
   // Each part's fixed corner follows from the style.
   void StartDrag(int state, int style, CardKey pressed, Point at, std::vector<Part> parts);
+  void MakeCopies() { copies_ = true; }
+  // The page was scrolled under it.
+  void Shift(Point by);
   // The first move makes a drag of a press.
   void Advance() { state_ = Row().afterFirstMove; }
   // Carries the rectangles to a point: grid, page edges and guides bind.
@@ -95,6 +101,7 @@ class Gesture {
   std::optional<Rect> band_;  // rubber band, or the rectangle of a card being drawn
   Point bandStart_;           // its fixed corner
   bool snaps_ = true;
+  bool copies_ = false;
   std::optional<GuideSource> guideSource_;
   GuideHits hits_;
   std::vector<GuideLine> lines_;

@@ -1,6 +1,8 @@
 // What the release of a gesture does to the selection and to the cards.
+#include <algorithm>
 #include <unordered_set>
 
+#include "canvas/ClickedCard.h"
 #include "canvas/DragRules.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
@@ -117,16 +119,36 @@ void RVEditTemplateWnd::EndBand(const PagePlacement& place) {
   std::unordered_set<CardKey> gone;
   for (std::size_t i = 0; i < page_.cards.Size(); ++i) {
     const RVCardControl& card = page_.cards[i];
-    const bool inside = Intersects(ToPixels(place, RectOf(card)), band);
+    const bool inside = IsReachable(card) && Intersects(ToPixels(place, RectOf(card)), band);
     const bool wasSelected = inside ? !selection_.AddSelection(card) : selection_.IsSelected(card);
     if (wasSelected && rule == (inside ? SelectionRule::Toggle : SelectionRule::Replace)) gone.insert(card.Key());
   }
   selection_.Retain([&](const RVSelection::Entry& entry) { return gone.count(entry.key) == 0; });
+  SelectGroups();
 }
 
+// Nothing where that is too small, unless a click makes a card and what is only thin is meant so.
 bool RVEditTemplateWnd::EndDrawing(const PagePlacement& place) {
   const Rect drawn = gesture_.Band().value_or(Rect());
-  if (drawn.Width() < Gesture::kSmallestDragged || drawn.Height() < Gesture::kSmallestDragged) return false;
+  const bool narrow = drawn.Width() < Gesture::kSmallestDragged;
+  const bool low = drawn.Height() < Gesture::kSmallestDragged;
+  if ((narrow || low) && !DrawsOverCards()) return false;
+  const CardRect rect = narrow && low ? ClickedRect(place) : DrawnRect(place);
+  PageEdit edit = Edit(GestureName());
+  AddControl(rect.x, rect.y, rect.width, rect.height);
+  edit.EndQuietly();
+  return true;
+}
+
+CardRect RVEditTemplateWnd::ClickedRect(const PagePlacement& place) const {
+  const Rect drawn = gesture_.Band().value_or(Rect());
+  const CardRect at = ToMillimetres(place, drawn);
+  return ClickedCardRect({place.pageWidth, place.pageHeight}, GridOf(page_.properties),
+                         FindInsertKind(insertKind_)->clickedSize, {at.x, at.y});
+}
+
+CardRect RVEditTemplateWnd::DrawnRect(const PagePlacement& place) const {
+  const Rect drawn = gesture_.Band().value_or(Rect());
   const GridSteps grid = gesture_.Snaps() ? GridOf(page_.properties) : GridSteps();
   const CardRect asDrawn = ToMillimetres(place, drawn);
   CardRect rect = asDrawn;
@@ -141,10 +163,7 @@ bool RVEditTemplateWnd::EndDrawing(const PagePlacement& place) {
   ApplyHit(gesture_.Hits().x, rect.x, rect.width, true);
   ApplyHit(gesture_.Hits().y, rect.y, rect.height, true);
   KeepExtent(rect, asDrawn);
-  PageEdit edit = Edit(GestureName());
-  AddControl(rect.x, rect.y, rect.width, rect.height);
-  edit.EndQuietly();
-  return true;
+  return rect;
 }
 
 // Where the drag leaves each card, millimetres.
@@ -168,36 +187,69 @@ std::vector<CardRect> RVEditTemplateWnd::DroppedRects(const std::vector<std::siz
   return rects;
 }
 
-void RVEditTemplateWnd::EndDrag(const PagePlacement& place) {
-  if (gesture_.shownCursor == Cursor::No) return;
+std::vector<std::size_t> RVEditTemplateWnd::DraggedIndexes() const {
   std::vector<CardKey> keys;
   for (const Gesture::Part& part : gesture_.Parts()) keys.push_back(part.card);
-  const std::vector<std::size_t> indexes = page_.cards.IndexesOf(keys);
+  return page_.cards.IndexesOf(keys);
+}
+
+// What is written into the cards; those that are gone, or are not resized along, keep what they have.
+std::vector<CardRect> RVEditTemplateWnd::RectsAfterDrag(const std::vector<std::size_t>& indexes,
+                                                        const PagePlacement& place) const {
   std::vector<CardRect> rects = DroppedRects(indexes, place);
-  PageEdit edit = Edit(GestureName());
   for (std::size_t i = 0; i < indexes.size(); ++i) {
     const Gesture::Part& part = gesture_.Parts()[i];
-    if (indexes[i] == CardList::kNowhere || (!gesture_.Moves() && !part.resizable)) continue;
+    if (indexes[i] == CardList::kNowhere) continue;
     const CardRect stored = RectOf(page_.cards[indexes[i]]);
-    if (options_.keepsStoredDigits) KeepStoredDigits(rects[i], stored, part, gesture_.Moves());
-    if (rects[i] != stored) SetRect(edit.Card(indexes[i]), rects[i]);
+    if (!gesture_.Moves() && !part.resizable) {
+      rects[i] = stored;
+    } else if (options_.keepsStoredDigits) {
+      KeepStoredDigits(rects[i], stored, part, gesture_.Moves());
+    }
+  }
+  return rects;
+}
+
+void RVEditTemplateWnd::EndDrag(const PagePlacement& place) {
+  if (gesture_.shownCursor == Cursor::No) return;
+  const std::vector<std::size_t> indexes = DraggedIndexes();
+  const std::vector<CardRect> rects = RectsAfterDrag(indexes, place);
+  if (gesture_.Copies()) return InsertCopies(indexes, rects, text::kCopyCards);
+  PageEdit edit = Edit(GestureName());
+  for (std::size_t i = 0; i < indexes.size(); ++i) {
+    if (indexes[i] == CardList::kNowhere) continue;
+    if (rects[i] != RectOf(page_.cards[indexes[i]])) SetRect(edit.Card(indexes[i]), rects[i]);
   }
   edit.EndQuietly();
+}
+
+std::optional<CardRect> RVEditTemplateWnd::DraggedBox() const {
+  const PagePlacement place = Placement();
+  const GestureKind kind = gesture_.Row().kind;
+  if (!place.IsValid() || (kind != GestureKind::Draw && kind != GestureKind::Drag)) return std::nullopt;
+  if (kind == GestureKind::Draw) {
+    const Rect drawn = gesture_.Band().value_or(Rect());
+    const bool isClick = std::max(drawn.Width(), drawn.Height()) < Gesture::kSmallestDragged;
+    return isClick ? std::nullopt : std::optional(DrawnRect(place));
+  }
+  const std::vector<CardRect> rects = RectsAfterDrag(DraggedIndexes(), place);
+  return rects.empty() ? std::nullopt : std::optional(Cover(rects));
 }
 
 void RVEditTemplateWnd::EndClick() {
   const std::size_t index = page_.cards.IndexOf(gesture_.Pressed());
   if (index == CardList::kNowhere) return;
+  if (gesture_.Copies()) return SelectBelowAt(gesture_.PressPoint());
   const RVCardControl& card = page_.cards[index];
   switch (gesture_.Row().onRelease) {
     case SelectionRule::Alone:
-      return SelectAlone(card.Key());
+      SelectAlone(card.Key());
+      return SelectGroups();
     case SelectionRule::Remove:
-      selection_.Delete(selection_.Find(card.Key()));
-      return;
+      return DropGroupOf(card);
     case SelectionRule::Add:
       selection_.AddSelection(card);
-      return;
+      return SelectGroups();
     default:
       return;
   }

@@ -36,6 +36,14 @@ HitCard CardAt(const CardList& cards, const PagePlacement& place, Point point) {
   return {};
 }
 
+std::vector<std::size_t> CardsAt(const CardList& cards, const PagePlacement& place, Point point) {
+  std::vector<std::size_t> hit;
+  for (std::size_t i = 0; place.IsValid() && i < cards.Size(); ++i) {
+    if (ToPixels(place, RectOf(cards[i])).Contains(point)) hit.push_back(i);
+  }
+  return hit;
+}
+
 int HandleAt(const Rect& card, Point point) {
   for (const Zone& zone : Zones(card)) {
     if (zone.rect.Contains(point)) return zone.style;

@@ -15,6 +15,9 @@ struct HitCard {
 };
 HitCard CardAt(const CardList& cards, const PagePlacement& place, Point point);
 
+// All cards at a point by their places, the top one first.
+std::vector<std::size_t> CardsAt(const CardList& cards, const PagePlacement& place, Point point);
+
 // The edges a press at this point would move: bands of 3 pixels along the edges, corners an L of 10 by 6 pixels, the
 // inside moves all, whatever the zoom.
 int HandleAt(const Rect& card, Point point);

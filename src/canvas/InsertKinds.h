@@ -5,6 +5,7 @@
 #include <span>
 
 #include "model/RVCardControl.h"
+#include "platform/Geometry.h"
 
 namespace xrpt {
 
@@ -13,6 +14,7 @@ struct InsertKindRow {
   const CardClass& (*kind)();
   unsigned support;                 // the bit that allows inserting it
   std::optional<Color> frameColor;  // of a new card; nothing keeps the one of its class
+  SizeD clickedSize;                // millimetres, of one that is made by a click
 };
 
 std::span<const InsertKindRow> InsertKinds();

@@ -1,4 +1,7 @@
 // Keys and the context menu.
+#include <algorithm>
+#include <cmath>
+
 #include "canvas/DragRules.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
@@ -41,7 +44,9 @@ void RVEditTemplateWnd::OnKeyDown(int code, MouseFlags flags, long long keyFlags
   if (code == key::Escape) return KeyProcessESC(keyFlags);
   flags.control = flags.control || port_.IsControlDown();
   if (code == key::Delete) return ControlDelete();
-  if (IsArrow(code) && !selection_.IsEmpty()) return MoveByKey(code, flags.control);
+  if (IsArrow(code) && !selection_.IsEmpty()) {
+    return flags.alt && options_.altCopies ? MoveFinely(code) : MoveByKey(code, flags.control);
+  }
   if (flags.control && OnControlKey(code, flags.shift)) return;
   parent_.OnMessage({Message::KeyDown, {}, keyFlags, code});
 }
@@ -105,6 +110,32 @@ void RVEditTemplateWnd::MoveByKey(int code, bool control) {
   AddUndoInfo(false, {text::kMove, static_cast<int>(selection_.Size())});
 }
 
+// By a tenth of a millimetre, whatever grid and zoom; all together stay on the page. Moves that follow each other are
+// one step.
+void RVEditTemplateWnd::MoveFinely(int code) {
+  constexpr double kFine = 0.1;
+  if (gesture_.IsRunning()) return;
+  std::vector<std::size_t> indexes = ChangeableIndexes();
+  std::erase(indexes, CardList::kNowhere);
+  const RVGlobalProperties& page = page_.properties;
+  const Point direction = Direction(code);
+  const bool fits = std::all_of(indexes.begin(), indexes.end(), [&](std::size_t index) {
+    const CardRect card = RectOf(page_.cards[index]);
+    const double x = card.x + direction.x * kFine, y = card.y + direction.y * kFine;
+    return (x >= 0.0 || direction.x >= 0) && (y >= 0.0 || direction.y >= 0) &&
+           (x + card.width <= page.width || direction.x <= 0) && (y + card.height <= page.height || direction.y <= 0);
+  });
+  if (!fits) return;
+  PageEdit edit = Edit({text::kMove, static_cast<int>(selection_.Size())}, "finely");
+  for (const std::size_t index : indexes) {
+    RVCardControl& card = edit.Card(index);
+    card.x = std::round((card.x + direction.x * kFine) * 1e4) / 1e4;
+    card.y = std::round((card.y + direction.y * kFine) * 1e4) / 1e4;
+  }
+  edit.EndQuietly();
+  PostChange(false);
+}
+
 // --- The context menu ---
 
 void RVEditTemplateWnd::OnRButtonUp(Point point) {
@@ -132,9 +163,10 @@ void RVEditTemplateWnd::OnRButtonUp(Point point) {
 
 // What the menu's commands work on is what was clicked.
 void RVEditTemplateWnd::SelectUnder(Point point) {
-  const HitCard hit = CardAt(page_.cards, Placement(), Bounded(point));
-  if (!hit.card || selection_.IsSelected(*hit.card) || gesture_.IsRunning()) return;
+  const HitCard hit = CardUnder(Bounded(point));
+  if (!hit.card || preview_ || selection_.IsSelected(*hit.card) || gesture_.IsRunning()) return;
   SelectAlone(hit.card->Key());
+  SelectGroups();
   AddUndoInfo(false, {text::kSelect, 0});
   PostChange(true);
   port_.Invalidate();

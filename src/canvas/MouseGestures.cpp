@@ -1,5 +1,6 @@
 // The mouse machine: a press starts a gesture, moves carry it on, the release ends it (GestureEnds.cpp says how).
 #include "canvas/DragRules.h"
+#include "canvas/Handles.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 
@@ -11,7 +12,9 @@ void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
   point = Bounded(point);
   EndEdit();
   DropGesture();
-  const HitCard hit = CardAt(page_.cards, Placement(), point);
+  if (preview_) return port_.SetFocus();
+  const Grip grip = GripAt(point, flags.alt);
+  const HitCard& hit = grip.hit;
   gesture_.hovered = hit.card ? hit.card->Key() : 0;
   const bool wasSelected = hit.card && selection_.IsSelected(*hit.card);
   const bool keeps = flags.control || flags.shift;
@@ -19,11 +22,60 @@ void RVEditTemplateWnd::OnLButtonDown(Point point, MouseFlags flags) {
   if (!keeps && !wasSelected && (hit.card || insertKind_ != tool::kPointer)) ClearSelection();
   if (hit.card) {
     selection_.AddSelection(*hit.card);
-    StartOnCard(hit, wasSelected, point, flags);
+    SelectGroups();
+    StartOnCard(grip, wasSelected, point, flags);
   } else if (!StartOnPage(point, flags)) {
     return port_.Invalidate();
   }
   StartGesture();
+}
+
+// Where an insert tool is in hand and works anywhere, cards are in nobody's way.
+bool RVEditTemplateWnd::DrawsOverCards() const {
+  return options_.placesByClick && insertKind_ != tool::kPointer && Supports(insertKind_);
+}
+
+RVEditTemplateWnd::Grip RVEditTemplateWnd::GripAt(Point point, bool alt) const {
+  if (preview_ || DrawsOverCards()) return {};
+  if (alt && options_.altCopies) {
+    const HitCard selected = SelectedCardAt(point);
+    if (selected.card) return {selected, kMoveAll};
+  }
+  Grip grip = HandleGripAt(point);
+  if (grip.hit.card) return grip;
+  grip.hit = CardUnder(point);
+  if (grip.hit.card) grip.style = StyleInside(grip.hit, point);
+  return grip;
+}
+
+// A visible handle, on whichever side of the card's edge; that of the card selected last first.
+RVEditTemplateWnd::Grip RVEditTemplateWnd::HandleGripAt(Point point) const {
+  const PagePlacement place = Placement();
+  if (!options_.showsHandles || !place.IsValid() || selection_.Size() > kMostWithHandles) return {};
+  const std::vector<std::size_t> selected = ChangeableIndexes();
+  for (std::size_t i = selected.size(); i-- > 0;) {
+    if (selected[i] == CardList::kNowhere || !page_.cards[selected[i]].Resizable()) continue;
+    const Rect rect = ToPixels(place, RectOf(page_.cards[selected[i]]));
+    if (const int style = VisibleHandleAt(rect, point)) return {{&page_.cards[selected[i]], rect}, style};
+  }
+  return {};
+}
+
+HitCard RVEditTemplateWnd::SelectedCardAt(Point point) const {
+  const PagePlacement place = Placement();
+  if (!place.IsValid()) return {};
+  for (const std::size_t index : SelectedIndexes()) {
+    if (index == CardList::kNowhere) continue;
+    const Rect rect = ToPixels(place, RectOf(page_.cards[index]));
+    if (rect.Contains(point)) return {&page_.cards[index], rect};
+  }
+  return {};
+}
+
+int RVEditTemplateWnd::StyleInside(const HitCard& hit, Point point) const {
+  if (!hit.card->Resizable()) return kNoEdge;
+  const bool moves = options_.showsHandles && selection_.IsSelected(*hit.card) && IsTooSmallForBands(hit.rect);
+  return moves ? kMoveAll : HandleAt(hit.rect, point);
 }
 
 // False outside the page, where nothing starts but the rubber bands of whoever wants them there.
@@ -35,14 +87,15 @@ bool RVEditTemplateWnd::StartOnPage(Point point, MouseFlags flags) {
   const GridSteps grid = outside ? GridSteps() : GridOf(page_.properties);
   gesture_.StartBand(PressOnPage(pointer, flags.control, flags.shift),
                      {SnapPixel(HorizontalAxis(place, grid), point.x), SnapPixel(VerticalAxis(place, grid), point.y)});
-  gesture_.activeCursor = pointer ? Cursor::SizeAll : Cursor::No;
+  gesture_.activeCursor = pointer ? Cursor::SizeAll : DrawsOverCards() ? Cursor::Cross : Cursor::No;
   return true;
 }
 
-void RVEditTemplateWnd::StartOnCard(const HitCard& hit, bool wasSelected, Point point, MouseFlags flags) {
-  const int style = hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
-  gesture_.StartDrag(PressOnCard(wasSelected, flags.control, flags.shift), style, hit.card->Key(), point,
+void RVEditTemplateWnd::StartOnCard(const Grip& grip, bool wasSelected, Point point, MouseFlags flags) {
+  const int style = grip.style;
+  gesture_.StartDrag(PressOnCard(wasSelected, flags.control, flags.shift), style, grip.hit.card->Key(), point,
                      SelectedParts());
+  if (flags.alt && options_.altCopies && gesture_.Moves()) gesture_.MakeCopies();
   gesture_.activeCursor = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::Moving);
 }
 
@@ -50,7 +103,7 @@ void RVEditTemplateWnd::StartOnCard(const HitCard& hit, bool wasSelected, Point 
 std::vector<Gesture::Part> RVEditTemplateWnd::SelectedParts() const {
   const PagePlacement place = Placement();
   std::vector<Gesture::Part> parts;
-  for (const std::size_t index : SelectedIndexes()) {
+  for (const std::size_t index : ChangeableIndexes()) {
     if (index == CardList::kNowhere) continue;
     const RVCardControl& card = page_.cards[index];
     const Rect rect = ToPixels(place, RectOf(card));
@@ -77,18 +130,37 @@ void RVEditTemplateWnd::OnMouseMove(Point point, DragModifiers modifiers) {
   if (!gesture_.IsRunning()) return Hover(point);
   gesture_.Advance();
   gesture_.DragTo(point, modifiers, Ground());
-  SetCursor(gesture_.DragCursor());
+  const bool makesAny = DrawsOverCards() && gesture_.Row().kind == GestureKind::Draw;
+  SetCursor(makesAny ? Cursor::Cross : gesture_.DragCursor());
   port_.Invalidate();
 }
 
+bool RVEditTemplateWnd::ScrollTowards(Point pointer, DragModifiers modifiers) {
+  if (!gesture_.IsRunning()) return false;
+  pointer = Bounded(pointer);
+  const Rect client = port_.ClientRect();
+  const PagePlacement before = Placement();
+  ScrollTo(viewport_.Horizontal().position + ScrollStep(pointer.x, client.left, client.right),
+           viewport_.Vertical().position + ScrollStep(pointer.y, client.top, client.bottom));
+  const PagePlacement after = Placement();
+  const Point by{roundi(after.offsetX) - roundi(before.offsetX), roundi(after.offsetY) - roundi(before.offsetY)};
+  if (by == Point()) return false;
+  gesture_.Shift(by);
+  gesture_.lastPoint = pointer;
+  gesture_.Advance();
+  gesture_.DragTo(pointer, modifiers, Ground());
+  port_.Invalidate();
+  return true;
+}
+
 void RVEditTemplateWnd::Hover(Point point) {
-  const HitCard hit = CardAt(page_.cards, Placement(), point);
-  const CardKey hovered = hit.card ? hit.card->Key() : 0;
-  if (hit.card) {
-    const int style = hit.card->Resizable() ? HandleAt(hit.rect, point) : kNoEdge;
-    gesture_.activeCursor = CursorOfStyle(style == kNoEdge ? kMoveAll : style, Cursor::OverCard);
+  const Grip grip = GripAt(point, false);
+  const CardKey hovered = grip.hit.card ? grip.hit.card->Key() : 0;
+  if (grip.hit.card) {
+    gesture_.activeCursor = CursorOfStyle(grip.style == kNoEdge ? kMoveAll : grip.style, Cursor::OverCard);
   } else {
     UpdateActiveCursor();
+    if (DrawsOverCards() && !preview_ && Placement().PageRect().Contains(point)) gesture_.activeCursor = Cursor::Cross;
   }
   if (gesture_.activeCursor == gesture_.shownCursor && hovered == gesture_.hovered) return;
   gesture_.hovered = hovered;
@@ -112,6 +184,9 @@ GuideSource RVEditTemplateWnd::GatherGuides(const PagePlacement& place) const {
   const Rect client = port_.ClientRect();
   GuideSource source;
   source.targets.push_back({place.PageRect(), {0.0, 0.0, place.pageWidth, place.pageHeight}});
+  const auto add = [&](const CardRect& line) { source.targets.push_back({ToPixels(place, line), line}); };
+  for (const double x : Lines().down) add({x, 0.0, 0.0, place.pageHeight});
+  for (const double y : Lines().across) add({0.0, y, place.pageWidth, 0.0});
   for (std::size_t i = 0; i < page_.cards.Size() && source.targets.size() < GuideSource::kMostTargets; ++i) {
     const CardRect card = RectOf(page_.cards[i]);
     const Rect rect = ToPixels(place, card);
@@ -128,9 +203,11 @@ void RVEditTemplateWnd::OnLButtonUp(Point point) {
   bool selectionOnly = gesture_.Row().selectionOnly;
   const UndoName name = GestureName();
   if (gesture_.IsRunning()) {
-    if (RepositioningControl()) selectionOnly = true;
+    const bool draws = gesture_.Row().kind == GestureKind::Draw;
+    const bool madeNothing = RepositioningControl();
+    selectionOnly = madeNothing || (selectionOnly && !(draws && options_.placesByClick));
     DropGesture();
-    SetCursor(CardAt(page_.cards, Placement(), point).card ? Cursor::OverCard : Cursor::Arrow);
+    SetCursor(CardUnder(point).card ? Cursor::OverCard : Cursor::Arrow);
     RedrawBackground();
     StartTimer();
   }
@@ -162,6 +239,7 @@ void RVEditTemplateWnd::OnCaptureChanged() {
 UndoName RVEditTemplateWnd::GestureName() const {
   const GestureKind kind = gesture_.Row().kind;
   if (kind == GestureKind::Draw) return {text::kInsert, 1};
+  if (kind == GestureKind::Drag && gesture_.Copies()) return {text::kCopyCards, static_cast<int>(selection_.Size())};
   if (kind != GestureKind::Drag) return {text::kSelect, 0};
   return {gesture_.Moves() ? text::kMove : text::kResize, static_cast<int>(selection_.Size())};
 }

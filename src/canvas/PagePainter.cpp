@@ -79,12 +79,11 @@ bool Touches(const Rect& a, const Rect& b) {
   return b.bottom >= a.top && b.top <= a.bottom && b.right >= a.left && b.left <= a.right;
 }
 
-void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw) {
+void DrawGrid(PixelBuffer& buffer, const GridSteps& steps, const tagDraw& draw) {
   const int right = std::min(draw.clip.right, buffer.CanvasWidth());
   const int bottom = std::min(draw.clip.bottom, buffer.CanvasHeight());
-  const GridAxis columns{page.xgrid, draw.pageWidth, draw.pageWidthPx, draw.offsetX, std::max(0, draw.clip.left),
-                         right};
-  const GridAxis rows{page.ygrid, draw.pageHeight, draw.pageHeightPx, draw.offsetY, std::max(0, draw.clip.top), bottom};
+  const GridAxis columns{steps.x, draw.pageWidth, draw.pageWidthPx, draw.offsetX, std::max(0, draw.clip.left), right};
+  const GridAxis rows{steps.y, draw.pageHeight, draw.pageHeightPx, draw.offsetY, std::max(0, draw.clip.top), bottom};
   if (!columns.IsVisible() || !rows.IsVisible()) return;
   rows.ForEach([&](int y) { columns.ForEach([&](int x) { buffer.XorPixel(x, y, kWhite); }); });
 }
@@ -104,16 +103,22 @@ void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw) 
   for (std::size_t i = cards.Size(); i-- > 0;) PaintCard(graphics, cards[i], draw);
 }
 
+void ForEachShown(const CardList& cards, const PagePaint& how, const std::function<void(const RVCardControl&)>& visit) {
+  const auto show = [&](std::size_t index) {
+    // A place that is not there any more: the page is about to be painted anew.
+    if (index < cards.Size() && (!how.shows || how.shows(cards[index]))) visit(cards[index]);
+  };
+  if (how.cards) return std::for_each(how.cards->rbegin(), how.cards->rend(), show);
+  for (std::size_t i = cards.Size(); i-- > 0;) show(i);
+}
+
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
   DrawBackground(graphics, page, draw, how);
-  if (how.grid) DrawGrid(*how.grid, page.properties, draw);
+  const GridSteps grid = GridOf(page.properties);
+  if (how.grid) DrawGrid(*how.grid, how.gridWhenOff ? GridSteps{std::abs(grid.x), std::abs(grid.y)} : grid, draw);
   const GraphicsState state(graphics);
   if (how.surround || IsRounded(draw)) ClipToPage(graphics, draw);  // else the device ends with the page
-  if (!how.cards) return PaintCards(graphics, page.cards, draw);
-  for (auto at = how.cards->rbegin(); at != how.cards->rend(); ++at) {
-    if (*at < page.cards.Size())
-      PaintCard(graphics, page.cards[*at], draw);  // else the page is about to be painted anew
-  }
+  ForEachShown(page.cards, how, [&](const RVCardControl& card) { PaintCard(graphics, card, draw); });
 }
 
 }  // namespace xrpt

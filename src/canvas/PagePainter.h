@@ -3,9 +3,11 @@
 // PNG, SVG, PDF and print all come through here.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
+#include "canvas/Placement.h"
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
 #include "platform/Graphics.h"
@@ -17,6 +19,9 @@ struct PagePaint {
   bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
   std::optional<Color> surroundColor;
   PixelBuffer* grid = nullptr;  // where the grid dots go, by exclusive or; the same pixels `Graphics` paints into
+  bool gridWhenOff = false;     // the grid is shown though nothing snaps to it
+  // Whether a card is painted; all are without it.
+  std::function<bool(const RVCardControl& card)> shows;
   const std::vector<std::size_t>* cards = nullptr;  // those that can be in the clip, top first; null: nobody knows
 };
 
@@ -26,11 +31,17 @@ void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw
 void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw);
 void PaintCard(Graphics& graphics, const RVCardControl& card, const tagDraw& draw);
 
+// Calls `visit` for each card that is painted that way, the lowest first.
+void ForEachShown(const CardList& cards, const PagePaint& how, const std::function<void(const RVCardControl&)>& visit);
+
 // True for rectangles that meet, be it at an edge.
 bool Touches(const Rect& a, const Rect& b);
 
 // White dots at the grid's crossings, by exclusive or; none unless both steps are active. A grid finer than a pixel is
 // no grid to look at and is left out.
-void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw);
+void DrawGrid(PixelBuffer& buffer, const GridSteps& steps, const tagDraw& draw);
+inline void DrawGrid(PixelBuffer& buffer, const RVGlobalProperties& page, const tagDraw& draw) {
+  DrawGrid(buffer, GridOf(page), draw);
+}
 
 }  // namespace xrpt

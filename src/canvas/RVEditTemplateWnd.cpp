@@ -205,7 +205,32 @@ tagDraw RVEditTemplateWnd::MakeDraw(const Rect& clip) const {
   draw.pixelsPerMmY = viewport_.Scale().y;
   draw.fontFactor = page_.fontFactor;
   draw.animationTime = animation_.time;
+  if (preview_) draw.flag1 = 0;
   return draw;
+}
+
+// What is selected cannot be seen in a preview, so nothing is.
+void RVEditTemplateWnd::SetPreview(bool on) {
+  if (on == preview_) return;
+  preview_ = on;
+  DropGesture();
+  if (on && !selection_.IsEmpty()) {
+    ClearSelection();
+    AddUndoInfo(false, {text::kSelect, 0});
+    PostChange(true);
+  }
+  RedrawBackground();
+}
+
+void RVEditTemplateWnd::ShowGrid(std::optional<bool> shown) {
+  if (shown == gridShown_) return;
+  gridShown_ = shown;
+  RedrawBackground();
+}
+
+bool RVEditTemplateWnd::IsGridShown() const {
+  const GridSteps grid = GridOf(page_.properties);
+  return gridShown_.value_or(IsActive(grid.x) && IsActive(grid.y));
 }
 
 void RVEditTemplateWnd::RedrawBackground() {

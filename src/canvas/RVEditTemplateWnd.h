@@ -15,6 +15,7 @@
 
 #include "canvas/Arrange.h"
 #include "canvas/CardClipboard.h"
+#include "canvas/CardNotes.h"
 #include "canvas/EditingOptions.h"
 #include "canvas/Gesture.h"
 #include "canvas/History.h"
@@ -24,6 +25,7 @@
 #include "canvas/PageEdit.h"
 #include "canvas/PageHistoryListener.h"
 #include "canvas/RVSelection.h"
+#include "canvas/TextInPlace.h"
 #include "canvas/Viewport.h"
 #include "model/RVReportPage.h"
 #include "model/tagDraw.h"
@@ -64,6 +66,7 @@ class RVEditTemplateWnd {
 
   // --- Set-up ---
   void SetOptions(const EditingOptions& options) { options_ = options; }
+  const EditingOptions& Options() const { return options_; }
   void SetHistoryListener(PageHistoryListener* listener) { listener_ = listener; }
   void SetDpi(int dpiX, int dpiY);
   void SetFontFactor(double factor);
@@ -131,6 +134,11 @@ class RVEditTemplateWnd {
   void AddPrimitive(double x, double y, double width, double height) { AddCard(tool::kPrimitive, x, y, width, height); }
   // The same at the pointer, without a drawn rectangle.
   void AddControlAtPointer();
+  // A card of a kind near a pixel, of the size that a click gives or `fill` asks for: one step of that name. False for
+  // a kind that cannot be inserted, and where the page has no place.
+  bool InsertCardAt(int kind, Point at, UndoName name, const std::function<void(RVCardControl&)>& fill);
+  // A label with these words, as large as they need.
+  bool InsertText(const std::wstring& words, Point at);
   const RVCardControl* GetControlById(std::wstring_view id) const { return page_.cards.Find(id); }
   bool SelectControlById(std::wstring_view id);
   // Replaces the selection; ids of no card are left out.
@@ -148,8 +156,20 @@ class RVEditTemplateWnd {
   Rect SelectedArea() const;
   // The selected card when there is exactly one, else empty.
   std::wstring SelectedCardId() const;
+  // Selects the card under a point by itself, out of its group. False where there is none.
+  bool SelectOnlyAt(Point point);
+  // Selects the next card beneath the selected one, and from the lowest the top one again: where the pointer is over
+  // it, or in its middle. Does nothing unless one card is selected.
+  void SelectBelow();
   void ImagesManagerModified();
   void StylesModified();
+
+  // --- Text edited where it stands ---
+  // That of the one selected card; nothing for a card that does not say its text, or where nobody asked for it.
+  std::optional<TextInPlace> EditableText() const;
+  // One step, which goes on until EndEdit: giving the first text back takes it away. False when the text was the same,
+  // or there is no such card any more.
+  bool SetTextOf(CardKey card, const std::wstring& words);
 
   // --- Mouse and keyboard ---
   void OnLButtonDown(Point point, MouseFlags flags);
@@ -161,6 +181,12 @@ class RVEditTemplateWnd {
   void OnCaptureChanged();
   // Ends a gesture without writing anything.
   void DropGesture();
+  // Where what is drawn, moved or resized would be put by a release now, millimetres: round all cards. Nothing during
+  // other gestures and none.
+  std::optional<CardRect> DraggedBox() const;
+  // While a gesture runs and the pointer is outside of the client area: scrolls a little that way and carries the
+  // gesture along. False when there was nothing to scroll.
+  bool ScrollTowards(Point pointer, DragModifiers modifiers);
   // The toolbar entry of the popup menu, named and carried out by whoever owns toolbars; without one there is none.
   struct ToolbarEntry {
     int textId = 0;
@@ -196,6 +222,10 @@ class RVEditTemplateWnd {
   bool ControlCopy();
   void ControlCut();
   virtual void ControlPaste();
+  // Where the cards were copied from.
+  void ControlPasteInPlace();
+  // Copies beside the selected cards, which the clipboard knows nothing of.
+  void DuplicateSelectedControls();
   void ControlDelete() { DeleteSelectedControls(); }
   void DeleteSelectedControls();
   void ControlSelectAll();
@@ -231,6 +261,31 @@ class RVEditTemplateWnd {
   void OnControlSearch();
   void OnControlReplace();
 
+  // --- What the editor remembers beside the report (see CardNotes.h, NoteCommands.cpp) ---
+  // The notes are the report's editor's; without any, nothing is locked, hidden or grouped. `changed` hears of changes.
+  void SetNotes(CardNotes* notes, std::function<void()> changed) {
+    notes_ = notes;
+    notesChanged_ = std::move(changed);
+  }
+  const CardNote& NoteOf(const RVCardControl& card) const;
+  bool IsHidden(const RVCardControl& card) const { return NoteOf(card).hidden; }
+  bool AreSelectedLocked() const;
+  bool IsAnySelectedGrouped() const;
+  // Whether any card of the page has this noted.
+  bool HasNoted(bool CardNote::*what) const;
+  void LockSelected(bool on);
+  void HideSelected();
+  void HideCard(std::size_t index, bool on);
+  void UnlockAll();
+  void ShowAll();
+  void GroupSelected(bool on);
+  // What lists call the card; no name calls it by its content again.
+  void NameCard(std::size_t index, const std::wstring& name);
+  // Lines on this page that cards are placed by.
+  const PageLines& Lines() const;
+  // `isMoving`: more of the same is to come, and nothing is kept yet.
+  void SetLines(PageLines lines, bool isMoving = false);
+
   // --- Arranging the selected cards; modes as in Arrange.h ---
   void AlignSelectedControls(int mode);
   void AlignSelectedControlsCtrl(int mode);
@@ -239,6 +294,11 @@ class RVEditTemplateWnd {
   void ResizeSelectedControls(bool sameWidth, bool sameHeight);
   void ControlBringToFront();
   void ControlSendToBack();
+  // Cards by their places, ascending, put over the one that stands at a place now; the count of cards puts them lowest.
+  void StackBefore(const std::vector<std::size_t>& indexes, std::size_t before);
+  // Over or under the next card only.
+  void ControlBringForward();
+  void ControlSendBackward();
 
   // --- Timers and animation ---
   void OnTimer();
@@ -256,6 +316,12 @@ class RVEditTemplateWnd {
   bool NeedsBackground() const { return redrawBackground_; }
   void BackgroundDrawn() { redrawBackground_ = false; }
   void RedrawBackground();
+  // The page as readers see it: no frames, grid, marks or stand-ins.
+  void SetPreview(bool on);
+  bool IsPreview() const { return preview_; }
+  // Whether the grid is seen. Unless somebody says otherwise it is when cards snap to it.
+  void ShowGrid(std::optional<bool> shown);
+  bool IsGridShown() const;
   // The card the search picked blinks; 0 when none does.
   CardKey PickedCard() const { return picked_; }
   // Outlines of what is being dragged: the band, or the selected cards; none while nothing is.
@@ -293,8 +359,27 @@ class RVEditTemplateWnd {
   std::unique_ptr<RVCardControl> NewCard(int kind) const;
 
   // Mouse, see MouseGestures.cpp
+  // What a press takes hold of: a card, and which of its edges.
+  struct Grip {
+    HitCard hit;
+    int style = kNoEdge;
+  };
+  Grip GripAt(Point point, bool alt) const;
+  Grip HandleGripAt(Point point) const;
+  HitCard SelectedCardAt(Point point) const;
+  int StyleInside(const HitCard& hit, Point point) const;
+  bool DrawsOverCards() const;
+  bool IsReachable(const RVCardControl& card) const;
+  HitCard CardUnder(Point point) const;
+  // The selected cards that are not locked; kNowhere in the place of others.
+  std::vector<std::size_t> ChangeableIndexes() const;
+  void SelectGroups();
+  void DropGroupOf(const RVCardControl& card);
+  std::vector<std::size_t> AllIndexes() const;
+  template <class Change>
+  void ChangeNotes(const std::vector<std::size_t>& indexes, const Change& change);
   bool StartOnPage(Point point, MouseFlags flags);
-  void StartOnCard(const HitCard& hit, bool wasSelected, Point point, MouseFlags flags);
+  void StartOnCard(const Grip& grip, bool wasSelected, Point point, MouseFlags flags);
   void StartGesture();
   std::vector<Gesture::Part> SelectedParts() const;
   void Hover(Point point);
@@ -307,7 +392,11 @@ class RVEditTemplateWnd {
   bool RepositioningControl();
   void EndBand(const PagePlacement& place);
   bool EndDrawing(const PagePlacement& place);
+  CardRect DrawnRect(const PagePlacement& place) const;
+  CardRect ClickedRect(const PagePlacement& place) const;
   void EndDrag(const PagePlacement& place);
+  std::vector<std::size_t> DraggedIndexes() const;
+  std::vector<CardRect> RectsAfterDrag(const std::vector<std::size_t>& indexes, const PagePlacement& place) const;
   std::vector<CardRect> DroppedRects(const std::vector<std::size_t>& indexes, const PagePlacement& place) const;
   void EndClick();
 
@@ -321,7 +410,12 @@ class RVEditTemplateWnd {
   void Restore(const RVUndo& step, const RVUndo& flags);
   void TakePageFrom(const RVUndo& step);
 
+  bool PasteShifted(double dx, double dy);
+  void PasteText();
+  void InsertCopies(std::vector<std::size_t> indexes, std::vector<CardRect> rects, int undoTextId);
+  void SelectBelowAt(Point point);
   void MoveByKey(int key, bool control);
+  void MoveFinely(int key);
   void SelectUnder(Point point);
   bool OnControlKey(int key, bool shift);
   bool ToggleToolbar(int toolbar);
@@ -339,6 +433,8 @@ class RVEditTemplateWnd {
   template <class Rule>
   void Arrange(const Rule& rule, int undoTextId);
   void Stack(bool front, int undoTextId);
+  using OrderRule = std::vector<std::size_t> (*)(std::size_t count, const std::vector<std::size_t>& chosen);
+  void Restack(OrderRule rule, int undoTextId);
   bool IsReferenceThere() const;
   static ArrangePage PageOf(const PagePlacement& place);
 
@@ -373,6 +469,10 @@ class RVEditTemplateWnd {
   CardKey searched_ = 0;  // of the match found last; 0 for none
   bool redrawBackground_ = true;
   bool smartGuides_ = false;
+  bool preview_ = false;
+  CardNotes* notes_ = nullptr;
+  std::function<void()> notesChanged_;
+  std::optional<bool> gridShown_;
   Marching marching_;
   Animation animation_;
   Color madeWithBackcolor_;

@@ -32,6 +32,9 @@ class RVUndo {
   // The selection as it is now, without making that a difference.
   void TakeSelection(const RVSelection& current) { selection_ = std::make_shared<RVSelection>(current); }
 
+  // Of cards that only moved it keeps no more than where they were; for a step that is no longer the newest.
+  void Pack(RVUndo& neighbour) { cards_.Pack(neighbour.cards_); }
+
   bool IsControlListChanged() const { return cardsChanged_; }
   bool IsSelectionChanged() const { return selectionChanged_; }
   bool IsGlobalsChanged() const { return pageChanged_; }

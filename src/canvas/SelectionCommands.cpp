@@ -1,13 +1,20 @@
 // The page window's cards and selection: inserting, finding, selecting, editing from outside.
+#include <algorithm>
 #include <unordered_map>
 
+#include "canvas/ClickedCard.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "model/RVCardImage.h"
 #include "model/RVCardLabel.h"
+#include "model/RVCardPrimitive.h"
 #include "platform/SystemNames.h"
 
 namespace xrpt {
+
+namespace {
+constexpr double kThinContour = 0.35;  // millimetres
+}
 
 void RVEditTemplateWnd::SelectAlone(CardKey card) {
   ClearSelection();
@@ -65,6 +72,43 @@ void RVEditTemplateWnd::Pick(const RVCardControl& card) {
   port_.Invalidate();
 }
 
+// Down the stack of cards at a point, and from its bottom to the top again.
+void RVEditTemplateWnd::SelectBelowAt(Point point) {
+  std::vector<std::size_t> stack = CardsAt(page_.cards, Placement(), point);
+  std::erase_if(stack, [this](std::size_t i) { return !IsReachable(page_.cards[i]); });
+  if (stack.empty()) return;
+  const auto selected =
+      std::find_if(stack.begin(), stack.end(), [this](std::size_t i) { return selection_.IsSelected(page_.cards[i]); });
+  const bool wraps = selected == stack.end() || selected + 1 == stack.end();
+  SelectAlone(page_.cards[wraps ? stack.front() : *(selected + 1)].Key());
+}
+
+bool RVEditTemplateWnd::SelectOnlyAt(Point point) {
+  const HitCard hit = CardUnder(Bounded(point));
+  if (!hit.card) return false;
+  EndEdit();
+  DropGesture();
+  SelectAlone(hit.card->Key());
+  AddUndoInfo(false, {text::kSelect, 0});
+  PlayTimer();
+  PostChange(true);
+  port_.Invalidate();
+  return true;
+}
+
+void RVEditTemplateWnd::SelectBelow() {
+  if (selection_.Size() != 1) return;
+  EndEdit();
+  DropGesture();
+  const Rect card = SelectedArea();
+  const Point middle{(card.left + card.right) / 2, (card.top + card.bottom) / 2};
+  SelectBelowAt(card.Contains(gesture_.lastPoint) ? gesture_.lastPoint : middle);
+  AddUndoInfo(false, {text::kSelect, 0});
+  PlayTimer();
+  PostChange(true);
+  port_.Invalidate();
+}
+
 // A card that is gone is not selected any more.
 void RVEditTemplateWnd::DropGoneFromSelection() {
   if (selection_.IsEmpty()) return;
@@ -107,6 +151,10 @@ std::unique_ptr<RVCardControl> RVEditTemplateWnd::NewCard(int kind) const {
   if (&card->GetRuntimeClass() == &RVCardLabel::Class()) {
     static_cast<RVCardLabel&>(*card).text = HostText(kNewCaptionText);
   }
+  if (options_.hintsAtCards && &card->GetRuntimeClass() == &RVCardPrimitive::Class()) {
+    static_cast<RVCardPrimitive&>(*card).size = kThinContour;
+    static_cast<RVCardPrimitive&>(*card).isBackTransparent = true;
+  }
   return card;
 }
 
@@ -138,6 +186,45 @@ void RVEditTemplateWnd::Insert(std::unique_ptr<RVCardControl> card) {
   editedPage_.cards.PushFront(std::move(card));
   StartTimer();
   queue_.Post(&parent_, {Message::CardInserted, SelectedCardId(), 0});
+}
+
+bool RVEditTemplateWnd::InsertCardAt(int kind, Point at, UndoName name,
+                                     const std::function<void(RVCardControl&)>& fill) {
+  const PagePlacement place = Placement();
+  std::unique_ptr<RVCardControl> card = NewCard(kind);
+  if (!card || !place.IsValid() || preview_) return false;
+  DropGesture();
+  const SizeD usual = FindInsertKind(kind)->clickedSize;
+  card->width = usual.width;
+  card->height = usual.height;
+  fill(*card);
+  const CardRect from = ToMillimetres(place, {at.x, at.y, at.x, at.y});
+  SetRect(*card, ClickedCardRect({place.pageWidth, place.pageHeight}, GridOf(page_.properties),
+                                 {card->width, card->height}, {from.x, from.y}));
+  PageEdit edit = Edit(name);
+  Insert(std::move(card));
+  edit.EndQuietly();
+  PostChange(false);
+  return true;
+}
+
+// Wide enough for the longest line at about what letters take, and high enough for all of them.
+bool RVEditTemplateWnd::InsertText(const std::wstring& words, Point at) {
+  constexpr double kLetter = 2.1;  // millimetres
+  constexpr double kLine = 5.0;    // millimetres
+  constexpr double kMargin = 3.0;  // millimetres
+  std::size_t longest = 0, lines = 1, line = 0;
+  for (const wchar_t letter : words) {
+    lines += letter == L'\n' ? 1 : 0;
+    line = letter == L'\n' ? 0 : line + 1;
+    longest = std::max(longest, line);
+  }
+  const double wide = std::min(static_cast<double>(longest) * kLetter + kMargin, page_.properties.width);
+  return InsertCardAt(tool::kLabel, at, {text::kPasteCards, 1}, [&](RVCardControl& card) {
+    static_cast<RVCardLabel&>(card).text = words;
+    card.width = std::max(card.width, wide);
+    card.height = std::max(card.height, static_cast<double>(lines) * kLine + kMargin);
+  });
 }
 
 // --- What changed elsewhere ---

@@ -19,7 +19,7 @@ std::wstring Inside(std::wstring label) {
 
 bool HasTextForOne(int textId) {
   return (textId >= text::kMove && textId <= text::kChange) || textId == text::kReplace ||
-         textId == text::kBringCardsBack;
+         (textId >= text::kCopyCards && textId <= text::kRestack) || textId == text::kBringCardsBack;
 }
 
 }  // namespace

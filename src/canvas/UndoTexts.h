@@ -1,5 +1,5 @@
-// Text ids of undo steps, in the catalogues' range 60400 to 60499. A text with %d is for several cards; the one 50
-// above it is for one card.
+// Text ids of undo steps, in the catalogues' ranges 60400 to 60499 and 62640 to 62699. A text with %d is for several
+// cards; the one 50 above it is for one card.
 #pragma once
 
 #include <string>
@@ -47,6 +47,12 @@ inline constexpr int kPageMoved = 60421;
 inline constexpr int kReportRenamed = 60422;
 inline constexpr int kGridSwitched = 60423;
 inline constexpr int kBringCardsBack = 60430;
+
+inline constexpr int kCopyCards = 62640;
+inline constexpr int kDuplicateCards = 62641;
+inline constexpr int kForward = 62642;
+inline constexpr int kBackward = 62643;
+inline constexpr int kRestack = 62644;
 
 // In the range of the formulas' texts.
 inline constexpr int kReplace = 61880;     // in cards

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "canvas/CardHints.h"
+#include "canvas/Handles.h"
 #include "canvas/PagePainter.h"
 #include "canvas/RVEditTemplateWnd.h"
 
@@ -27,6 +29,11 @@ CardFrame FrameOf(const RVCardControl& card, const Rect& rect, const RVEditTempl
   return frame;
 }
 
+std::function<bool(const RVCardControl&)> ShowsOf(const RVEditTemplateWnd& window) {
+  if (window.IsPreview() || !window.HasNoted(&CardNote::hidden)) return {};
+  return [&window](const RVCardControl& card) { return !window.IsHidden(card); };
+}
+
 void DrawGuide(PixelBuffer& pixels, const GuideLine& guide, Color color) {
   Rect line{guide.from.x, guide.from.y, guide.to.x, guide.to.y};
   line.Normalize();
@@ -35,11 +42,50 @@ void DrawGuide(PixelBuffer& pixels, const GuideLine& guide, Color color) {
   }
 }
 
+// Lines the user has drawn over the page to place cards by, as long as the window.
+void DrawLines(PixelBuffer& pixels, const PageLines& lines, const PagePlacement& place, const Rect& client,
+               Color color) {
+  if (!place.IsValid()) return;
+  for (const double x : lines.down) {
+    const int at = ToPixels(place, {x, 0.0, 0.0, 0.0}).left;
+    pixels.Fill({at, client.top, at + 1, client.bottom}, color);
+  }
+  for (const double y : lines.across) {
+    const int at = ToPixels(place, {0.0, y, 0.0, 0.0}).top;
+    pixels.Fill({client.left, at, client.right, at + 1}, color);
+  }
+}
+
+// Cards in sight only.
+std::vector<Rect> MarkedCards(const RVEditTemplateWnd& window, const Rect& client) {
+  if (!window.Options().showsHandles || window.Selection().IsEmpty()) return {};
+  std::vector<Rect> rects = window.SelectedRects();
+  std::erase_if(rects, [&](const Rect& rect) { return rect == Rect() || !RVEditTemplateWnd::IsVisible(client, rect); });
+  return rects;
+}
+
+PagePaint PaintOf(const RVEditTemplateWnd& window, PixelBuffer& pixels) {
+  const bool shown = window.IsGridShown() && !window.IsPreview();
+  return {true, window.Surround(), shown ? &pixels : nullptr, shown, {}, nullptr};
+}
+
+void PaintWith(Graphics& graphics, const RVEditTemplateWnd& window, const Rect& clip, const PagePaint& how) {
+  const tagDraw draw = window.MakeDraw(clip);
+  PaintPage(graphics, window.Page(), draw, how);
+  if (window.Options().hintsAtCards && !window.IsPreview()) DrawCardHints(graphics, window.Page().cards, draw, how);
+}
+
 }  // namespace
 
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client) {
-  PaintPage(graphics, window.Page(), window.MakeDraw(client), {true, window.Surround(), &pixels, nullptr});
+  PagePaint how = PaintOf(window, pixels);
+  how.shows = ShowsOf(window);
+  PaintWith(graphics, window, client, how);
   window.BackgroundDrawn();
+}
+
+CardsInSight SightOf(const RVEditTemplateWnd& window, const Rect& client) {
+  return CardsInSight(window.Page().cards, window.Placement(), client, ShowsOf(window));
 }
 
 PagePart PartAt(const CardsInSight& sight, const Rect& rect) {
@@ -59,7 +105,9 @@ std::vector<PagePart> MovingParts(const RVEditTemplateWnd& window, const CardsIn
 void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const PagePart& part) {
   const GraphicsState state(graphics);
   graphics.ClipRect(RectD(part.rect));
-  PaintPage(graphics, window.Page(), window.MakeDraw(part.rect), {true, window.Surround(), &pixels, &part.cards});
+  PagePaint how = PaintOf(window, pixels);
+  how.cards = &part.cards;
+  PaintWith(graphics, window, part.rect, how);
 }
 
 WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int painting) {
@@ -73,21 +121,24 @@ WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int
 }
 
 void WindowOverlay::Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
-                          const Rect& client, Color guideColor) {
+                          const Rect& client, const OverlayColors& colors) {
   MakeFrames(page, painting, window, client);
-  Compose(shown, window, guideColor);
+  Compose(shown, window, LaidOver(window, client), client, colors);
 }
 
 void WindowOverlay::PaintMoved(PixelBuffer& shown, const PixelBuffer& page, int painting,
-                               const RVEditTemplateWnd& window, const Rect& client, Color guideColor,
+                               const RVEditTemplateWnd& window, const Rect& client, const OverlayColors& colors,
                                std::span<const Rect> moved) {
   const bool isNew = MakeFrames(page, painting, window, client);
   if (!isWatching_) frames_.Watch(moved);
   isWatching_ = true;
   frames_.TakeWatched(page);
-  const bool isPlain = window.Guides().empty() && window.DraggingRects().empty();
-  if (isNew || !isPlain || !isPlain_ || phase_ != window.Phase()) return Compose(shown, window, guideColor);
+  Laid laid = LaidOver(window, client);
+  if (isNew || phase_ != window.Phase() || !laid.outlines.empty() || laid != laid_)
+    return Compose(shown, window, std::move(laid), client, colors);
   frames_.ComposeWatched(shown, phase_);
+  Lay(shown, window.Placement(), client,
+      colors);  // over what is there, which makes no difference to what was not filled in
 }
 
 bool WindowOverlay::MakeFrames(const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
@@ -95,7 +146,7 @@ bool WindowOverlay::MakeFrames(const PixelBuffer& page, int painting, const RVEd
   Scene scene = SceneOf(window, painting);
   if (scene == scene_) return false;
   if (scene.window != scene_.window || scene.painting != scene_.painting)
-    sight_ = CardsInSight(window.Page().cards, window.Placement(), client);
+    sight_ = window.IsPreview() ? CardsInSight() : SightOf(window, client);  // readers see no frames
   const auto hovered = client.Contains(scene.pointer) ? sight_.At(scene.pointer) : std::nullopt;
   // A pointer that moves over one card changes nothing.
   scene_.pointer = scene.pointer;
@@ -146,13 +197,25 @@ void WindowOverlay::TakeParts(const PixelBuffer& page, const RVEditTemplateWnd& 
   for (const Rect& part : parts) Rebuild(page, window, part);
 }
 
-void WindowOverlay::Compose(PixelBuffer& shown, const RVEditTemplateWnd& window, Color guideColor) {
+WindowOverlay::Laid WindowOverlay::LaidOver(const RVEditTemplateWnd& window, const Rect& client) {
+  if (window.IsPreview()) return {};
+  return {window.Lines(), MarkedCards(window, client), window.Guides(), window.DraggingRects()};
+}
+
+void WindowOverlay::Compose(PixelBuffer& shown, const RVEditTemplateWnd& window, Laid laid, const Rect& client,
+                            const OverlayColors& colors) {
   phase_ = window.Phase();
+  laid_ = std::move(laid);
   frames_.Compose(shown, phase_);
-  const std::vector<Rect> outlines = window.DraggingRects();
-  for (const GuideLine& guide : window.Guides()) DrawGuide(shown, guide, guideColor);
-  for (const Rect& rect : outlines) DrawDraggingBox(shown, rect);
-  isPlain_ = window.Guides().empty() && outlines.empty();
+  Lay(shown, window.Placement(), client, colors);
+}
+
+void WindowOverlay::Lay(PixelBuffer& shown, const PagePlacement& place, const Rect& client,
+                        const OverlayColors& colors) const {
+  DrawLines(shown, laid_.lines, place, client, colors.guide);
+  DrawSelectionMarks(shown, laid_.marks, colors.selection);
+  for (const GuideLine& guide : laid_.guides) DrawGuide(shown, guide, colors.guide);
+  for (const Rect& outline : laid_.outlines) DrawDraggingBox(shown, outline);
 }
 
 }  // namespace xrpt

@@ -25,22 +25,31 @@ struct PagePart {
   Rect rect;  // canvas pixels
   std::vector<std::size_t> cards;
 };
+// The cards that the window shows there: all but those its user has hidden, which come back in a preview.
+CardsInSight SightOf(const RVEditTemplateWnd& window, const Rect& client);
 PagePart PartAt(const CardsInSight& sight, const Rect& rect);
 // Where cards in sight move.
 std::vector<PagePart> MovingParts(const RVEditTemplateWnd& window, const CardsInSight& sight);
 // Paints one part of the page anew, over what was there.
 void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTemplateWnd& window, const PagePart& part);
 
+// Colours of what an application lays over the page in colours of its own.
+struct OverlayColors {
+  OverlayColors(Color guides, Color marks = Rgb(0x1A, 0x73, 0xE8)) : guide(guides), selection(marks) {}
+  Color guide;
+  Color selection;
+};
+
 class WindowOverlay {
  public:
   // Fills `shown` with the page's picture and all that lies over it. `painting` tells one picture of the page from the
   // next; both are of one size.
   void Paint(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
-             const Rect& client, Color guideColor);
+             const Rect& client, const OverlayColors& colors);
   // The same when the page's picture changed inside `moved` since, always the same places of one painting. `shown`
   // still holds what was filled in last; the places alone are filled in anew when nothing else has changed.
   void PaintMoved(PixelBuffer& shown, const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
-                  const Rect& client, Color guideColor, std::span<const Rect> moved);
+                  const Rect& client, const OverlayColors& colors, std::span<const Rect> moved);
   // The page's picture changed inside `parts`, wherever they are; `Paint` is next.
   void TakeParts(const PixelBuffer& page, const RVEditTemplateWnd& window, std::span<const Rect> parts);
 
@@ -55,6 +64,15 @@ class WindowOverlay {
     bool operator==(const Scene&) const = default;
   };
   static Scene SceneOf(const RVEditTemplateWnd& window, int painting);
+  // What lies over the frames: nothing in a preview.
+  struct Laid {
+    PageLines lines;
+    std::vector<Rect> marks;  // round selected cards in sight
+    std::vector<GuideLine> guides;
+    std::vector<Rect> outlines;  // of what is dragged, which take themselves away when they are drawn twice
+    bool operator==(const Laid&) const = default;
+  };
+  static Laid LaidOver(const RVEditTemplateWnd& window, const Rect& client);
 
   // False when nothing had to be made.
   bool MakeFrames(const PixelBuffer& page, int painting, const RVEditTemplateWnd& window, const Rect& client);
@@ -62,7 +80,9 @@ class WindowOverlay {
   void Hover(const PixelBuffer& page, const RVEditTemplateWnd& window, std::optional<std::uint32_t> hovered);
   void RebuildCard(const PixelBuffer& page, const RVEditTemplateWnd& window, std::uint32_t place);
   void Rebuild(const PixelBuffer& page, const RVEditTemplateWnd& window, const Rect& part);
-  void Compose(PixelBuffer& shown, const RVEditTemplateWnd& window, Color guideColor);
+  void Compose(PixelBuffer& shown, const RVEditTemplateWnd& window, Laid laid, const Rect& client,
+               const OverlayColors& colors);
+  void Lay(PixelBuffer& shown, const PagePlacement& place, const Rect& client, const OverlayColors& colors) const;
 
   CardsInSight sight_;
   std::vector<CardFrame> cardFrames_;  // of the cards in sight
@@ -71,7 +91,7 @@ class WindowOverlay {
   Scene scene_;
   std::optional<std::uint32_t> hovered_;  // among the cards in sight
   int phase_ = 0;                         // of what is shown
-  bool isPlain_ = false;                  // what is shown has neither guides nor outlines
+  Laid laid_;                             // over what is shown
 };
 
 }  // namespace xrpt

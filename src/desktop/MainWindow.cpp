@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStackedWidget>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/FileKeeper.h"
@@ -13,9 +14,11 @@
 #include "desktop/TextIds.h"
 #include "desktop/WatchedLogger.h"
 #include "desktop/dialogs/DifferencesDialog.h"
-#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/PageDialog.h"
 #include "desktop/dialogs/QuestionBox.h"
+#include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
+#include "desktop/dialogs/formulas/SourcesDialog.h"
 #include "desktop/dialogs/search/SearchDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/ThemedScreen.h"
@@ -23,10 +26,12 @@
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/HistoryPanel.h"
 #include "desktop/panels/MessageBar.h"
 #include "desktop/panels/Outline.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
+#include "desktop/panels/StartPage.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Actions.h"
 #include "desktop/ribbon/CornerBar.h"
@@ -34,6 +39,7 @@
 #include "editor/CommandTexts.h"
 #include "editor/EditorTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "editor/RecentReports.h"
 #include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 
@@ -56,10 +62,11 @@ MainWindow::MainWindow() {
   frame_ = std::make_unique<RVEditControlWnd>(static_cast<EditorPort&>(*this), EditingOptions::Comfort());
   fields_ = std::make_unique<SelectedFields>(*frame_);
   actions_ = std::make_unique<Actions>(*frame_, *this, pages_->View());
-  actions_->beforeRun = [this] { properties_->Commit(); };
+  actions_->beforeRun = [this] { Commit(); };
   actions_->afterRun = [this] { RefreshSoon(); };
   pages_->Connect(*frame_);
   pages_->View().Connect(*frame_, *actions_);
+  BuildStart();
   BuildDocks();
   BuildRibbon();
   BuildStatusBar();
@@ -89,23 +96,39 @@ MainWindow::~MainWindow() {
 // --- Opening ---
 
 void MainWindow::Open(const std::wstring& nameOrPath) {
-  properties_->Commit();
+  Commit();
   frame_->Setup(nameOrPath);
 }
 
-// With nothing to come back to in this folder, the first of its reports says more than an empty page.
-void MainWindow::OpenLast() {
-  const std::vector<std::wstring> names = NamesInFolder(CurrentHost().setup->CfgPath(), kReportEnding);
-  if (names.empty()) return;
-  const std::wstring last = CurrentHost().settings->RegistryText(kLastReportValue);
-  const bool there = std::find(names.begin(), names.end(), last) != names.end();
-  frame_->OpenByName(there ? last : names.front());
+// --- Nothing open ---
+
+void MainWindow::ShowStart() {
+  // Asked for twice, it gives way to the report it hid.
+  if (IsStartShown() && !frame_->IsUntouched()) return HideStart();
+  start_->Refresh();
+  startedAt_ = frame_->History().Serial();
+  centre_->setCurrentWidget(start_);
+  start_->FocusFirst();
 }
+
+void MainWindow::HideStart() {
+  if (!IsStartShown()) return;
+  centre_->setCurrentWidget(pages_);
+  pages_->View().setFocus();
+  RefitZoom();
+}
+
+bool MainWindow::IsStartShown() const { return centre_->currentWidget() == start_; }
+
+void MainWindow::SetSamples(const Path& folder) { start_->SetSamples(folder); }
 
 void MainWindow::ReportOpened(const LoadResult& result) {
   messages_->Dismiss();
   if (result.loaded) {
-    CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
+    HideStart();
+    RememberReport(result.file);
+    if (!frame_->Report().name.empty())
+      CurrentHost().settings->SetRegistryText(kLastReportValue, frame_->Report().name);
     return files_->ReportOpened(result);
   }
   const QString message = ToQString(TextOf(result));
@@ -118,7 +141,13 @@ void MainWindow::SaveFailed(const SaveResult& result) {
 }
 
 std::optional<std::wstring> MainWindow::ChooseReport(const std::wstring& current) {
-  return OpenDialog::Choose(current, this);
+  return ReportListDialog::Choose(current, frame_->Report().File(), this);
+}
+
+bool MainWindow::EditPageProperties(CDlgGlobalProperties& page) {
+  PageDialog dialog(page, frame_->PageCount() > 1, this);
+  dialog.OfferDevices([this, &dialog] { EditSources(*frame_, &dialog); });
+  return dialog.exec() == QDialog::Accepted;
 }
 
 // --- Pages ---
@@ -142,6 +171,7 @@ void MainWindow::PageWindowGone(WindowPort& port) {
 
 void MainWindow::PagesChanged() {
   pagesAreDue_ = true;
+  HideStart();
   if (frame_ && frame_->PageCount() > 0)
     pages_->View().ShowPage(static_cast<PagePort&>(frame_->PagePort(frame_->CurrentPageIndex())));
   RefreshSoon();
@@ -160,6 +190,9 @@ void MainWindow::RefreshSoon() {
 void MainWindow::Refresh() {
   refreshIsDue_ = false;
   if (!frame_ || frame_->PageCount() == 0) return;
+  // Work that has begun wants to be seen.
+  const bool begun = frame_->History().Serial() != startedAt_ || frame_->Tool() != tool::kPointer;
+  if (IsStartShown() && begun) HideStart();
   if (std::exchange(pagesAreDue_, false)) {
     ApplySurround();
     pages_->View().ShowPage(static_cast<PagePort&>(frame_->PagePort(frame_->CurrentPageIndex())));
@@ -171,6 +204,7 @@ void MainWindow::Refresh() {
   properties_->Refresh();
   font_->Refresh();
   outline_->RefreshCards();
+  historyPanel_->Refresh();
   corner_->Refresh();
   status_->SetZoom(std::abs(frame_->CurrentPage().Zoom()));
   ShowSelectionGeometry();
@@ -218,6 +252,11 @@ Answer MainWindow::Ask(int textId) {
 
 void MainWindow::Tell(int textId) { Announce(Translated(textId)); }
 
+void MainWindow::Commit() {
+  pages_->View().KeepText();
+  properties_->Commit();
+}
+
 void MainWindow::Announce(const QString& message) { status_->showMessage(message, 8000); }
 
 std::size_t MainWindow::Decide(const Question& question) { return AskInBox(question, this); }
@@ -241,7 +280,7 @@ void MainWindow::OnLogged(int severity, const QString& logged) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  properties_->Commit();
+  Commit();
   if (!frame_->MayClose()) return event->ignore();
   StoreLayout();
   event->accept();

@@ -6,10 +6,12 @@
 #include <map>
 
 #include "editor/EditorPort.h"
+#include "editor/ExportChoice.h"
 #include "editor/SelectedFields.h"
 #include "model/RVReport.h"
 
 class QDockWidget;
+class QStackedWidget;
 
 namespace xrpt {
 
@@ -17,6 +19,7 @@ class Actions;
 class CornerBar;
 class FileKeeper;
 class FontGroup;
+class HistoryPanel;
 class MessageBar;
 class Outline;
 class PageFrame;
@@ -27,6 +30,7 @@ class Ribbon;
 class RVEditControlWnd;
 class SearchDialog;
 class SideDocks;
+class StartPage;
 class StatusBar;
 
 class MainWindow final : public QMainWindow, private EditorPort {
@@ -44,10 +48,16 @@ class MainWindow final : public QMainWindow, private EditorPort {
   FileKeeper& Files() { return *files_; }
   Ribbon& Tabs() { return *ribbon_; }
 
+  // Whether a command of the catalogue is one that needs this window.
+  bool Knows(std::string_view command) const;
+
   // Opens by name or path. What cannot be opened says why, above the page.
   void Open(const std::wstring& nameOrPath);
-  // The report that was open last, when there is one.
-  void OpenLast();
+  // Where pages are, until something is opened or begun: recent reports and samples.
+  void ShowStart();
+  bool IsStartShown() const;
+  void SetSamples(const Path& folder);
+  StartPage& Start() { return *start_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -70,10 +80,14 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::optional<std::wstring> AskForName(const std::wstring& proposed) override;
   void ShowDifferences(const Path& file, const RVReport& report) override;
   std::optional<std::wstring> ChooseReport(const std::wstring& current) override;
+  bool EditPageProperties(CDlgGlobalProperties& page) override;
 
   // Construction
   void BuildCentre();
+  void BuildStart();
+  void HideStart();
   void BuildRibbon();
+  void AddInsertGroup();
   void BuildDocks();
   QDockWidget* AddPanel(const char* command, int titleId, const char* name, QWidget* content, Qt::DockWidgetArea area);
   void BuildStatusBar();
@@ -81,6 +95,7 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void WatchLog();
   void RestoreLayout();
   void StoreLayout();
+  void StorePanelSize();
 
   // Showing what changed
   void RefreshSoon();
@@ -92,12 +107,19 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void Announce(const QString& message);
 
   // Commands that need a window
+  using Act = void (MainWindow::*)();
+  // Null for a command that is somebody else's.
+  static Act ActOf(std::string_view command);
   void SaveAs();
   void ToggleSmartGuides();
   void ToggleAnimation();
   void ToggleRulers();
   void ToggleDarkTheme();
   void ApplySurround();
+  // What is half typed, on the page or in a panel, is taken over.
+  void Commit();
+  void EditText();
+  void DropFiles(const QStringList& files, QPoint at);
   void OpenPalette();
   void OpenShortcutSheet();
   // Dialogs over the report, see MainWindowDialogs.cpp
@@ -109,16 +131,22 @@ class MainWindow final : public QMainWindow, private EditorPort {
   void OpenFormulas();
   void OpenSources();
   void OpenStyles();
+  void OpenImageStore();
   void ExportPdf();
   void ExportImages();
+  void Export(ExportFormat format);
   void WriteExport(const std::vector<Path>& files, const std::vector<std::string>& contents,
                    void (MainWindow::*again)());
   void Print();
+  void PrintPreview();
   void ShowSwitches();
   void TogglePanel(QDockWidget& dock);
   void FocusNextArea(bool forward);
 
+  QStackedWidget* centre_ = nullptr;
   PageFrame* pages_ = nullptr;
+  StartPage* start_ = nullptr;
+  HistoryPanel* historyPanel_ = nullptr;
   MessageBar* messages_ = nullptr;
   std::unique_ptr<RVEditControlWnd> frame_;
   std::unique_ptr<SelectedFields> fields_;
@@ -136,7 +164,8 @@ class MainWindow final : public QMainWindow, private EditorPort {
   std::unique_ptr<FileKeeper> files_;
   bool refreshIsDue_ = false;
   bool pagesAreDue_ = false;
-  bool smartGuides_ = false;
+  std::uint64_t startedAt_ = 0;  // where the history stood when the start page came
+  bool smartGuides_ = true;
 };
 
 }  // namespace xrpt

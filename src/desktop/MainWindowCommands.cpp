@@ -7,6 +7,7 @@
 #include "desktop/ProblemsDesk.h"
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/CommandPalette.h"
+#include "desktop/dialogs/ImageStoreDialog.h"
 #include "desktop/dialogs/SaveDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
 #include "desktop/dialogs/StylesDialog.h"
@@ -14,6 +15,7 @@
 #include "desktop/look/Theme.h"
 #include "desktop/page/PageFrame.h"
 #include "desktop/page/PageView.h"
+#include "desktop/panels/Outline.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/SideDocks.h"
 #include "desktop/ribbon/Actions.h"
@@ -22,28 +24,41 @@
 
 namespace xrpt {
 
+MainWindow::Act MainWindow::ActOf(std::string_view command) {
+  static constexpr std::pair<std::string_view, Act> kRows[] = {{"SmartGuides", &MainWindow::ToggleSmartGuides},
+                                                               {"Animation", &MainWindow::ToggleAnimation},
+                                                               {"Rulers", &MainWindow::ToggleRulers},
+                                                               {"DarkTheme", &MainWindow::ToggleDarkTheme},
+                                                               {"EditText", &MainWindow::EditText},
+                                                               {"StartPage", &MainWindow::ShowStart},
+                                                               {"CommandPalette", &MainWindow::OpenPalette},
+                                                               {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
+                                                               {"SaveAs", &MainWindow::SaveAs},
+                                                               {"ExportPdf", &MainWindow::ExportPdf},
+                                                               {"ExportImages", &MainWindow::ExportImages},
+                                                               {"Print", &MainWindow::Print},
+                                                               {"PrintPreview", &MainWindow::PrintPreview},
+                                                               {"ImageStore", &MainWindow::OpenImageStore},
+                                                               {"Search", &MainWindow::OpenSearch},
+                                                               {"Replace", &MainWindow::OpenReplace},
+                                                               {"SearchNext", &MainWindow::SearchNext},
+                                                               {"SearchPrevious", &MainWindow::SearchPrevious},
+                                                               {"FormulesSetup", &MainWindow::OpenFormulas},
+                                                               {"VirtualDevices", &MainWindow::OpenSources},
+                                                               {"Styles", &MainWindow::OpenStyles}};
+  for (const auto& [name, act] : kRows) {
+    if (name == command) return act;
+  }
+  return nullptr;
+}
+
+bool MainWindow::Knows(std::string_view command) const {
+  return ActOf(command) || ProblemsDesk::Knows(command) || docks_.contains(command);
+}
+
 bool MainWindow::RunCommand(const char* name) {
-  static constexpr std::pair<const char*, void (MainWindow::*)()> kRows[] = {
-      {"SmartGuides", &MainWindow::ToggleSmartGuides},
-      {"Animation", &MainWindow::ToggleAnimation},
-      {"Rulers", &MainWindow::ToggleRulers},
-      {"DarkTheme", &MainWindow::ToggleDarkTheme},
-      {"CommandPalette", &MainWindow::OpenPalette},
-      {"ShortcutSheet", &MainWindow::OpenShortcutSheet},
-      {"SaveAs", &MainWindow::SaveAs},
-      {"ExportPdf", &MainWindow::ExportPdf},
-      {"ExportImages", &MainWindow::ExportImages},
-      {"Print", &MainWindow::Print},
-      {"Search", &MainWindow::OpenSearch},
-      {"Replace", &MainWindow::OpenReplace},
-      {"SearchNext", &MainWindow::SearchNext},
-      {"SearchPrevious", &MainWindow::SearchPrevious},
-      {"FormulesSetup", &MainWindow::OpenFormulas},
-      {"VirtualDevices", &MainWindow::OpenSources},
-      {"Styles", &MainWindow::OpenStyles}};
-  for (const auto& [known, run] : kRows) {
-    if (std::string_view(known) != name) continue;
-    (this->*run)();
+  if (const Act act = ActOf(name)) {
+    (this->*act)();
     ShowSwitches();
     return true;
   }
@@ -100,9 +115,13 @@ void MainWindow::ApplySurround() {
   pages_->View().RepaintPage();
 }
 
+void MainWindow::EditText() {
+  if (!outline_->RenameChosen()) pages_->View().EditContent();
+}
+
 // --- Sheets ---
 
-void MainWindow::OpenPalette() { (new CommandPalette(actions_->All(), this))->show(); }
+void MainWindow::OpenPalette() { (new CommandPalette(*actions_, this))->show(); }
 
 void MainWindow::OpenShortcutSheet() { (new ShortcutSheet(actions_->All(), this))->open(); }
 
@@ -111,6 +130,17 @@ void MainWindow::OpenStyles() {
   dialog.changed = [this](const std::vector<StyleRenaming>& renamings) {
     frame_->StylesModified(renamings);
     properties_->Reload();
+  };
+  dialog.exec();
+}
+
+void MainWindow::OpenImageStore() {
+  ImageStoreDialog dialog(frame_->Report(), this);
+  dialog.changed = [this] { frame_->ImagesModified(); };
+  dialog.useChosen = [this](const PictureUse& use) {
+    frame_->ShowPage(use.page);
+    if (!use.cardId.empty() && frame_->CurrentPage().SelectControlById(use.cardId)) pages_->View().RevealSelection();
+    RefreshSoon();
   };
   dialog.exec();
 }

@@ -2,11 +2,14 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include "desktop/MainWindow.h"
 #include "desktop/TextIds.h"
+#include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/Export.h"
+#include "desktop/dialogs/ExportDialog.h"
 #include "desktop/dialogs/ExportNames.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/MessageBar.h"
@@ -18,7 +21,20 @@ namespace xrpt {
 
 namespace {
 
-constexpr int kPictureDpi = 150;
+constexpr char kPdf[] = ".pdf";
+constexpr char kPng[] = ".png";
+constexpr char kSvg[] = ".svg";
+
+QStringList EndingsOf(ExportFormat format) {
+  if (format == ExportFormat::Pdf) return {QLatin1String(kPdf)};
+  QStringList pictures = {QLatin1String(kPng), QLatin1String(kSvg)};
+  if (format == ExportFormat::Svg) pictures.swapItemsAt(0, 1);
+  return pictures;
+}
+
+bool IsDrawing(const Path& file) {
+  return ToQString(file.extension().wstring()).compare(QLatin1String(kSvg), Qt::CaseInsensitive) == 0;
+}
 
 QString EndingsAsFilter(const QStringList& endings) { return QStringLiteral("*") + endings.join(QLatin1String(" *")); }
 
@@ -40,20 +56,24 @@ bool MayReplace(QWidget* parent, const std::vector<Path>& files) {
 
 }  // namespace
 
-void MainWindow::ExportPdf() {
-  const Path file = AskForFile(this, text::kExportPdf, frame_->Caption(), {QStringLiteral(".pdf")});
-  if (!file.empty()) WriteExport({file}, {PdfOf(frame_->Report())}, &MainWindow::ExportPdf);
-}
+void MainWindow::ExportPdf() { Export(ExportFormat::Pdf); }
 
-void MainWindow::ExportImages() {
-  const QStringList endings = {QStringLiteral(".png"), QStringLiteral(".svg")};
-  const Path file = AskForFile(this, text::kExportImages, frame_->Caption(), endings);
+void MainWindow::ExportImages() { Export(ExportFormat::Png); }
+
+// What was chosen in the first dialog is the ending that the second one offers; one that is typed counts.
+void MainWindow::Export(ExportFormat format) {
+  const auto choice = ExportDialog::Choose(format, frame_->PageCount(), frame_->CurrentPageIndex(), this);
+  if (!choice) return;
+  const Path file = AskForFile(this, text::kExportTitle, frame_->Caption(), EndingsOf(choice->format));
   if (file.empty()) return;
-  const std::vector<Path> files = PageFiles(file, frame_->PageCount());
+  if (choice->format == ExportFormat::Pdf)
+    return WriteExport({file}, {PdfOf(frame_->Report(), choice->pages)}, &MainWindow::ExportPdf);
+  const std::vector<Path> files = PageFiles(file, choice->pages);
   if (!MayReplace(this, files)) return;
-  const bool isDrawing = ToQString(file.extension().wstring()).compare(endings[1], Qt::CaseInsensitive) == 0;
-  WriteExport(files, isDrawing ? SvgsOf(frame_->Report()) : PngsOf(frame_->Report(), kPictureDpi),
-              &MainWindow::ExportImages);
+  WriteExport(
+      files,
+      IsDrawing(file) ? SvgsOf(frame_->Report(), choice->pages) : PngsOf(frame_->Report(), choice->pages, choice->dpi),
+      &MainWindow::ExportImages);
 }
 
 // Nothing of the user's is at stake when an export fails, so what is left to say is which file and why.
@@ -77,6 +97,18 @@ void MainWindow::Print() {
   QPrintDialog dialog(&printer, this);
   if (dialog.exec() != QDialog::Accepted) return;
   if (!PrintReport(frame_->Report(), printer)) Announce(Translated(text::kCannotPrint));
+}
+
+// The preview's own button prints what it shows.
+void MainWindow::PrintPreview() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(ToQString(frame_->Caption()));
+  QPrintPreviewDialog dialog(&printer, this);
+  dialog.setWindowTitle(Translated(text::kPrintPreview));
+  connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
+          [this](QPrinter* onto) { PrintReport(frame_->Report(), *onto); });
+  KeepSize(dialog, L"PrintPreview", {900, 700});
+  dialog.exec();
 }
 
 }  // namespace xrpt

@@ -59,17 +59,21 @@ void ProblemsDesk::AddNotice(Severity severity, const QString& text) {
   Call(listWanted);
 }
 
-bool ProblemsDesk::RunCommand(std::string_view name) {
-  if (name == "Validate") {
-    Validate();
-  } else if (name == "NextProblem") {
-    panel_->Step(1);
-  } else if (name == "PreviousProblem") {
-    panel_->Step(-1);
-  } else {
-    return false;
+ProblemsDesk::Act ProblemsDesk::ActOf(std::string_view command) {
+  static constexpr std::pair<std::string_view, Act> kRows[] = {
+      {"Validate", [](ProblemsDesk& desk) { desk.Validate(); }},
+      {"NextProblem", [](ProblemsDesk& desk) { desk.panel_->Step(1); }},
+      {"PreviousProblem", [](ProblemsDesk& desk) { desk.panel_->Step(-1); }}};
+  for (const auto& [name, act] : kRows) {
+    if (name == command) return act;
   }
-  return true;
+  return nullptr;
+}
+
+bool ProblemsDesk::RunCommand(std::string_view name) {
+  const Act act = ActOf(name);
+  if (act) act(*this);
+  return act != nullptr;
 }
 
 void ProblemsDesk::Validate() {

@@ -32,6 +32,7 @@ class ProblemsDesk final : public QObject {
   void AddNotice(Severity severity, const QString& text);
   // False for a command that is none of these.
   bool RunCommand(std::string_view name);
+  static bool Knows(std::string_view command) { return ActOf(command) != nullptr; }
   // Before the host's services go.
   void Stop();
 
@@ -43,6 +44,9 @@ class ProblemsDesk final : public QObject {
   std::function<void()> acted;
 
  private:
+  using Act = void (*)(ProblemsDesk&);
+  // Null for a command that is none of ours.
+  static Act ActOf(std::string_view command);
   void Validate();
   void ListChanged();
 

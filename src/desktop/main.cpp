@@ -1,5 +1,5 @@
-// The editor as a program: a host on the folders named on the command line, one window, the report asked for or the one
-// that was open last.
+// The editor as a program: a host on the folders named on the command line, one window, the report asked for or the
+// start page.
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QLocale>
@@ -11,6 +11,7 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
+#include "editor/RVEditControlWnd.h"
 #include "host/qt/QtHost.h"
 #include "platform/Text.h"
 
@@ -22,6 +23,7 @@ struct Arguments {
   std::string language;
   std::string theme;
   std::string report;
+  std::string samples;
 };
 
 // Status of the program when it should end at once.
@@ -32,6 +34,7 @@ std::optional<int> ReadArguments(int argc, char** argv, Arguments& arguments) {
   program.add_option("--language", arguments.language, "Language of the texts (en, es)");
   program.add_option("--theme", arguments.theme, "light, dark or system")
       ->check(CLI::IsMember({"light", "dark", "system"}));
+  program.add_option("--samples", arguments.samples, "Folder of reports to begin new ones from")->type_name("DIR");
   program.add_option("report", arguments.report, "Report to open, by name or file")->type_name("REPORT");
   program.footer("Example: xrpt-editor --config examples/config --images examples/images Consumo_mensual");
   try {
@@ -59,7 +62,8 @@ int main(int argc, char** argv) {
   options.cfgFolder = arguments.config;
   options.imagesFolder = arguments.images;
   options.language = arguments.language.empty() ? QLocale().name().toStdString() : arguments.language;
-  const auto host = xrpt::MakeQtHost(xrpt::WithUserFolders(options));
+  options = xrpt::WithUserFolders(options);
+  const auto host = xrpt::MakeQtHost(options);
   xrpt::InstallHost(host.get());
   xrpt::TranslateToolkit(application, options.language);
 
@@ -69,8 +73,10 @@ int main(int argc, char** argv) {
   int status = 0;
   {
     xrpt::MainWindow window;
+    window.SetSamples(arguments.samples);
+    window.Frame().RememberIn(options.stateFolder / "notes");
     if (arguments.report.empty()) {
-      window.OpenLast();
+      window.ShowStart();
     } else {
       window.Open(xrpt::FromUtf8(arguments.report));
     }

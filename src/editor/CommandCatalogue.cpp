@@ -1,5 +1,7 @@
 #include "editor/CommandCatalogue.h"
 
+#include <utility>
+
 #include "canvas/InsertTools.h"
 #include "canvas/KeepOnPage.h"
 #include "canvas/UndoTexts.h"
@@ -132,6 +134,24 @@ bool IsLandscape(const Frame& frame) { return frame.CurrentPage().Page().propert
 bool IsPortrait(const Frame& frame) { return !IsLandscape(frame); }
 bool IsGridOn(const Frame& frame) { return frame.IsGridOn(); }
 bool AreMarksShown(const Frame& frame) { return frame.AreMarksShown(); }
+bool IsLocked(const Frame& frame) { return frame.CurrentPage().AreSelectedLocked(); }
+bool HasLocked(const Frame& frame) { return frame.CurrentPage().HasNoted(&CardNote::locked); }
+bool HasHidden(const Frame& frame) { return frame.CurrentPage().HasNoted(&CardNote::hidden); }
+bool HasGroup(const Frame& frame) { return frame.CurrentPage().IsAnySelectedGrouped(); }
+bool ToggleLock(Frame& frame, Arguments) {
+  frame.CurrentPage().LockSelected(!IsLocked(frame));
+  return true;
+}
+template <bool On>
+bool GroupCards(Frame& frame, Arguments) {
+  frame.CurrentPage().GroupSelected(On);
+  return true;
+}
+bool IsPreview(const Frame& frame) { return frame.IsPreview(); }
+bool IsGridShown(const Frame& frame) { return frame.IsGridShown(); }
+bool IsActualSize(const Frame& frame) { return frame.CurrentPage().Zoom() == 1.0; }
+bool ActualSize(Frame& frame, Arguments) { return frame.SetZoom(1.0); }
+bool OneAlone(const Frame& frame) { return Selected(frame) == 1; }
 bool IsFitPage(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitPageEntry; }
 bool IsFitWidth(const Frame& frame) { return frame.ZoomEntry() == Frame::kFitWidthEntry; }
 
@@ -144,12 +164,20 @@ constexpr auto kReport = RibbonTab::Report;
 
 // name, tab, group, label, icon, keys, large, enabled, checked, run
 constexpr Command kCommands[] = {
+    {"NewReport", kHome, text::kFileGroup, text::kNewReport, "new", "Ctrl+N", true, Always, nullptr, NewReport},
+    {"Open", kHome, text::kFileGroup, text::kOpen, "open", "Ctrl+O", true, Always, nullptr,
+     OnFrame<&Frame::OpenFromList>},
+    {"Save", kHome, text::kFileGroup, text::kSave, "save", "Ctrl+S", true, IsModified, nullptr, OnFrame<&Frame::Save>},
     {"Paste", kHome, text::kClipboardGroup, text::kPaste, "paste", "Ctrl+V", true, CanPaste, nullptr,
      OnPage<&RVEditTemplateWnd::ControlPaste>},
     {"Cut", kHome, text::kClipboardGroup, text::kCut, "cut", "Ctrl+X", false, OneSelected, nullptr,
      OnPage<&RVEditTemplateWnd::ControlCut>},
     {"Copy", kHome, text::kClipboardGroup, text::kCopy, "copy", "Ctrl+C", false, OneSelected, nullptr,
      OnPage<&RVEditTemplateWnd::ControlCopy>},
+    {"PasteInPlace", kHome, text::kClipboardGroup, text::kPasteInPlace, "paste-in-place", "Ctrl+Shift+V", false, Always,
+     nullptr, OnPage<&RVEditTemplateWnd::ControlPasteInPlace>},
+    {"Duplicate", kHome, text::kClipboardGroup, text::kDuplicate, "duplicate", "Ctrl+D", false, OneSelected, nullptr,
+     OnPage<&RVEditTemplateWnd::DuplicateSelectedControls>},
     {"Delete", kHome, text::kClipboardGroup, text::kDelete, "delete", "Del", false, OneSelected, nullptr,
      OnPage<&RVEditTemplateWnd::ControlDelete>},
     {"Undo", kHome, text::kHistoryGroup, text::kUndo, "undo", "Ctrl+Z", true, CanUndo, nullptr, OnFrame<&Frame::Undo>,
@@ -158,6 +186,9 @@ constexpr Command kCommands[] = {
      OnFrame<&Frame::Redo>, RedoDetail},
     {"SelectAll", kHome, text::kSelectGroup, text::kSelectAll, "select-all", "Ctrl+E Ctrl+A", true, HasCards, nullptr,
      OnPage<&RVEditTemplateWnd::ControlSelectAll>},
+    {"SelectBelow", kHome, text::kSelectGroup, text::kSelectBelow, "select-below", "Alt+Shift+D", false, OneAlone,
+     nullptr, OnPage<&RVEditTemplateWnd::SelectBelow>},
+    {"EditText", kHome, text::kSelectGroup, text::kEditText, "edit-text", "F2", false, OneAlone, nullptr, nullptr},
     {"Search", kHome, text::kFindGroup, text::kSearch, "find", "Ctrl+F", true, Always, nullptr, nullptr},
     {"Replace", kHome, text::kFindGroup, text::kReplaceText, "replace", "Ctrl+H", true, Always, nullptr, nullptr},
     {"SearchNext", kHome, text::kFindGroup, text::kSearchNext, "find-next", "F3", false, Always, nullptr, nullptr},
@@ -196,25 +227,25 @@ constexpr Command kCommands[] = {
     {"AlignBottom", kArrange, text::kAlignGroup, text::kAlignBottom, "align-bottom", "Alt+Shift+B", false, TwoSelected,
      nullptr, Align<8>},
     {"AlignSelectionLeft", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionLeft, "align-selection-left",
-     "Ctrl+Alt+Shift+L", false, TwoSelected, nullptr, AlignToSelection<1>},
+     "Ctrl+K,L", false, TwoSelected, nullptr, AlignToSelection<1>},
     {"AlignSelectionCenterHorizontally", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionCenterH,
-     "align-selection-center-h", "Ctrl+Alt+Shift+C", false, TwoSelected, nullptr, AlignToSelection<32>},
+     "align-selection-center-h", "Ctrl+K,C", false, TwoSelected, nullptr, AlignToSelection<32>},
     {"AlignSelectionRight", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionRight, "align-selection-right",
-     "Ctrl+Alt+Shift+R", false, TwoSelected, nullptr, AlignToSelection<2>},
+     "Ctrl+K,R", false, TwoSelected, nullptr, AlignToSelection<2>},
     {"AlignSelectionTop", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionTop, "align-selection-top",
-     "Ctrl+Alt+Shift+T", false, TwoSelected, nullptr, AlignToSelection<4>},
+     "Ctrl+K,T", false, TwoSelected, nullptr, AlignToSelection<4>},
     {"AlignSelectionCenterVertically", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionCenterV,
-     "align-selection-center-v", "Ctrl+Alt+Shift+M", false, TwoSelected, nullptr, AlignToSelection<64>},
+     "align-selection-center-v", "Ctrl+K,M", false, TwoSelected, nullptr, AlignToSelection<64>},
     {"AlignSelectionBottom", kArrange, text::kAlignSelectionGroup, text::kAlignSelectionBottom,
-     "align-selection-bottom", "Ctrl+Alt+Shift+B", false, TwoSelected, nullptr, AlignToSelection<8>},
+     "align-selection-bottom", "Ctrl+K,B", false, TwoSelected, nullptr, AlignToSelection<8>},
     {"CenterHorizontally", kArrange, text::kCenterGroup, text::kCenterH, "center-h", "Alt+Shift+X", false, OneSelected,
      nullptr, Justify<0, false>},
     {"CenterVertically", kArrange, text::kCenterGroup, text::kCenterV, "center-v", "Alt+Shift+Y", false, OneSelected,
      nullptr, Justify<1, false>},
-    {"CenterGroupHorizontally", kArrange, text::kCenterGroup, text::kCenterGroupH, "center-group-h", "Ctrl+Alt+Shift+X",
-     false, TwoSelected, nullptr, Justify<0, true>},
-    {"CenterGroupVertically", kArrange, text::kCenterGroup, text::kCenterGroupV, "center-group-v", "Ctrl+Alt+Shift+Y",
-     false, TwoSelected, nullptr, Justify<1, true>},
+    {"CenterGroupHorizontally", kArrange, text::kCenterGroup, text::kCenterGroupH, "center-group-h", "Ctrl+K,X", false,
+     TwoSelected, nullptr, Justify<0, true>},
+    {"CenterGroupVertically", kArrange, text::kCenterGroup, text::kCenterGroupV, "center-group-v", "Ctrl+K,Y", false,
+     TwoSelected, nullptr, Justify<1, true>},
     {"DistributeHorizontally", kArrange, text::kDistributeGroup, text::kDistributeH, "distribute-h", "Alt+Shift+H",
      false, TwoSelected, nullptr, Distribute<0>},
     {"DistributeVertically", kArrange, text::kDistributeGroup, text::kDistributeV, "distribute-v", "Alt+Shift+V", false,
@@ -225,10 +256,14 @@ constexpr Command kCommands[] = {
      TwoSelected, nullptr, SameSize<true, false>},
     {"ResizeVertically", kArrange, text::kSizeGroup, text::kSameHeight, "same-height", "Alt+Shift+E", false,
      TwoSelected, nullptr, SameSize<false, true>},
-    {"BringToFront", kArrange, text::kOrderGroup, text::kBringToFront, "bring-to-front", "Ctrl+Shift+]", true,
-     OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlBringToFront>},
-    {"SendToBack", kArrange, text::kOrderGroup, text::kSendToBack, "send-to-back", "Ctrl+Shift+[", true, OneSelected,
-     nullptr, OnPage<&RVEditTemplateWnd::ControlSendToBack>},
+    {"BringToFront", kArrange, text::kOrderGroup, text::kBringToFront, "bring-to-front", "Ctrl+Shift+Home Ctrl+Shift+]",
+     true, OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlBringToFront>},
+    {"SendToBack", kArrange, text::kOrderGroup, text::kSendToBack, "send-to-back", "Ctrl+Shift+End Ctrl+Shift+[", true,
+     OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlSendToBack>},
+    {"BringForward", kArrange, text::kOrderGroup, text::kBringForward, "bring-forward", "Ctrl+Shift+Up Ctrl+]", false,
+     OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlBringForward>},
+    {"SendBackward", kArrange, text::kOrderGroup, text::kSendBackward, "send-backward", "Ctrl+Shift+Down Ctrl+[", false,
+     OneSelected, nullptr, OnPage<&RVEditTemplateWnd::ControlSendBackward>},
     {"BringBack", kArrange, text::kOrderGroup, text::kBringBack, "bring-back", "Ctrl+Shift+B", true, HasLostCards,
      nullptr, BringBack},
 
@@ -245,12 +280,13 @@ constexpr Command kCommands[] = {
      nullptr, PreviousPage},
     {"NextPage", kPage, text::kPagesGroup, text::kNextPage, "next-page", "PgDown", false, HasNextPage, nullptr,
      NextPage},
-    {"Portrait", kPage, text::kOrientationGroup, text::kPortrait, "portrait", "Ctrl+Alt+P", true, Always, IsPortrait,
+    {"Config", kPage, text::kOrientationGroup, text::kConfig, "page-properties", "Alt+Return", true, Always, nullptr,
+     OnFrame<&Frame::OnConfig>},
+    {"Portrait", kPage, text::kOrientationGroup, text::kPortrait, "portrait", "Ctrl+K,P", true, Always, IsPortrait,
      Orient<1>},
-    {"Landscape", kPage, text::kOrientationGroup, text::kLandscape, "landscape", "Ctrl+Alt+L", true, Always,
-     IsLandscape, Orient<0>},
-    {"Grid", kPage, text::kGridGroup, text::kGrid, "grid", "Ctrl+G", true, Always, IsGridOn,
-     OnFrame<&Frame::ToggleGrid>},
+    {"Landscape", kPage, text::kOrientationGroup, text::kLandscape, "landscape", "Ctrl+K,O", true, Always, IsLandscape,
+     Orient<0>},
+    {"Grid", kPage, text::kGridGroup, text::kGrid, "grid", "F9", true, Always, IsGridOn, OnFrame<&Frame::ToggleGrid>},
 
     {"ZoomIn", kView, text::kZoomGroup, text::kZoomIn, "zoom-in", "Ctrl++ Ctrl+=", false, CanZoomIn, nullptr,
      OnFrame<&Frame::ZoomIn>},
@@ -260,35 +296,53 @@ constexpr Command kCommands[] = {
      OnFrame<&Frame::FitPage>},
     {"FitWidth", kView, text::kZoomGroup, text::kFitWidth, "fit-width", "Ctrl+9", true, Always, IsFitWidth,
      OnFrame<&Frame::FitWidth>},
-    {"SmartGuides", kView, text::kShowGroup, text::kSmartGuides, "guides", "Ctrl+Shift+G", true, Always, nullptr,
-     nullptr},
+    {"ActualSize", kView, text::kZoomGroup, text::kActualSize, "zoom-actual", "Ctrl+1", false, Always, IsActualSize,
+     ActualSize},
+    {"ZoomToSelection", kView, text::kZoomGroup, text::kZoomToSelection, "zoom-selection", "Ctrl+2", false, OneSelected,
+     nullptr, OnFrame<&Frame::ZoomToSelection>},
+    {"Preview", kView, text::kShowGroup, text::kPreview, "preview", "F5", true, Always, IsPreview,
+     OnFrame<&Frame::TogglePreview>},
+    {"ShowGrid", kView, text::kShowGroup, text::kShowGrid, "show-grid", "Shift+F9", true, Always, IsGridShown,
+     OnFrame<&Frame::ToggleGridShown>},
+    {"SmartGuides", kView, text::kShowGroup, text::kSmartGuides, "guides", "Ctrl+F9", true, Always, nullptr, nullptr},
     {"Animation", kView, text::kShowGroup, text::kAnimation, "animation", "Ctrl+Shift+A", true, Always, nullptr,
      nullptr},
     {"Rulers", kView, text::kShowGroup, text::kRulers, "rulers", "Ctrl+R", true, Always, nullptr, nullptr},
     {"DarkTheme", kView, text::kShowGroup, text::kDarkTheme, "theme", "Ctrl+Shift+D", true, Always, nullptr, nullptr},
     {"ProblemMarks", kView, text::kShowGroup, text::kProblemMarks, "warning", "Ctrl+Shift+M", true, Always,
      AreMarksShown, OnFrame<&Frame::ToggleMarks>},
+    {"Group", kView, text::kHoldGroup, text::kGroup, "group", "Ctrl+G", false, TwoSelected, nullptr, GroupCards<true>},
+    {"Ungroup", kView, text::kHoldGroup, text::kUngroup, "ungroup", "Ctrl+Shift+G", false, HasGroup, nullptr,
+     GroupCards<false>},
+    {"Lock", kView, text::kHoldGroup, text::kLock, "lock", "Ctrl+Shift+K", false, OneSelected, IsLocked, ToggleLock},
+    {"UnlockAll", kView, text::kHoldGroup, text::kUnlockAll, "unlock", "Ctrl+K,U", false, HasLocked, nullptr,
+     OnPage<&RVEditTemplateWnd::UnlockAll>},
+    {"HideCards", kView, text::kHoldGroup, text::kHideCards, "hide", "Ctrl+Shift+H", false, OneSelected, nullptr,
+     OnPage<&RVEditTemplateWnd::HideSelected>},
+    {"ShowAll", kView, text::kHoldGroup, text::kShowAll, "preview", "Ctrl+K,H", false, HasHidden, nullptr,
+     OnPage<&RVEditTemplateWnd::ShowAll>},
     {"OutlinePanel", kView, text::kPanelsGroup, text::kOutlinePanel, "pages-panel", "Alt+1", false, Always, nullptr,
      nullptr},
     {"PropertiesPanel", kView, text::kPanelsGroup, text::kPropertiesPanel, "properties-panel", "Alt+2", false, Always,
      nullptr, nullptr},
+    {"HistoryPanel", kView, text::kPanelsGroup, text::kHistoryPanel, "history-panel", "Alt+4", false, Always, nullptr,
+     nullptr},
     {"ProblemsPanel", kView, text::kPanelsGroup, text::kProblemsPanel, "problems-panel", "Alt+3", false, Always,
      nullptr, nullptr},
     {"CommandPalette", kView, text::kHelpGroup, text::kCommandPalette, "palette", "Ctrl+Shift+P", true, Always, nullptr,
      nullptr},
     {"ShortcutSheet", kView, text::kHelpGroup, text::kShortcutSheet, "shortcuts", "F1", true, Always, nullptr, nullptr},
 
-    {"NewReport", kReport, text::kFileGroup, text::kNewReport, "new", "Ctrl+N", true, Always, nullptr, NewReport},
-    {"Open", kReport, text::kFileGroup, text::kOpen, "open", "Ctrl+O", true, Always, nullptr,
-     OnFrame<&Frame::OpenFromList>},
-    {"Save", kReport, text::kFileGroup, text::kSave, "save", "Ctrl+S", true, IsModified, nullptr,
-     OnFrame<&Frame::Save>},
+    {"StartPage", kReport, text::kFileGroup, text::kStartPageCommand, "start-page", "Ctrl+Shift+O", true, Always,
+     nullptr, nullptr},
     {"SaveAs", kReport, text::kFileGroup, text::kSaveAs, "save-as", "Ctrl+Shift+S", true, Always, nullptr, nullptr},
     {"FormulesSetup", kReport, text::kDataGroup, text::kFormulasCommand, "formulas", "Ctrl+Shift+F", true, Always,
      nullptr, nullptr},
-    {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+Shift+V", true,
+    {"VirtualDevices", kReport, text::kDataGroup, text::kVirtualDevicesCommand, "virtual-devices", "Ctrl+K,V", true,
      Always, nullptr, nullptr},
     {"Styles", kReport, text::kResourcesGroup, text::kStyles, "styles", "Ctrl+Shift+Y", true, Always, nullptr, nullptr},
+    {"ImageStore", kReport, text::kResourcesGroup, text::kImageStore, "image-store", "Ctrl+Shift+J", true, Always,
+     nullptr, nullptr},
     {"Validate", kReport, text::kChecksGroup, text::kValidate, "validate", "F7", true, Always, nullptr, nullptr},
     {"NextProblem", kReport, text::kChecksGroup, text::kNextProblem, "chevron-down", "F8", false, Always, nullptr,
      nullptr},
@@ -296,7 +350,9 @@ constexpr Command kCommands[] = {
      nullptr, nullptr},
     {"ExportPdf", kReport, text::kOutputGroup, text::kExportPdf, "export-pdf", "Ctrl+Shift+E", true, Always, nullptr,
      nullptr},
-    {"ExportImages", kReport, text::kOutputGroup, text::kExportImages, "export-images", "Ctrl+Alt+E", true, Always,
+    {"ExportImages", kReport, text::kOutputGroup, text::kExportImages, "export-images", "Ctrl+Shift+I", true, Always,
+     nullptr, nullptr},
+    {"PrintPreview", kReport, text::kOutputGroup, text::kPrintPreview, "print-preview", "Ctrl+F2", true, Always,
      nullptr, nullptr},
     {"Print", kReport, text::kOutputGroup, text::kPrint, "print", "Ctrl+P", true, Always, nullptr, nullptr},
 };
@@ -312,6 +368,23 @@ const Command* FindCommand(std::string_view name) {
     if (name == command.name) return &command;
   }
   return nullptr;
+}
+
+int WhyDisabledTextId(const Command& command) {
+  static constexpr std::pair<bool (*)(const Frame&), int> kRows[] = {
+      {OneSelected, text::kWhySelectOne},     {OneAlone, text::kWhySelectOneAlone},
+      {TwoSelected, text::kWhySelectTwo},     {CanPaste, text::kWhyNothingCopied},
+      {CanUndo, text::kWhyNothingToUndo},     {CanRedo, text::kWhyNothingToRedo},
+      {HasCards, text::kWhyNoCards},          {HasNextPage, text::kWhyLastPage},
+      {HasPreviousPage, text::kWhyFirstPage}, {HasSeveralPages, text::kWhyOnlyPage},
+      {IsModified, text::kWhyNothingToSave},  {HasLostCards, text::kWhyNothingLost},
+      {HasLocked, text::kWhyNothingLocked},   {HasHidden, text::kWhyNothingHidden},
+      {HasGroup, text::kWhyNoGroup},          {CanZoomIn, text::kWhyLargest},
+      {CanZoomOut, text::kWhySmallest}};
+  for (const auto& [enabled, textId] : kRows) {
+    if (command.isEnabled == enabled) return textId;
+  }
+  return 0;
 }
 
 bool RunCommand(RVEditControlWnd& frame, const Command& command, CommandArguments arguments) {

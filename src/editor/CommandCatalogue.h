@@ -42,6 +42,9 @@ std::span<const Command> CommandCatalogue();
 // Null for a name nobody knows.
 const Command* FindCommand(std::string_view name);
 
+// What a command that is not enabled waits for, as a text id; 0 when it does not say.
+int WhyDisabledTextId(const Command& command);
+
 // Runs a command that is enabled; false when it is not, or when nothing was done.
 bool RunCommand(RVEditControlWnd& frame, const Command& command, CommandArguments arguments = {});
 

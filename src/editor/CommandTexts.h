@@ -1,5 +1,5 @@
-// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799: labels below 61600, the
-// sentence of a command's tooltip 200 above its label.
+// Text ids of commands, ribbon tabs and groups, in the catalogues' range 61400 to 61799: labels
+// below 61600, the sentence of a command's tooltip 200 above its label.
 #pragma once
 
 namespace xrpt::text {
@@ -115,5 +115,46 @@ inline constexpr int kProblemsPanel = 61543;
 inline constexpr int kResourcesGroup = 61560;
 inline constexpr int kStyles = 61561;
 inline constexpr int kBringBack = 61544;
+inline constexpr int kDuplicate = 61580;
+inline constexpr int kPasteInPlace = 61581;
+inline constexpr int kBringForward = 61582;
+inline constexpr int kSendBackward = 61583;
+inline constexpr int kSelectBelow = 61584;
+inline constexpr int kEditText = 61585;
+inline constexpr int kPreview = 61586;
+inline constexpr int kShowGrid = 61587;
+inline constexpr int kActualSize = 61588;
+inline constexpr int kZoomToSelection = 61589;
+inline constexpr int kHistoryPanel = 61590;
+inline constexpr int kStartPageCommand = 61591;
+inline constexpr int kHoldGroup = 61592;
+inline constexpr int kLock = 61593;
+inline constexpr int kUnlockAll = 61594;
+inline constexpr int kHideCards = 61595;
+inline constexpr int kShowAll = 61596;
+inline constexpr int kGroup = 61597;
+inline constexpr int kUngroup = 61598;
+
+// Why a command cannot run.
+inline constexpr int kWhySelectOne = 62625;
+inline constexpr int kWhySelectOneAlone = 62626;
+inline constexpr int kWhySelectTwo = 62627;
+inline constexpr int kWhyNothingCopied = 62628;
+inline constexpr int kWhyNothingToUndo = 62629;
+inline constexpr int kWhyNothingToRedo = 62630;
+inline constexpr int kWhyNoCards = 62631;
+inline constexpr int kWhyLastPage = 62632;
+inline constexpr int kWhyFirstPage = 62633;
+inline constexpr int kWhyOnlyPage = 62634;
+inline constexpr int kWhyNothingToSave = 62635;
+inline constexpr int kWhyNothingLost = 62636;
+inline constexpr int kWhyLargest = 62637;
+inline constexpr int kWhySmallest = 62638;
+inline constexpr int kWhyNothingLocked = 62639;
+inline constexpr int kWhyNothingHidden = 62645;
+inline constexpr int kWhyNoGroup = 62646;
+inline constexpr int kConfig = 61570;
+inline constexpr int kImageStore = 61571;
+inline constexpr int kPrintPreview = 61572;
 
 }  // namespace xrpt::text

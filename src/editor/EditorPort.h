@@ -14,11 +14,15 @@
 
 namespace xrpt {
 
+class CDlgGlobalProperties;
 class RVEditTemplateWnd;
 class RVReport;
 struct LoadResult;
 
 enum class Answer { Yes, No };
+
+// The profile's section with the layout of ribbon and bars.
+inline constexpr wchar_t kBarStateSection[] = L"ReportRibbonBars";
 
 class EditorPort {
  public:
@@ -59,6 +63,15 @@ class EditorPort {
   virtual void ShowDifferences(const Path&, const RVReport&) {}
   // The report list in its choosing mode, `current` preselected. Nothing when cancelled.
   virtual std::optional<std::wstring> ChooseReport(const std::wstring& current) = 0;
+  // The properties of the page shown, to be changed. True for OK.
+  virtual bool EditPageProperties(CDlgGlobalProperties&) { return false; }
+  // The host stopped what moves on the page, or lets it go on.
+  virtual void TimerStateChanged(bool) {}
+  // Puts the bars back where they were, and remembers where they are, under a section of the profile.
+  virtual void LoadBarState(const std::wstring&) {}
+  virtual void SaveBarState(const std::wstring&) {}
+  // A command by its number that belongs to the window round the editor. False when nobody knows it.
+  virtual bool PassCommand(int) { return false; }
 };
 
 }  // namespace xrpt

@@ -64,6 +64,7 @@ std::optional<LockState> RVEditControlWnd::LockOf(const Path& file) {
 void RVEditControlWnd::Show(RVReport report, const LockState& lock) {
   DropPages();
   report_ = std::move(report);
+  ReadNotes();
   guard_.Drop();
   guard_.Enter(report_.File(), lock);
   lostStyles_ = 0;
@@ -129,6 +130,30 @@ bool RVEditControlWnd::NewReport() {
   return true;
 }
 
+bool RVEditControlWnd::OpenInstead(const Path& file) {
+  if (!LetGoOfChanges()) return false;
+  const LoadResult result = OpenFile(file, nullptr);
+  return result.loaded && !result.cancelled;
+}
+
+LoadResult RVEditControlWnd::NewFrom(const Path& sample) {
+  if (!LetGoOfChanges()) {
+    LoadResult cancelled;
+    cancelled.cancelled = true;
+    return cancelled;
+  }
+  return LoadWith([&](RVReport& report) {
+    LoadResult loaded = report.LoadFile(sample);
+    if (!loaded.loaded) return loaded;
+    report.BelongTo({});
+    report.name.clear();
+    report.id = RVReport().id;
+    report.modified = false;
+    loaded.file.clear();
+    return loaded;
+  });
+}
+
 // --- Letting go ---
 
 bool RVEditControlWnd::LetGoOfChanges() {
@@ -166,6 +191,7 @@ bool RVEditControlWnd::Conclude(SaveResult result) {
     guard_.Drop();
     if (options_.guardsFiles && report_.File() != guard_.File())
       guard_.Enter(report_.File(), guard_.Take(report_.File(), false));
+    if (!notes_.IsEmpty()) KeepNotes();
     ReportListChanged();
   } else if (lastSave_.outcome != SaveOutcome::Cancelled) {
     port_.SaveFailed(lastSave_);

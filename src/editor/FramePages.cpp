@@ -2,7 +2,9 @@
 #include <algorithm>
 
 #include "canvas/UndoTexts.h"
+#include "editor/CDlgGlobalProperties.h"
 #include "editor/EditorTexts.h"
+#include "editor/NotesStore.h"
 #include "editor/RVEditControlWnd.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
@@ -34,6 +36,9 @@ void RVEditControlWnd::Attach(PageSlot& slot) {
   slot.window->SetDpi(CurrentHost().screen->DpiX(), CurrentHost().screen->DpiY());
   slot.window->SetFontFactor(slot.page->fontFactor);
   slot.window->SetInsertKind(tool_);
+  if (!notesFolder_.empty()) slot.window->SetNotes(&notes_, [this] { KeepNotes(); });
+  slot.window->SetPreview(preview_);
+  slot.window->ShowGrid(gridShown_);
   slot.window->InitializeScrollBars(false);
   port_.PageWindowReady(*slot.port, *slot.window);
 }
@@ -138,6 +143,29 @@ bool RVEditControlWnd::SetOrientation(int orientation) {
   return swapped;
 }
 
+bool RVEditControlWnd::OnConfig() {
+  EndEdits();
+  CDlgGlobalProperties dialog(CurrentPage().Page().properties);
+  return port_.EditPageProperties(dialog) && TakeProperties(dialog);
+}
+
+bool RVEditControlWnd::TakeProperties(const CDlgGlobalProperties& dialog) {
+  if (!dialog.HasChanged() && !dialog.samePaperForAll) return false;
+  ReportEdit edit = Edit({text::kChangePage, 0});
+  for (std::size_t page = 0; page < PageCount(); ++page) {
+    if (page == current_) {
+      edit.Page(page).Properties() = dialog.properties;
+    } else if (dialog.samePaperForAll) {
+      dialog.GivePaper(edit.Page(page).Properties());
+    }
+  }
+  const bool changed = edit.End() || dialog.HasChanged();
+  // A grid that is no step of the history is saved all the same.
+  if (changed && !report_.modified) SetModified(true);
+  port_.StateChanged();
+  return changed;
+}
+
 bool RVEditControlWnd::IsGridOn() const {
   const RVGlobalProperties& page = CurrentPage().Page().properties;
   return page.xgrid > 0.0 || page.ygrid > 0.0;
@@ -152,6 +180,40 @@ bool RVEditControlWnd::ToggleGrid() {
   edit.End();
   // Saved, though pages keep no step of it unless asked to.
   if (!options_.countsGrid) SetModified(true);
+  return true;
+}
+
+// --- Notes ---
+
+void RVEditControlWnd::RememberIn(const Path& folder) {
+  notesFolder_ = folder;
+  ReadNotes();
+  for (const auto& slot : pages_) slot->window->SetNotes(&notes_, [this] { KeepNotes(); });
+}
+
+void RVEditControlWnd::ReadNotes() {
+  notes_ = report_.File().empty() ? CardNotes() : xrpt::ReadNotes(NotesFile(notesFolder_, report_.id));
+}
+
+// A report that was never saved has nobody who could come back to its notes.
+void RVEditControlWnd::KeepNotes() {
+  if (!notesFolder_.empty() && !report_.File().empty()) WriteNotes(NotesFile(notesFolder_, report_.id), notes_);
+  port_.StateChanged();
+}
+
+// --- How pages are looked at ---
+
+bool RVEditControlWnd::TogglePreview() {
+  preview_ = !preview_;
+  for (const auto& slot : pages_) slot->window->SetPreview(preview_);
+  port_.StateChanged();
+  return true;
+}
+
+bool RVEditControlWnd::ToggleGridShown() {
+  gridShown_ = !IsGridShown();
+  for (const auto& slot : pages_) slot->window->ShowGrid(gridShown_);
+  port_.StateChanged();
   return true;
 }
 

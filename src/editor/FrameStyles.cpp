@@ -46,6 +46,7 @@ void RVEditControlWnd::StylesModified(const std::vector<StyleRenaming>& renaming
   }
   edit.End();
   ++resourcesSerial_;
+  properties_.StylesModified();
   port_.StateChanged();
 }
 

@@ -1,4 +1,5 @@
 // The zoom of the page shown: its steps, its ends, and the entries of the zoom box.
+#include <algorithm>
 #include <cmath>
 
 #include "editor/RVEditControlWnd.h"
@@ -45,6 +46,22 @@ bool RVEditControlWnd::Fit(int mode) {
   CurrentPage().RedrawBackground();
   port_.StateChanged();
   return changed;
+}
+
+bool RVEditControlWnd::ZoomToSelection() {
+  constexpr double kRoomAround = 0.85;  // of the window, for the selection
+  RVEditTemplateWnd& page = CurrentPage();
+  const Rect client = PagePort(current_).ClientRect();
+  const Rect area = page.SelectedArea();
+  if (area.Width() <= 0 || area.Height() <= 0) return false;
+  const double grows = kRoomAround * std::min(static_cast<double>(client.Width()) / area.Width(),
+                                              static_cast<double>(client.Height()) / area.Height());
+  page.SetZoom(std::clamp(std::abs(page.Zoom()) * grows, kSmallestZoom, kLargestZoom));
+  const Rect now = page.SelectedArea();
+  page.ScrollTo(page.HorizontalScroll().position + (now.left + now.right - client.Width()) / 2,
+                page.VerticalScroll().position + (now.top + now.bottom - client.Height()) / 2);
+  port_.StateChanged();
+  return true;
 }
 
 int RVEditControlWnd::ZoomEntry() const {

@@ -28,16 +28,39 @@ bool ComesBefore(const std::wstring& left, const std::wstring& right) {
   return leftInFolder != rightInFolder ? rightInFolder : left < right;
 }
 
-AddedPicture Refused(int textId, const Path& file, const std::string& reason = {}) {
-  std::wstring sentence = HostText(textId);
-  const std::size_t place = sentence.find(L"%s");
-  if (place != std::wstring::npos) sentence.replace(place, 2, FromUtf8(file.filename().string()));
-  return {{}, reason.empty() ? sentence : sentence + L" " + FromUtf8(reason)};
+std::wstring Refusal(int textId, const std::wstring& what, const std::string& reason = {}) {
+  const std::wstring sentence = FormatText(HostText(textId), what);
+  return reason.empty() ? sentence : sentence + L" " + FromUtf8(reason);
+}
+
+std::wstring FileNameOf(const Path& file) { return FromUtf8(file.filename().string()); }
+
+// The bytes of a picture file, or what is wrong with it.
+struct ReadPicture {
+  std::string bytes;
+  std::wstring problem;
+};
+
+ReadPicture ReadFile(const Path& file) {
+  FileError error;
+  std::optional<std::string> bytes = CurrentHost().files->Read(file, kMaxPictureFile, &error);
+  if (!bytes) return {{}, Refusal(text::kPictureNotRead, FileNameOf(file), error.reason)};
+  if (!CurrentHost().pictures->Decode(*bytes)) return {{}, Refusal(text::kNoPictureFile, FileNameOf(file))};
+  return {std::move(*bytes), {}};
+}
+
+std::optional<Path> FileOf(const std::wstring& name) {
+  const PictureKey key = ParsePictureName(name);
+  return ImageFilePath(CurrentHost(), key.id, key.path);
+}
+
+std::wstring Store(const Path& file, const std::string& bytes) {
+  CurrentHost().files->CreateFolder(file.parent_path());
+  return TextOf(CurrentHost().files->Write(file, EncodeBase64(bytes)));
 }
 
 // A file name that the store can hold, whatever the picture was called.
-std::wstring SafeId(const Path& file) {
-  std::wstring id = FromUtf8(file.stem().string());
+std::wstring SafeId(std::wstring id) {
   for (wchar_t& c : id) {
     if (c < L' ' || std::wstring_view(L"/\\:*?\"<>|%").find(c) != std::wstring_view::npos) c = L'_';
   }
@@ -58,20 +81,33 @@ std::vector<std::wstring> ListPictures() {
   return names;
 }
 
-AddedPicture AddPicture(const Path& file) {
-  const Host& host = CurrentHost();
-  FileError error;
-  const std::optional<std::string> bytes = host.files->Read(file, kMaxPictureFile, &error);
-  if (!bytes) return Refused(text::kPictureNotRead, file, error.reason);
-  if (!host.pictures->Decode(*bytes)) return Refused(text::kNoPictureFile, file);
+AddedPicture AddPicture(const Path& file, const std::wstring& folder) {
+  ReadPicture read = ReadFile(file);
+  if (!read.problem.empty()) return {{}, std::move(read.problem)};
+  return AddPictureBytes(read.bytes, FromUtf8(file.stem().string()), folder);
+}
+
+AddedPicture AddPictureBytes(const std::string& bytes, const std::wstring& id, const std::wstring& folder) {
+  if (!CurrentHost().pictures->Decode(bytes)) return {{}, Refusal(text::kNoPictureFile, id)};
   UniqueNames names;
   for (const std::wstring& name : ListPictures()) names.Add(name);
-  const std::wstring id = names.Take(SafeId(file));
-  const Path folder = host.setup->ImagesPath();
-  host.files->CreateFolder(folder);
-  const SaveResult saved = host.files->Write(folder / ToUtf8(id + std::wstring(kImageEnding)), EncodeBase64(*bytes));
-  if (!saved) return {{}, TextOf(saved)};
-  return {id, {}};
+  const std::wstring name = names.Take(PictureName({SafeId(id), folder}));
+  const std::optional<Path> file = FileOf(name);
+  if (!file) return {{}, Refusal(text::kNoPictureFolder, folder)};
+  std::wstring problem = Store(*file, bytes);
+  return problem.empty() ? AddedPicture{name, {}} : AddedPicture{{}, std::move(problem)};
+}
+
+std::wstring ReplacePicture(const std::wstring& name, const Path& file) {
+  const std::optional<Path> place = FileOf(name);
+  if (!place) return Refusal(text::kNoPictureFolder, name);
+  ReadPicture read = ReadFile(file);
+  return read.problem.empty() ? Store(*place, read.bytes) : std::move(read.problem);
+}
+
+std::wstring RemovePicture(const std::wstring& name) {
+  const std::optional<Path> file = FileOf(name);
+  return file && CurrentHost().files->Remove(*file) ? std::wstring() : Refusal(text::kReportNotRemoved, name);
 }
 
 }  // namespace xrpt

@@ -2,6 +2,7 @@
 
 #include "canvas/UndoTexts.h"
 #include "editor/EditorTexts.h"
+#include "editor/SelectedFields.h"
 #include "model/RVCardImage.h"
 #include "platform/Host.h"
 
@@ -41,7 +42,23 @@ void RVEditControlWnd::ImagesModified() {
   RVCardImage::ReLoadAllOriginalImages();
   for (const auto& slot : pages_) slot->window->ImagesManagerModified();
   ++resourcesSerial_;
+  properties_.OnManagerImageModified();
   port_.StateChanged();
+}
+
+void RVEditControlWnd::OnCtrlHasChanged() {
+  EndEdits();
+  CurrentPage().RedrawBackground();
+  SetModified(true);
+}
+
+// Several selected cards leave the panel that is shown.
+CProperties& RVEditControlWnd::Properties() {
+  const RVReportPage& page = CurrentPage().Page();
+  const std::vector<std::size_t> selected = SelectedIndexes(CurrentPage());
+  if (selected.empty()) properties_.SetControl(nullptr, &page.properties);
+  if (selected.size() == 1) properties_.SetControl(&page.cards[selected.front()], &page.properties);
+  return properties_;
 }
 
 void RVEditControlWnd::ShowMarks(bool on) {
@@ -72,15 +89,22 @@ void RVEditControlWnd::OnMessage(const MessageData& message) {
       break;
     case Message::SelectionOrGeometryChanged:
     case Message::CardChanged:
-    case Message::CardAnimationStarted:
-    case Message::CardAnimationStopped:
       break;
+    case Message::CardAnimationStarted:
+      properties_.OnControlAnimationStart();
+      break;
+    case Message::CardAnimationStopped:
+      properties_.OnControlAnimationStop();
+      break;
+    case Message::TimerStateChanged:
+      return OnTimerStateChange(message.value != 0);
     case Message::CardFound:
       CurrentPage().SelectSearchedCard();
       return;
     case Message::SearchRequested:
       return OnSearchReplace(*message.request);
     case Message::ReplaceFinished:
+      properties_.TextRemplaced();
       return port_.ReplaceFinished();
     case Message::Command:
       return OnPageCommand(static_cast<int>(message.value));
@@ -99,6 +123,12 @@ void RVEditControlWnd::OnPageCommand(int command) {
   if (command == kFindCommand) port_.RunCommand("Search");
   if (command == kReplaceCommand) port_.RunCommand("Replace");
   if (command == kFormulasCommand) port_.RunCommand("FormulesSetup");
+}
+
+// The host stops what moves on the page while it is busy, and lets it go on.
+void RVEditControlWnd::OnTimerStateChange(bool runs) {
+  runs ? CurrentPage().PlayTimer() : CurrentPage().PauseTimer();
+  port_.TimerStateChanged(runs);
 }
 
 // Keys that the page leaves to the frame.

@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "canvas/CardNotes.h"
 #include "canvas/InsertTools.h"
+#include "editor/CProperties.h"
 #include "editor/EditorPort.h"
 #include "editor/ReportEdit.h"
 #include "editor/ReportGuard.h"
@@ -49,6 +51,13 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool OpenFromList();
   // Asks about unsaved changes, then starts an empty report. False when the user's save failed or the user cancelled.
   bool NewReport();
+  // Asks about unsaved changes, then opens a file the user chose. False when nothing was opened.
+  bool OpenInstead(const Path& file);
+  // The same as a new report, but with what a file holds: a report of its own without a name, which leaves the file
+  // alone.
+  LoadResult NewFrom(const Path& sample);
+  // A new report nobody has touched yet.
+  bool IsUntouched() const { return report_.name.empty() && report_.File().empty() && !report_.modified; }
   // Asks about unsaved changes before the end. True when nothing is left to be kept.
   bool MayClose();
   // True when the report was written; what happened otherwise is the last save's to tell, and the report stays
@@ -103,9 +112,25 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   bool MovePage(std::size_t from, std::size_t to);
   // 0 makes the current page landscape, anything else portrait. False when it was already.
   bool SetOrientation(int orientation);
+  // Lets the user change the properties of the current page, and its paper that of all pages: one step. True when
+  // something changed.
+  bool OnConfig();
   // The grid's sign switches it; the step stays.
   bool IsGridOn() const;
   bool ToggleGrid();
+
+  // --- What is remembered beside the report: locked and hidden cards, groups, names, lines ---
+  // The folder of the files they are kept in; nothing is remembered before this, and reports are as they ever were.
+  void RememberIn(const Path& folder);
+
+  // --- How pages are looked at, the same for all of them ---
+  bool IsPreview() const { return preview_; }
+  bool TogglePreview();
+  // Whether the grid is seen, which need not be whether cards snap to it.
+  bool IsGridShown() const { return CurrentPage().IsGridShown(); }
+  bool ToggleGridShown();
+  // So large that the selected cards fill the window, as far as zooms go. False when nothing is selected.
+  bool ZoomToSelection();
 
   // --- The insert tool, the same for all pages (see InsertTools.h) ---
   int Tool() const { return tool_; }
@@ -130,6 +155,11 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void StylesModified(const std::vector<StyleRenaming>& renamings);
   // Pictures of the image store changed.
   void ImagesModified();
+  // A card was changed by somebody who went by no door: the report counts as modified and panels are read again.
+  void OnCtrlHasChanged();
+
+  // The property panels, about the one selected card, or about the page when none is selected.
+  CProperties& Properties();
 
   // --- Search and replace, see FrameSearch.cpp ---
   // What the search dialog asks; the answer is in the record. Searches the page that is shown, replaces what was found
@@ -190,6 +220,7 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void ReportListChanged();
   void StartAnew();
   void OnKey(const MessageData& message);
+  void OnTimerStateChange(bool runs);
   void OnPageCommand(int command);
 
   // Pages, see FramePages.cpp
@@ -216,6 +247,9 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   void MarkByHistory(bool changesReport);
 
   bool Fit(int mode);
+  void ReadNotes();
+  void KeepNotes();
+  bool TakeProperties(const CDlgGlobalProperties& dialog);
 
   // Searching, see FrameSearch.cpp
   void Search(tagSearchReplace& request);
@@ -243,8 +277,13 @@ class RVEditControlWnd final : public MessageTarget, private PageHistoryListener
   PageSlots pages_;            // one a page of the report, same order
   std::size_t current_ = 0;
   int tool_ = tool::kPointer;
+  CardNotes notes_;
+  Path notesFolder_;
+  bool preview_ = false;
+  std::optional<bool> gridShown_;
   bool marksShown_ = true;
   std::uint64_t resourcesSerial_ = 0;
+  CProperties properties_;
   ReportHistory history_;
   OpenEdit open_;
   bool replaying_ = false;

@@ -7,6 +7,8 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "editor/RVEditControlWnd.h"
+#include "model/FieldTexts.h"
+#include "model/RVCardDate.h"
 #include "platform/Host.h"
 #include "platform/Text.h"
 
@@ -55,9 +57,19 @@ FieldState StateOf(const CardRow& row, const std::vector<const RVCardControl*>& 
   return {&row, CommonText(row, cards), row.WordsFor(*cards.front())};
 }
 
+// Date cards are bound to the dates that the host knows, not to variables of the plant.
+bool IsDateField(const CardRow& row, const RVCardControl& card) {
+  return row.panel.textId == text::kField && card.IsKindOf(RVCardDate::Class());
+}
+
+bool IsDateField(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
+  return std::all_of(cards.begin(), cards.end(), [&row](const RVCardControl* card) { return IsDateField(row, *card); });
+}
+
 // What people read: a word of a list in their language.
 std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
   const std::wstring text = row.text(card);
+  if (IsDateField(row, card)) return NameOfDateField(text);
   for (const Word& word : row.words) {
     if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
   }
@@ -123,7 +135,9 @@ std::vector<FieldState> SelectedFields::Fields() const {
   }
   if (cards.empty()) return fields;
   for (const CardRow* row : CommonRows(cards)) {
-    if (IsOfUse(*row, cards, whose_)) fields.push_back(StateOf(*row, cards));
+    if (!IsOfUse(*row, cards, whose_)) continue;
+    fields.push_back(StateOf(*row, cards));
+    if (IsDateField(*row, cards)) fields.back().names = frame_.Properties().DatabaseFields();
   }
   return fields;
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/DatabaseFields.h"
 #include "editor/MeantCards.h"
 #include "model/RVCardControl.h"
 
@@ -17,8 +18,9 @@ class RVEditTemplateWnd;
 
 struct FieldState {
   const FieldRow* row;
-  std::optional<std::wstring> text;  // nothing: the cards differ
-  std::span<const Word> words;       // of a choice
+  std::optional<std::wstring> text;        // nothing: the cards differ
+  std::span<const Word> words;             // of a choice
+  std::span<const NamedValue> names = {};  // of a field whose values are chosen by name; its row says nothing of them
 };
 
 class SelectedFields {

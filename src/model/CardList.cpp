@@ -1,6 +1,8 @@
 #include "model/CardList.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <iterator>
 #include <unordered_map>
 
@@ -85,15 +87,24 @@ void CardList::MoveToBack(const std::vector<std::size_t>& indexes) {
   cards_.insert(cards_.end(), std::make_move_iterator(moved.begin()), std::make_move_iterator(moved.end()));
 }
 
-std::shared_ptr<const SharedCards::Stretch> CardList::ShareStretch(std::size_t first, const SharedCards& before) const {
+void CardList::Reorder(const std::vector<std::size_t>& order) {
+  std::vector<CardPtr> all;
+  all.reserve(order.size());
+  for (const std::size_t from : order) all.push_back(std::move(cards_[from]));
+  cards_ = std::move(all);
+}
+
+std::shared_ptr<SharedCards::Stretch> CardList::ShareStretch(std::size_t first, const SharedCards& before) const {
   const auto begin = cards_.begin() + static_cast<std::ptrdiff_t>(first);
   const auto end = cards_.begin() + static_cast<std::ptrdiff_t>(std::min(first + SharedCards::kStretch, cards_.size()));
   const std::size_t index = first / SharedCards::kStretch;
   if (index < before.stretches_.size()) {
-    const auto& former = *before.stretches_[index];
-    if (std::equal(begin, end, former.begin(), former.end())) return before.stretches_[index];
+    const std::shared_ptr<SharedCards::Stretch>& former = before.stretches_[index];
+    if (std::equal(begin, end, former->cards.begin(), former->cards.end())) return former;
   }
-  return std::make_shared<const SharedCards::Stretch>(begin, end);
+  auto stretch = std::make_shared<SharedCards::Stretch>();
+  stretch->cards.assign(begin, end);
+  return stretch;
 }
 
 SharedCards CardList::Share(const SharedCards& before) const {
@@ -110,15 +121,77 @@ SharedCards CardList::Share(const SharedCards& before) const {
 void CardList::Restore(const SharedCards& cards) {
   cards_.clear();
   cards_.reserve(cards.Size());
-  for (std::size_t i = 0; i < cards.Size(); ++i) cards_.push_back(std::const_pointer_cast<RVCardControl>(cards[i]));
+  for (const auto& stretch : cards.stretches_) {
+    stretch->Unpack();
+    for (const SharedCards::Card& card : stretch->cards) cards_.push_back(std::const_pointer_cast<RVCardControl>(card));
+  }
 }
 
 bool CardList::Equals(const SharedCards& cards) const {
   if (cards.Size() != cards_.size()) return false;
   for (std::size_t i = 0; i < cards_.size(); ++i) {
-    if (cards_[i] != cards[i] && !cards_[i]->HasSameRows(*cards[i])) return false;
+    const SharedCards::Stretch& stretch = *cards.stretches_[i / SharedCards::kStretch];
+    const std::size_t at = i % SharedCards::kStretch;
+    if (stretch.IsPacked() ? !stretch.IsAsInPlace(*cards_[i], at)
+                           : cards_[i] != stretch.cards[at] && !cards_[i]->HasSameRows(*stretch.cards[at])) {
+      return false;
+    }
   }
   return true;
+}
+
+// Cards that moved are compared with those they once were; so however often they move, those are kept once.
+void SharedCards::FindStill(const Stretch& from, Stretch& stretch) {
+  const Cards& still = from.still ? *from.still : from.cards;
+  if (stretch.IsPacked() || stretch.still || still.size() != stretch.cards.size()) return;
+  std::size_t moved = 0;
+  for (std::size_t i = 0; i < still.size(); ++i) {
+    if (stretch.cards[i] == from.cards[i]) continue;
+    if (!stretch.cards[i]->DiffersInPlaceOnly(*still[i])) return;
+    ++moved;
+  }
+  if (2 * moved < still.size()) return;
+  stretch.still = from.still ? from.still : std::make_shared<const Cards>(from.cards);
+}
+
+void SharedCards::Pack(SharedCards& neighbour) {
+  for (std::size_t i = 0; i < stretches_.size(); ++i) {
+    const bool hasNeighbour = i < neighbour.stretches_.size();
+    if (hasNeighbour && neighbour.stretches_[i] == stretches_[i]) continue;
+    if (hasNeighbour && !stretches_[i]->IsPacked()) FindStill(*stretches_[i], *neighbour.stretches_[i]);
+    stretches_[i]->Pack();
+  }
+}
+
+void SharedCards::Stretch::Pack() {
+  if (!still || IsPacked()) return;
+  places.reserve(cards.size());
+  for (const Card& card : cards) places.push_back({card->x, card->y, card->width, card->height});
+  Cards().swap(cards);
+}
+
+void SharedCards::Stretch::Unpack() {
+  if (!IsPacked()) return;
+  cards.reserve(places.size());
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    std::unique_ptr<RVCardControl> card = (*still)[i]->GetClone();
+    card->TakePlaceOf(*(*still)[i]);
+    card->x = places[i].x;
+    card->y = places[i].y;
+    card->width = places[i].width;
+    card->height = places[i].height;
+    cards.push_back(std::move(card));
+  }
+  std::vector<Place>().swap(places);
+}
+
+bool SharedCards::Stretch::IsAsInPlace(const RVCardControl& card, std::size_t index) const {
+  const Place& place = places[index];
+  const auto same = [](double a, double b) {
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+  };
+  return same(card.x, place.x) && same(card.y, place.y) && same(card.width, place.width) &&
+         same(card.height, place.height) && card.DiffersInPlaceOnly(*(*still)[index]);
 }
 
 }  // namespace xrpt

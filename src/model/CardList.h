@@ -16,19 +16,40 @@ namespace xrpt {
 using CardPtr = std::shared_ptr<RVCardControl>;
 
 // The cards of a list as a snapshot keeps them, in stretches of a few dozen that snapshots share where nothing changed,
-// so that one more snapshot of a long list costs little more than the cards that changed.
+// so that one more snapshot of a long list costs little more than the cards that changed. Of cards that only moved, an
+// old snapshot may keep where they were and no more (`Pack`).
 class SharedCards {
  public:
   using Card = std::shared_ptr<const RVCardControl>;
 
   std::size_t Size() const { return size_; }
-  const Card& operator[](std::size_t index) const { return (*stretches_[index / kStretch])[index % kStretch]; }
+  // Of a snapshot that was never packed.
+  const Card& operator[](std::size_t index) const { return stretches_[index / kStretch]->cards[index % kStretch]; }
+  // For a snapshot that is seldom needed from now on, because the given one came after or before it: what the two do
+  // not share takes as little memory as it can. To compare with it and to restore it takes longer. For the one thread
+  // that has all the snapshots that share something with this one.
+  void Pack(SharedCards& neighbour);
 
  private:
   friend class CardList;
   static constexpr std::size_t kStretch = 64;
-  using Stretch = std::vector<Card>;
-  std::vector<std::shared_ptr<const Stretch>> stretches_;
+  using Cards = std::vector<Card>;
+  struct Place {
+    double x, y, width, height;
+  };
+  struct Stretch {
+    Cards cards;                         // none while packed
+    std::shared_ptr<const Cards> still;  // these cards, wherever they stand; null when there are none such
+    std::vector<Place> places;           // while packed
+
+    bool IsPacked() const { return cards.empty(); }
+    void Pack();
+    void Unpack();
+    bool IsAsInPlace(const RVCardControl& card, std::size_t index) const;
+  };
+  static void FindStill(const Stretch& from, Stretch& stretch);
+
+  std::vector<std::shared_ptr<Stretch>> stretches_;
   std::size_t size_ = 0;
 };
 
@@ -58,6 +79,8 @@ class CardList {
   // Puts cards before or behind all others, in one pass; the last of them ends outermost.
   void MoveToFront(const std::vector<std::size_t>& indexes);
   void MoveToBack(const std::vector<std::size_t>& indexes);
+  // The cards in another order: where each of the new places stood before, every one of them once.
+  void Reorder(const std::vector<std::size_t>& order);
   void Clear() { cards_.clear(); }
 
   // What a snapshot keeps, and the way back.
@@ -69,7 +92,7 @@ class CardList {
 
  private:
   std::vector<CardPtr> TakeOut(const std::vector<std::size_t>& indexes);
-  std::shared_ptr<const SharedCards::Stretch> ShareStretch(std::size_t first, const SharedCards& before) const;
+  std::shared_ptr<SharedCards::Stretch> ShareStretch(std::size_t first, const SharedCards& before) const;
 
   std::vector<CardPtr> cards_;
 };

@@ -82,7 +82,7 @@ void RVCardButton::WriteText(XmlWriter& out) const {
 }
 
 void RVCardButton::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*this, reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardButton::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }

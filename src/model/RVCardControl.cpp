@@ -61,6 +61,18 @@ bool RVCardControl::HasSameRows(const RVCardControl& other) const {
   return &kind == &other.GetRuntimeClass() && SameFields(kind.table, *this, other) && EqualFlags(other);
 }
 
+bool RVCardControl::DiffersInPlaceOnly(const RVCardControl& other) const {
+  const CardClass& kind = GetRuntimeClass();
+  if (&kind != &other.GetRuntimeClass() || key_ != other.key_ || parent != other.parent || !EqualFlags(other)) {
+    return false;
+  }
+  bool same = true;
+  ForEachField(kind.table, [&](const CardRow& row) {
+    same = same && (row.panel.group == FieldGroup::Geometry || !row.same || row.same(*this, other));
+  });
+  return same;
+}
+
 bool RVCardControl::SaveTemplate(XmlWriter* node, bool makeOwnElement) const {
   const CardClass& kind = GetRuntimeClass();
   if (!makeOwnElement || !kind.tag) {

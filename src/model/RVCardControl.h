@@ -76,6 +76,10 @@ class RVCardControl {
   // asks. Cards that read the same from a file may still differ here, by what a save rounds.
   bool HasSameRows(const RVCardControl& other) const;
 
+  // The same card, or a copy of it, with the same in every row but those of its rectangle: all that moving and resizing
+  // leave alone.
+  bool DiffersInPlaceOnly(const RVCardControl& other) const;
+
   // Writes the card into the element that is open; with its own element when asked, else its values alone. True.
   virtual bool SaveTemplate(XmlWriter* node, bool makeOwnElement) const;
   // Writes a card that fills another one: with its own element and the other's rectangle.

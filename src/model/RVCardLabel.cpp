@@ -35,7 +35,7 @@ bool RVCardLabel::GetStyleFromFile(const std::wstring& name) {
 }
 
 void RVCardLabel::ReadStyle(const XmlNode& reference) {
-  if (ReadStyleReference(*Services().styles, reference, styleName, parent)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*this, reference, styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardLabel::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }

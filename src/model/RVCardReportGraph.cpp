@@ -105,7 +105,7 @@ bool RVCardReportGraph::GetStyleFromFile(const std::wstring& name) {
 }
 
 void RVCardReportGraph::ReadStyle(const XmlNode& node) {
-  if (ReadStyleReference(*Services().styles, node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
+  if (ReadStyleReference(*this, node.Node("style"), styleName, parent)) GetStyleFromFile(styleName);
 }
 
 void RVCardReportGraph::WriteStyle(XmlWriter& out) const { WriteStyleReference(*Services().styles, out, styleName); }

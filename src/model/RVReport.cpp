@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/ReportParts.h"
 #include "platform/FileTexts.h"
 #include "platform/NamedFiles.h"
 #include "platform/Numbers.h"
@@ -81,38 +82,52 @@ LoadResult RVReport::Load(const std::wstring& nameOrPath) {
 LoadResult RVReport::LoadFile(const Path& file, const std::wstring* askedName) {
   LoadResult result;
   result.file = file;
-  XmlDocument document;
-  result.loaded = ReadDocument(result, document);
-  if (!result.loaded) document.Create(kRoot);
-  ReadTemplate(document.Root(), askedName, &RVReportPage::TakeTemplate);
-  for (const auto& page : pages) result.lostStyles += page->lostStyles;
+  file_.clear();
+  pages.clear();
+  const FileStamp stamp = host_->files->Stamp(file);
+  FileError unreadable;
+  std::optional<std::string> bytes = host_->files->Read(file, XmlDocument::kMaxBytes, &unreadable);
+  const FileVersion version = bytes ? FileVersion(stamp, *bytes) : FileVersion();
+  if (!bytes) {
+    result.fault = LoadFault::Unreadable;
+    result.error.message = unreadable.reason;
+  }
+  result.loaded = bytes && (ReadStretches(*bytes, askedName) || ReadDocument(std::move(*bytes), askedName, result));
+  if (result.loaded) {
+    Remember(file, version);
+  } else {
+    ReadTemplate(XmlDocument(kRoot).Root(), {}, askedName);
+  }
+  for (const auto& page : pages) {
+    if (page->StylesLost()) result.lostStyles += static_cast<int>(page->StylesLost()->size());
+  }
   fileName_ = name;
   modified = false;
   return result;
 }
 
-bool RVReport::ReadDocument(LoadResult& result, XmlDocument& document) {
-  file_.clear();
-  FileService& files = *host_->files;
-  const FileStamp stamp = files.Stamp(result.file);
-  FileError unreadable;
-  std::optional<std::string> bytes = files.Read(result.file, XmlDocument::kMaxBytes, &unreadable);
-  if (!bytes) {
-    result.fault = LoadFault::Unreadable;
-    result.error.message = unreadable.reason;
-    return false;
-  }
-  const FileVersion version(stamp, *bytes);
-  if (!document.Parse(std::move(*bytes), &result.error)) {
+// What our saver wrote, a page after another and never as one tree.
+bool RVReport::ReadStretches(std::string_view text, const std::wstring* askedName) {
+  std::optional<ReportParts> parts = ReadReportParts(text, *host_);
+  if (!parts) return false;
+  ReadTemplate(parts->rest.Root(), std::move(parts->pages), askedName);
+  return true;
+}
+
+// Everything else, and what is no report.
+bool RVReport::ReadDocument(std::string text, const std::wstring* askedName, LoadResult& result) {
+  XmlDocument document;
+  if (!document.Parse(std::move(text), &result.error)) {
     result.fault = LoadFault::Damaged;
     return false;
   }
-  if (!MayBeReport(document.Root())) {
+  const XmlNode root = document.Root();
+  if (!MayBeReport(root)) {
     result.fault = LoadFault::OtherDocument;
-    result.error.message = "not a report but a document of <" + std::string(document.Root().Tag()) + ">";
+    result.error.message = "not a report but a document of <" + std::string(root.Tag()) + ">";
     return false;
   }
-  Remember(result.file, version);
+  ReadTemplate(root, PagesOf(root, &RVReportPage::TakeTemplate), askedName);
   return true;
 }
 
@@ -130,13 +145,26 @@ void RVReport::Remember(const Path& file, const FileVersion& version) {
   fileName_ = name;
 }
 
-void RVReport::ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage) {
-  pages.clear();
+RVReport::Pages RVReport::PagesOf(const XmlNode& root, PageReader readPage) const {
+  Pages read;
+  for (const XmlNode& element : root) {
+    if (element.Tag() != "page") continue;
+    ((*read.emplace_back(std::make_shared<RVReportPage>(*host_))).*readPage)(element);
+  }
+  return read;
+}
+
+// Takes the pages that were read, and all else from the root.
+void RVReport::ReadTemplate(const XmlNode& root, Pages read, const std::wstring* askedName) {
   ReadIdentity(root, askedName);
   version = root.Value("version", kFormatVersion);
   ReadFontScale(root);
   ReadVirtualLists(root);
-  ReadPages(root, readPage);
+  for (const XmlNode& element : root) {
+    if (element.Tag() == "formules") formules.Create("formules").Assign(element);
+  }
+  pages = std::move(read);
+  for (const auto& page : pages) page->fontFactor = fontFactor;
   if (pages.empty()) AddPage();
 }
 
@@ -165,13 +193,6 @@ void RVReport::ReadVirtualLists(const XmlNode& root) {
   if (!virtualEnabled) return;
   CopyChildren(root.Node("virtualDevices"), "virtualDevice", virtualDevices);
   CopyChildren(root.Node("goBackVariables"), "goBackVariable", goBackVariables);
-}
-
-void RVReport::ReadPages(const XmlNode& root, PageReader readPage) {
-  for (const XmlNode& element : root) {
-    if (element.Tag() == "page") (AddPage().*readPage)(element);
-    if (element.Tag() == "formules") formules.Create("formules").Assign(element);
-  }
 }
 
 RVReportPage& RVReport::AddPage() {
@@ -231,28 +252,37 @@ bool RVReport::HasChangedOnDisk() const { return !file_.empty() && HasChanged(*h
 SaveResult RVReport::SaveTo(const Path& file, const SaveRules& rules) {
   const bool isOwn = !file_.empty() && IsSameFile(file, file_);
   const FileVersion none;
-  std::string text;
+  std::string text = RoomForText();
   XmlWriter out(text);
   WriteTemplate(out);
   SaveResult result = SaveText(file, out, rules.asksFirst ? (isOwn ? &onDisk_ : &none) : nullptr);
   if (result.outcome == SaveOutcome::Changed && !isOwn) result.outcome = SaveOutcome::Taken;
   modified = !result;
-  if (result) Remember(file, FileVersion(host_->files->Stamp(file), text));
+  if (!result) return result;
+  Remember(file, FileVersion(host_->files->Stamp(file), text));
+  for (const auto& page : pages) page->ForgetLostStyles();
   return result;
 }
 
 SaveResult RVReport::WriteTo(const Path& file) const {
-  std::string text;
+  std::string text = RoomForText();
   XmlWriter out(text);
   WriteTemplate(out);
   return SaveText(file, out);
 }
 
 std::string RVReport::TemplateText(XmlError* fault) const {
-  std::string text;
+  std::string text = RoomForText();
   XmlWriter out(text);
   WriteTemplate(out);
   if (fault) *fault = out.Check();
+  return text;
+}
+
+// As much as the file has and a little more: a text that outgrows its room is twice in memory while it moves.
+std::string RVReport::RoomForText() const {
+  std::string text;
+  if (onDisk_.stamp.size < XmlDocument::kMaxBytes) text.reserve(onDisk_.stamp.size + onDisk_.stamp.size / 16);
   return text;
 }
 

@@ -48,7 +48,7 @@ class RVReport {
   LoadResult LoadFile(const Path& file, const std::wstring* askedName = nullptr);
 
   // Takes what a "reportLayout" element holds; the element stays as it is, and the stored name stands.
-  void SetTemplate(const XmlNode& root) { ReadTemplate(root, nullptr, &RVReportPage::SetTemplate); }
+  void SetTemplate(const XmlNode& root) { ReadTemplate(root, PagesOf(root, &RVReportPage::SetTemplate), nullptr); }
 
   // Saves under the report's name, naming a nameless report report1, report2, ... first. The report counts as saved
   // when it was, and as modified when it was not; nothing is written when the name cannot be a file's.
@@ -90,18 +90,21 @@ class RVReport {
 
  private:
   Path ConfigFolder() const { return host_->setup->CfgPath(); }
+  using Pages = std::vector<std::shared_ptr<RVReportPage>>;
   using PageReader = bool (RVReportPage::*)(const XmlNode& page);
-  void ReadTemplate(const XmlNode& root, const std::wstring* askedName, PageReader readPage);
+  Pages PagesOf(const XmlNode& root, PageReader readPage) const;
+  void ReadTemplate(const XmlNode& root, Pages read, const std::wstring* askedName);
   void ReadIdentity(const XmlNode& root, const std::wstring* askedName);
   void ReadFontScale(const XmlNode& root);
   void ReadVirtualLists(const XmlNode& root);
-  void ReadPages(const XmlNode& root, PageReader readPage);
   bool EnsureName();
   bool GoesBack(const SaveRules& rules) const;
   Path FileOfAnother(const SaveRules& rules) const;
+  std::string RoomForText() const;
   void WriteTemplate(XmlWriter& out) const;
   void WriteDocuments(XmlWriter& out) const;
-  bool ReadDocument(LoadResult& result, XmlDocument& document);
+  bool ReadStretches(std::string_view text, const std::wstring* askedName);
+  bool ReadDocument(std::string text, const std::wstring* askedName, LoadResult& result);
   void Remember(const Path& file, const FileVersion& version);
 
   Host* host_;

@@ -4,19 +4,25 @@
 
 namespace xrpt {
 
-// The properties come last, because they are looked for among all that is left of the page.
 bool RVReportPage::Read(XmlNode page, bool takes) {
   if (!page) return false;
-  properties.DeleteBackground();
-  cards.Clear();
-  lostStyles = 0;
+  BeginReading();
   for (auto next = page.begin(); next != page.end();) {
     const XmlNode element = *next++;
     if (ReadCard(element) && takes) page.Remove(element);
   }
-  properties.GetFromXml(page);
+  EndReading(page);
   return true;
 }
+
+void RVReportPage::BeginReading() {
+  properties.DeleteBackground();
+  cards.Clear();
+  ForgetLostStyles();
+}
+
+// The properties come last, because they are looked for among all that is left of the page.
+void RVReportPage::EndReading(const XmlNode& page) { properties.GetFromXml(page); }
 
 bool RVReportPage::ReadCard(const XmlNode& element) {
   std::unique_ptr<RVCardControl> card = NewPageCard(element.Tag(), services_);
@@ -25,6 +31,15 @@ bool RVReportPage::ReadCard(const XmlNode& element) {
   card->GetFromXml(element);
   cards.PushBack(std::move(card));
   return true;
+}
+
+// Whoever took note of what was lost so far keeps that.
+void RVReportPage::LoseStyle(LostStyle lost) {
+  auto all = lostStyles_ && lostStyles_.use_count() > 1 ? std::make_shared<LostStyles>(*lostStyles_)
+                                                        : std::const_pointer_cast<LostStyles>(lostStyles_);
+  if (!all) all = std::make_shared<LostStyles>();
+  all->push_back(std::move(lost));
+  lostStyles_ = std::move(all);
 }
 
 // A page that still bears its identity for a name gets the new one for a name, too.

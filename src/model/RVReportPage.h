@@ -7,6 +7,13 @@
 
 namespace xrpt {
 
+// A reference to a text style that nobody knows, which its card no longer has.
+struct LostStyle {
+  CardKey card;
+  std::wstring id;
+};
+using LostStyles = std::vector<LostStyle>;
+
 class RVReportPage {
  public:
   explicit RVReportPage(ModelServices& services = InstalledServices()) : properties(services), services_(services) {}
@@ -18,6 +25,11 @@ class RVReportPage {
   // The same for a document that nobody reads again: each card's element is taken out once the card is made, so that
   // the next cards are made in its memory and a large report costs little more than its document.
   bool TakeTemplate(const XmlNode& page) { return Read(page, true); }
+  // The same in pieces, for whoever comes by the elements one after another: an emptied page, each element that may be
+  // a card's (false for one that is none's), and the page's element with what no card took.
+  void BeginReading();
+  bool ReadCard(const XmlNode& element);
+  void EndReading(const XmlNode& page);
   // The same page again, with identities of its own throughout.
   std::unique_ptr<RVReportPage> Duplicate() const;
   // Appends a "page" element to the root that is open.
@@ -27,16 +39,21 @@ class RVReportPage {
 
   ModelServices& Services() const { return services_; }
 
+  // What its cards lost when they were read, in the order of their keys; null when nothing, and once the file does not
+  // have it either.
+  const std::shared_ptr<const LostStyles>& StylesLost() const { return lostStyles_; }
+  void LoseStyle(LostStyle lost);
+  void ForgetLostStyles() { lostStyles_.reset(); }
+
   RVGlobalProperties properties;
   CardList cards;
   double fontFactor = 1.0;  // font sizes are multiplied by it
-  int lostStyles = 0;       // references of its cards to text styles that nobody knows, dropped when they were read
 
  private:
   bool Read(XmlNode page, bool takes);
-  bool ReadCard(const XmlNode& element);
 
   ModelServices& services_;
+  std::shared_ptr<const LostStyles> lostStyles_;
 };
 
 }  // namespace xrpt

@@ -4,12 +4,13 @@
 
 namespace xrpt {
 
-bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName, RVReportPage* page) {
+bool ReadStyleReference(const RVCardControl& card, const XmlNode& reference, std::wstring& styleName,
+                        RVReportPage* page) {
   if (!reference) return false;
   const std::wstring id = reference.Value();
-  if (styles.StyleId2Name(id, styleName)) return true;
+  if (card.Services().styles->StyleId2Name(id, styleName)) return true;
   styleName.clear();
-  if (page && !id.empty()) ++page->lostStyles;
+  if (page && !id.empty()) page->LoseStyle({card.Key(), id});
   return false;
 }
 

@@ -11,12 +11,14 @@
 
 namespace xrpt {
 
+class RVCardControl;
 class RVReportPage;
 
 // Takes the name of the style whose identifier a "style" element holds. True when the style is known and should be
-// applied now; an unknown identifier empties the name and is counted on the page, when there is one, and an element
-// that is missing leaves the name alone.
-bool ReadStyleReference(StyleTable& styles, const XmlNode& reference, std::wstring& styleName, RVReportPage* page);
+// applied now; an unknown identifier empties the name and is noted on the card's page, when there is one, and an
+// element that is missing leaves the name alone.
+bool ReadStyleReference(const RVCardControl& card, const XmlNode& reference, std::wstring& styleName,
+                        RVReportPage* page);
 
 // Writes "style" when the name is known; a style nobody knows is not written.
 void WriteStyleReference(StyleTable& styles, XmlWriter& out, const std::wstring& styleName);

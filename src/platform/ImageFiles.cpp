@@ -59,6 +59,10 @@ PicturePtr ReadImageFile(Host& host, const std::wstring& id, const std::wstring&
   return picture;
 }
 
+std::optional<Path> ImageFilePath(const Host& host, const std::wstring& id, const std::wstring& path) {
+  return ImageFile(host.setup->ImagesPath(), id, path);
+}
+
 bool HasImageFile(const Host& host, const std::wstring& id, const std::wstring& path) {
   const std::optional<Path> where = ImageFile(host.setup->ImagesPath(), id, path);
   return where && host.files->Stamp(*where).exists;

@@ -38,7 +38,7 @@ struct MessageData {
   Message message = Message::CardChanged;
   std::wstring cardId;
   long long value = 0;
-  int key = 0;                          // KeyDown only
+  int key = 0;                          // KeyDown, and the second number of TimerStateChanged
   tagSearchReplace* request = nullptr;  // SearchRequested only
 };
 

@@ -9,8 +9,9 @@
 
 namespace xrpt {
 
-// OverCard and Moving are the editor's own: the pointer over a card's body, and a group being moved.
-enum class Cursor { Arrow, SizeWE, SizeNS, SizeNESW, SizeNWSE, SizeAll, No, OverCard, Moving };
+// OverCard and Moving are the editor's own: the pointer over a card's body, and a group being moved. Cross says that a
+// press makes something new.
+enum class Cursor { Arrow, SizeWE, SizeNS, SizeNESW, SizeNWSE, SizeAll, No, OverCard, Moving, Cross };
 
 enum class ScrollAxis { Horizontal, Vertical };
 
@@ -39,6 +40,7 @@ inline constexpr int Delete = 0x2E;
 struct MouseFlags {
   bool control = false;
   bool shift = false;
+  bool alt = false;
 };
 
 // One entry of a popup menu. An empty submenu list makes it an item; `command` 0 and no submenu a separator.

@@ -1,26 +1,38 @@
-// The only source that knows the parser. Parsing adds what the parser lacks: bounds on size, elements and depth, the
-// UTF-8 check, and a single root.
+// Parsing adds what the parser lacks: bounds on size, elements and depth, the UTF-8 check, and a single root.
 #include "platform/Xml.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <pugixml.hpp>
 #include <utility>
 
 #include "platform/Host.h"
 #include "platform/Text.h"
+#include "platform/XmlTree.h"
 #include "platform/XmlWriter.h"
 
 namespace xrpt {
 namespace {
 
-// The parser's handle is one pointer, and so is ours: taken for each other in place, they spare a call for every node.
-pugi::xml_node Wrap(void* node) { return std::bit_cast<pugi::xml_node>(node); }
+// Walks without recursion, and stops at the first node that is too deep.
+class DepthCheck final : public pugi::xml_tree_walker {
+ public:
+  explicit DepthCheck(int level) : level_(level) {}
+  bool for_each(pugi::xml_node& node) override { return level_ + depth() < XmlDocument::kMaxDepth || !IsElement(node); }
 
-void* Unwrap(const pugi::xml_node& node) { return std::bit_cast<void*>(node); }
+ private:
+  int level_;
+};
 
-bool IsElement(const pugi::xml_node& node) { return node.type() == pugi::node_element; }
+// A UTF-16 or UTF-32 byte order mark; the parser converts such texts itself.
+bool HasWideMark(std::string_view text) {
+  return text.size() > 1 && (text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF");
+}
+
+bool DeclaresLatin1(std::string_view text) {
+  const std::string_view head = text.substr(0, std::min<std::size_t>(text.size(), 200));
+  return head.find("iso-8859-1") != head.npos || head.find("ISO-8859-1") != head.npos;
+}
 
 bool IsText(const pugi::xml_node& node) { return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata; }
 
@@ -46,51 +58,14 @@ pugi::xml_node ElementNamed(const pugi::xml_node& parent, std::string_view tag) 
   return child;
 }
 
-// Walks without recursion, and stops at the first node that is too deep.
-class DepthCheck final : public pugi::xml_tree_walker {
- public:
-  bool for_each(pugi::xml_node& node) override { return depth() < XmlDocument::kMaxDepth || !IsElement(node); }
-};
-
-bool IsTooDeep(pugi::xml_document& document) {
-  DepthCheck check;
-  return !document.traverse(check);
-}
-
-// Eight bytes at a time.
-std::size_t CountBrackets(std::string_view text) {
-  constexpr std::uint64_t kLow = 0x7F7F7F7F7F7F7F7Full;
-  constexpr std::uint64_t kBrackets = 0x3C3C3C3C3C3C3C3Cull;
-  std::size_t count = 0;
-  std::size_t at = 0;
-  for (; at + 8 <= text.size(); at += 8) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, text.data() + at, 8);
-    word ^= kBrackets;
-    const std::uint64_t zeros = ~(((word & kLow) + kLow) | word | kLow);  // the top bit of each byte that was one
-    count += static_cast<std::size_t>(std::popcount(zeros));
-  }
-  return count + static_cast<std::size_t>(std::count(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), '<'));
-}
-
 // An element takes four bytes at least, so that most texts need not be counted.
 bool HasTooManyElements(std::string_view text) {
   return text.size() / 4 > XmlDocument::kMaxElements && CountBrackets(text) > 2 * XmlDocument::kMaxElements;
 }
 
-// A UTF-16 or UTF-32 byte order mark; the parser converts such texts itself.
-bool HasWideMark(std::string_view text) {
-  return text.size() > 1 && (text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF");
-}
-
-bool DeclaresLatin1(std::string_view text) {
-  const std::string_view head = text.substr(0, std::min<std::size_t>(text.size(), 200));
-  return head.find("iso-8859-1") != head.npos || head.find("ISO-8859-1") != head.npos;
-}
-
 XmlError CheckBytes(std::string_view text) {
   if (XmlError tooMuch = XmlDocument::CheckSize(text); !tooMuch.message.empty()) return tooMuch;
-  if (HasWideMark(text) || DeclaresLatin1(text)) return {};
+  if (IsForeignEncoding(text)) return {};
   const std::size_t bad = FindInvalidUtf8(text);
   return bad == std::string_view::npos ? XmlError{} : XmlError{"a byte that is not UTF-8", bad};
 }
@@ -113,12 +88,32 @@ std::uint32_t HeadOf(const char* name) {
   return head;
 }
 
-// The parser frees a deep tree without recursion only as a whole, which is what dropping the document does. An
-// element's first text is kept in the element itself, which halves the nodes of our files.
-constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
-
 }  // namespace
 
+// Eight bytes at a time.
+std::size_t CountBrackets(std::string_view text) {
+  constexpr std::uint64_t kLow = 0x7F7F7F7F7F7F7F7Full;
+  constexpr std::uint64_t kBrackets = 0x3C3C3C3C3C3C3C3Cull;
+  std::size_t count = 0;
+  std::size_t at = 0;
+  for (; at + 8 <= text.size(); at += 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + at, 8);
+    word ^= kBrackets;
+    const std::uint64_t zeros = ~(((word & kLow) + kLow) | word | kLow);  // the top bit of each byte that was one
+    count += static_cast<std::size_t>(std::popcount(zeros));
+  }
+  return count + static_cast<std::size_t>(std::count(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), '<'));
+}
+
+bool IsTooDeep(pugi::xml_document& tree, int level) {
+  DepthCheck check(level);
+  return !tree.traverse(check);
+}
+
+bool IsForeignEncoding(std::string_view text) { return HasWideMark(text) || DeclaresLatin1(text); }
+
+// The parser frees a deep tree without recursion only as a whole, which is what dropping the document does.
 struct XmlDocument::Impl {
   std::string buffer;  // the parser works in place; the tree points into it
   pugi::xml_document document;

@@ -81,7 +81,31 @@ XmlError XmlWriter::Check() const {
   return XmlDocument::CheckSize(out_);
 }
 
+// Most of a report is such elements, so each is put down in one go.
+template <class Char>
+void XmlWriter::Whole(std::string_view name, std::basic_string_view<Char> text) {
+  if (open_) {
+    CloseTag();
+    NewLine();
+  }
+  const std::size_t indent = compact_ ? 0 : static_cast<std::size_t>(2 * depth_);
+  const std::size_t from = out_.size();
+  out_.resize(from + indent + 2 * name.size() + text.size() + 5 + (compact_ ? 0 : 1));
+  char* to = std::fill_n(out_.data() + from, indent, ' ');
+  *to++ = '<';
+  to = std::copy(name.begin(), name.end(), to);
+  *to++ = '>';
+  to = std::transform(text.begin(), text.end(), to, [](Char c) { return static_cast<char>(c); });
+  *to++ = '<';
+  *to++ = '/';
+  to = std::copy(name.begin(), name.end(), to);
+  *to++ = '>';
+  if (!compact_) *to = '\n';
+  deepest_ = std::max(deepest_, depth_ + 1);
+}
+
 void XmlWriter::Value(std::string_view name, std::wstring_view text) {
+  if (!text.empty() && OrdinaryRun(text, 0) == text.size()) return Whole(name, text);
   Start(name);
   if (text.empty()) {
     End(name);
@@ -92,12 +116,7 @@ void XmlWriter::Value(std::string_view name, std::wstring_view text) {
   EndInline(name);
 }
 
-void XmlWriter::Plain(std::string_view name, std::string_view text) {
-  Start(name);
-  CloseTag();
-  out_ += text;
-  EndInline(name);
-}
+void XmlWriter::Plain(std::string_view name, std::string_view text) { Whole(name, text); }
 
 void XmlWriter::Character(char32_t code) {
   if (IsOrdinary(code)) {

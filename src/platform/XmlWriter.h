@@ -36,6 +36,9 @@ class XmlWriter {
  private:
   void Indent();
   void NewLine();
+  // A whole element whose text is written as it stands.
+  template <class Char>
+  void Whole(std::string_view name, std::basic_string_view<Char> text);
   // Ends an element that holds text: its end tag stands on the same line.
   void EndInline(std::string_view tag);
   void EndTag(std::string_view tag);

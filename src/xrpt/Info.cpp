@@ -16,7 +16,7 @@ struct InfoOptions : CommonOptions {
 
 int Info(const InfoOptions& options) {
   const HostSession session(options);
-  RVReport report;
+  RVReport& report = ReportUntilExit();
   if (!OpenReport(options, report)) return kCouldNotRun;
   const ReportInfo info = InfoOf(report);
   Print(options.format == "json" ? info.AsJson() : info.AsText());

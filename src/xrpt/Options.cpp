@@ -93,6 +93,11 @@ HostSession::HostSession(std::unique_ptr<Host> host) : host_(std::move(host)), f
 
 HostSession::~HostSession() { InstallHost(former_); }
 
+RVReport& ReportUntilExit() {
+  static RVReport* const report = new RVReport;
+  return *report;
+}
+
 bool OpenReport(const CommonOptions& options, RVReport& report) { return IsLoaded(report.LoadFile(FileOf(options))); }
 
 bool OpenToSave(const CommonOptions& options, const std::string& name, RVReport& report) {

@@ -52,6 +52,10 @@ HostOptions HostOptionsOf(const CommonOptions& options);
 Path ConfigFolderOf(const CommonOptions& options);
 Path ImagesFolderOf(const CommonOptions& options);
 
+// A new report that is there until the program ends: a command that does one thing to it leaves without taking it apart
+// card by card. There is one; the host must be installed.
+RVReport& ReportUntilExit();
+
 // Opens the report of the options. False, and a line on standard error, when there is no such file, it cannot be read
 // or is no report.
 bool OpenReport(const CommonOptions& options, RVReport& report);

@@ -15,7 +15,7 @@ struct ResaveOptions : CommonOptions {
 
 int Resave(const ResaveOptions& options) {
   const HostSession session(options);
-  RVReport report;
+  RVReport& report = ReportUntilExit();
   if (!OpenToSave(options, options.name, report)) return kCouldNotRun;
   return SaveReport(report, options.output) ? kNothingToReport : kCouldNotRun;
 }

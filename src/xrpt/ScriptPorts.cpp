@@ -24,6 +24,8 @@ std::string_view CursorName(Cursor cursor) {
       return "1206";
     case Cursor::Moving:
       return "1207";
+    case Cursor::Cross:
+      return "IDC_CROSS";
   }
   return "";
 }

@@ -1,13 +1,30 @@
 // xrpt: report templates in scripts.
+#include <unistd.h>
 #include <CLI/CLI.hpp>
 #include <exception>
+#include <filesystem>
 #include <sstream>
+#include <string_view>
 
 #include "xrpt/Commands.h"
 #include "xrpt/Options.h"
 #include "xrpt/Output.h"
 
 namespace {
+
+#ifdef XRPT_PAGES_PROGRAM
+// Commands that paint, measure texts or decode pictures are the other program's, which stands beside this one. Where it
+// is missing, this one does what can be done without.
+void HandOn(int argc, char** argv) {
+  const std::string_view command = argc > 1 ? argv[1] : "";
+  if (command != "render" && command != "validate") return;
+  std::error_code unknown;
+  const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe", unknown);
+  if (!unknown) ::execv((own.parent_path() / XRPT_PAGES_PROGRAM).c_str(), argv);
+}
+#else
+void HandOn(int, char**) {}
+#endif
 
 int Run(int argc, char** argv) {
   CLI::App program("Report templates on the command line: resave, look into, search, edit and render them, clean up.",
@@ -44,6 +61,7 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  HandOn(argc, argv);
   const xrpt::TerminalGuard guard;
   try {
     return Run(argc, argv);

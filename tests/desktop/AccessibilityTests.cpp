@@ -14,7 +14,7 @@
 
 #include "desktop/WindowTest.h"
 #include "desktop/dialogs/CommandPalette.h"
-#include "desktop/dialogs/OpenDialog.h"
+#include "desktop/dialogs/ReportListDialog.h"
 #include "desktop/dialogs/ShortcutSheet.h"
 
 namespace xrpt {
@@ -57,10 +57,29 @@ TEST_F(Accessibility, EverythingInTheWindowHasAName) {
   EXPECT_THAT(Nameless(Window()), ::testing::IsEmpty());
 }
 
+TEST_F(Accessibility, TheCardsOfThePageAreThereWithTheirPlace) {
+  OpenSample();
+  QAccessibleInterface* page = QAccessible::queryAccessibleInterface(View().viewport());
+  ASSERT_EQ(page->childCount(), static_cast<int>(Page().Page().cards.Size()));
+  const std::wstring id = CardWith("text/textStr", L"Desde");
+  const int index = static_cast<int>(Page().Page().cards.IndexOf(id));
+  QAccessibleInterface* card = page->child(index);
+  EXPECT_THAT(card->text(QAccessible::Name).toStdString(), ::testing::HasSubstr("Desde"));
+  EXPECT_THAT(card->text(QAccessible::Description).toStdString(), ::testing::HasSubstr("mm"));
+  EXPECT_TRUE(card->rect().contains(View().viewport()->mapToGlobal(MiddleOf(id))));
+  EXPECT_EQ(page->indexOfChild(card), index);
+  EXPECT_FALSE(card->state().selected);
+  Click(MiddleOf(id));
+  EXPECT_TRUE(card->state().selected);
+  Run("Delete");
+  EXPECT_FALSE(card->isValid()) << "a card that is gone";
+  EXPECT_EQ(page->child(page->childCount()), nullptr);
+}
+
 TEST_F(Accessibility, EverythingInTheDialogsHasAName) {
-  const OpenDialog open(L"", &Window());
+  const ReportListDialog open(L"", {}, &Window());
   EXPECT_THAT(Nameless(open), ::testing::IsEmpty());
-  auto* palette = new CommandPalette(Window().AllActions().All(), &Window());
+  auto* palette = new CommandPalette(Window().AllActions(), &Window());
   EXPECT_THAT(Nameless(*palette), ::testing::IsEmpty());
   delete palette;
   auto* sheet = new ShortcutSheet(Window().AllActions().All(), &Window());

@@ -20,6 +20,7 @@
 #include "desktop/ribbon/RibbonGroup.h"
 #include "desktop/ribbon/RibbonPage.h"
 #include "editor/CommandCatalogue.h"
+#include "editor/CommandHelp.h"
 #include "host/TextCatalogue.h"
 #include "model/CardRegistry.h"
 
@@ -77,15 +78,15 @@ TEST_F(CommandWindow, LettersTypedInAFieldAreNoTools) {
 TEST_F(CommandWindow, SwitchesShowWhatIsOn) {
   const auto isOn = [this](const char* name) { return Window().AllActions().Find(name)->isChecked(); };
   EXPECT_TRUE(isOn("Rulers"));
-  EXPECT_FALSE(isOn("SmartGuides"));
+  EXPECT_TRUE(isOn("SmartGuides"));
   Run("Rulers");
   Run("SmartGuides");
   EXPECT_FALSE(isOn("Rulers"));
   EXPECT_FALSE(Window().Pages().HasRulers());
-  EXPECT_TRUE(isOn("SmartGuides"));
-  EXPECT_TRUE(Page().HasSmartGuides());
+  EXPECT_FALSE(isOn("SmartGuides"));
+  EXPECT_FALSE(Page().HasSmartGuides());
   Run("AddPage");
-  EXPECT_TRUE(Page().HasSmartGuides());
+  EXPECT_FALSE(Page().HasSmartGuides());
 }
 
 TEST_F(CommandWindow, TwoCardsCanBeDistributed) {
@@ -116,7 +117,7 @@ TEST_F(CommandWindow, NarrowRibbonFoldsGroupsFromTheRight) {
   constexpr int kArrange = 2;
   ribbon.ShowTab(kArrange);
   std::vector<int> rooms;
-  for (const int width : {1400, 900, 620}) {
+  for (const int width : {1800, 900, 620}) {
     Window().resize(width, 800);
     Settle();
     ASSERT_EQ(ribbon.width(), width);
@@ -153,6 +154,41 @@ TEST(Labels, TwoLinesOfNearlyEqualLength) {
 TEST(Labels, MnemonicsAreOneToALabel) {
   EXPECT_EQ(WithMnemonics({"Inicio", "Insertar", "Informe", "Vista"}),
             QStringList({"&Inicio", "I&nsertar", "In&forme", "&Vista"}));
+}
+
+TEST_F(CommandWindow, ThePagesMenuHoldsWhatCanRun) {
+  OpenSample();
+  for (const std::vector<std::size_t>& chosen : {std::vector<std::size_t>{}, {3}, {3, 5}}) {
+    Page().SelectPlaces(chosen);
+    const std::vector<const Command*> menu = PageMenuCommands(Frame());
+    ASSERT_FALSE(menu.empty());
+    EXPECT_TRUE(menu.front() && menu.back());
+    for (std::size_t i = 0; i < menu.size(); ++i) {
+      EXPECT_TRUE(!menu[i] || menu[i]->isEnabled(Frame())) << i;
+      EXPECT_TRUE(i == 0 || menu[i] || menu[i - 1]) << "two partings beside each other";
+    }
+    const bool hasDelete = std::find(menu.begin(), menu.end(), FindCommand("Delete")) != menu.end();
+    EXPECT_EQ(hasDelete, !chosen.empty());
+  }
+}
+
+TEST_F(CommandWindow, EveryDisabledCommandSaysWhatItWaitsFor) {
+  for (const Command& command : CommandCatalogue()) {
+    if (command.isEnabled(Frame())) continue;
+    EXPECT_TRUE(IsWritten(WhyUnavailable(command, Frame()))) << command.name;
+  }
+}
+
+TEST_F(CommandWindow, PaletteFindsBySense) {
+  const auto answers = [](const char* typed, const char* name) {
+    const Command& command = *FindCommand(name);
+    return SenseScore(ToQString(OtherWordsFor(command)), QLatin1String(typed));
+  };
+  EXPECT_GT(answers("clone", "Duplicate"), 0);
+  EXPECT_GT(answers("chart", "NewReportGraph"), 0);
+  EXPECT_GT(answers("expo", "Print"), 0);
+  EXPECT_EQ(answers("ch", "NewReportGraph"), 0) << "too little to say";
+  EXPECT_EQ(answers("chart", "NewLabel"), 0);
 }
 
 TEST(Palette, BestAnswersComeFirst) {

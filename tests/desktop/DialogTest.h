@@ -8,6 +8,21 @@
 
 namespace xrpt {
 
+// What is done to the modal window that opens next, as soon as keys reach it.
+inline void WhenOpen(std::function<void(QWidget&)> act) {
+  const QWidget* below = QApplication::activeModalWidget();
+  auto* waiting = new QTimer(qApp);
+  waiting->setInterval(5);
+  QObject::connect(waiting, &QTimer::timeout, qApp, [below, waiting, act = std::move(act)] {
+    QWidget* opened = QApplication::activeModalWidget();
+    if (!opened || opened == below || !opened->isActiveWindow()) return;
+    waiting->stop();
+    waiting->deleteLater();
+    act(*opened);
+  });
+  waiting->start();
+}
+
 class DialogTest : public WindowTest {
  protected:
   // Runs `work` in the dialog of that kind as soon as one is open, then closes whatever is left of it. Nested dialogs

@@ -62,7 +62,8 @@ std::vector<Deed> EditedWindow::EditorDeeds(int turn) {
     for (const QWidget* body : form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       for (const QWidget* part : UsableParts(*body)) {
         const QString name = part->objectName();
-        if (name.isEmpty()) continue;
+        const bool isTitle = name == QStringLiteral("sectionTitle");  // folds its section
+        if (name.isEmpty() || isTitle) continue;
         deeds.push_back({"field " + name.toStdString(),
                          [this, name, turn] { UsePart(Window().Properties().findChild<QWidget*>(name), turn); }, true});
       }

@@ -7,9 +7,14 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
 
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/ExportDialog.h"
 #include "desktop/dialogs/ExportNames.h"
 #include "desktop/panels/MessageBar.h"
 
@@ -32,8 +37,8 @@ TEST(ExportNames, KeepAnEndingOfTheirKindAndGetOneOtherwise) {
 }
 
 TEST(ExportNames, PagesAreNumberedWhenThereAreSeveral) {
-  EXPECT_THAT(PageFiles("/a/page.svg", 1), ElementsAre(Path("/a/page.svg")));
-  EXPECT_THAT(PageFiles("/a/page.v2.png", 2), ElementsAre(Path("/a/page.v2-1.png"), Path("/a/page.v2-2.png")));
+  EXPECT_THAT(PageFiles("/a/page.svg", {2}), ElementsAre(Path("/a/page.svg")));
+  EXPECT_THAT(PageFiles("/a/page.v2.png", {0, 2}), ElementsAre(Path("/a/page.v2-1.png"), Path("/a/page.v2-3.png")));
 }
 
 class Export : public WindowTest {
@@ -42,20 +47,28 @@ class Export : public WindowTest {
   // Types a name into the file dialog that the command opens, and answers the question that may follow.
   void RunAndType(const char* command, const Path& file, QMessageBox::StandardButton answer = QMessageBox::NoButton) {
     QTimer::singleShot(0, &Window(), [this, file, answer] {
-      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QString::fromStdString(file.string()));
-      QTimer::singleShot(0, &Window(), [this, answer] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        asked_ = box ? box->text().toStdString() : "";
-        if (box) box->button(answer)->click();
-      });
-      dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+      auto* options = dynamic_cast<ExportDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(options, nullptr);
+      if (choose) choose(*options);
+      QTimer::singleShot(0, &Window(), [this, file, answer] { TypeName(file, answer); });
+      QTest::keyClick(options, Qt::Key_Return);
     });
     Run(command);
   }
+  void TypeName(const Path& file, QMessageBox::StandardButton answer) {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QString::fromStdString(file.string()));
+    QTimer::singleShot(0, &Window(), [this, answer] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      asked_ = box ? box->text().toStdString() : "";
+      if (box) box->button(answer)->click();
+    });
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+  }
   std::string Message() { return Window().Messages().Message().toStdString(); }
 
+  std::function<void(ExportDialog&)> choose;  // what is chosen before the file
   std::string asked_;
 };
 
@@ -71,6 +84,35 @@ TEST_F(Export, PicturesAreWhatTheirNameSays) {
   EXPECT_THAT(TestHost::ReadFile(host.Folder() / "paper.pdf"), StartsWith("%PDF"));
   EXPECT_EQ(Message(), "");
   EXPECT_FALSE(Frame().IsModified());
+}
+
+TEST_F(Export, PagesAndResolutionAreChosen) {
+  choose = [](ExportDialog& dialog) {
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly), "4, 2");
+    dialog.findChildren<QSpinBox*>().at(0)->setValue(72);
+    EXPECT_THAT(dialog.Choice().pages, ElementsAre(1u, 3u));
+  };
+  RunAndType("ExportImages", host.Folder() / "some.png");
+  EXPECT_FALSE(std::filesystem::exists(host.Folder() / "some-1.png"));
+  const QImage picture(QString::fromStdString((host.Folder() / "some-4.png").string()));
+  EXPECT_EQ(picture.width(), 595) << "210 mm at 72 dots per inch";
+  ExportDialog dialog(ExportFormat::Pdf, 4, 0, &Window());
+  auto* range = dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+  QTest::keyClicks(range, "2-9");
+  EXPECT_TRUE(dialog.Choice().pages.empty());
+  dialog.findChildren<QRadioButton*>().at(1)->click();
+  EXPECT_THAT(dialog.Choice().pages, ElementsAre(0u));
+}
+
+TEST_F(Export, ThePreviewShowsEveryPage) {
+  QTimer::singleShot(0, &Window(), [] {
+    auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    QTest::qWait(50);
+    EXPECT_EQ(dialog->findChild<QPrintPreviewWidget*>()->pageCount(), 4);
+    dialog->reject();
+  });
+  Run("PrintPreview");
 }
 
 TEST_F(Export, NumberedFilesAreNotReplacedUnasked) {

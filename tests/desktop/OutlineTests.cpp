@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include <QListView>
+#include <QMimeData>
+#include <QPixmap>
 
 #include "desktop/WindowTest.h"
 #include "desktop/panels/Outline.h"
@@ -83,6 +85,64 @@ TEST_F(OutlineTest, ChoosingAPageShowsIt) {
   EXPECT_EQ(Pages().model()->rowCount(), 4);
   ClickLine(Cards(), 0);
   EXPECT_THAT(Selected(), ElementsAre(0));
+}
+
+TEST_F(OutlineTest, PagesAreCalledByNumberAndShownAsPictures) {
+  Run("AddPage");
+  const auto line = [this](int row) { return Pages().model()->index(row, 0); };
+  EXPECT_EQ(line(4).data().toString(), QStringLiteral("Page 5")) << "an identifier is no name";
+  const auto picture = [&] { return qvariant_cast<QPixmap>(line(0).data(Qt::DecorationRole)).toImage(); };
+  // The picture of a page hides what is behind it, the drawing that stands in for it does not.
+  const auto isPainted = [&] { return qAlpha(picture().pixel(picture().width() / 2, picture().height() / 2)) == 255; };
+  EXPECT_TRUE(QTest::qWaitFor(isPainted, 20'000)) << "no thumbnail";
+}
+
+TEST_F(OutlineTest, LinesAreDraggedToAnotherPlace) {
+  const auto drop = [](QListView& list, std::vector<int> rows, int before) {
+    QModelIndexList lines;
+    for (const int row : rows) lines << list.model()->index(row, 0);
+    const std::unique_ptr<QMimeData> data(list.model()->mimeData(lines));
+    list.model()->dropMimeData(data.get(), Qt::MoveAction, before, 0, {});
+  };
+  const auto idAt = [this](std::size_t place) { return Page().Page().cards[place].id; };
+  const std::vector<std::wstring> before = {idAt(0), idAt(1), idAt(2), idAt(3)};
+  drop(Cards(), {2, 3}, 0);
+  Settle();
+  EXPECT_THAT((std::vector{idAt(0), idAt(1), idAt(2), idAt(3)}),
+              ElementsAre(before[2], before[3], before[0], before[1]));
+  Run("Undo");
+  EXPECT_EQ(idAt(0), before[0]);
+
+  const std::wstring first = Frame().Page(0).Page().properties.id;
+  drop(Pages(), {0}, 2);
+  Settle();
+  EXPECT_EQ(Frame().Page(1).Page().properties.id, first);
+  Run("Undo");
+  EXPECT_EQ(Frame().Page(0).Page().properties.id, first);
+  // What comes from another list is none of its lines.
+  const std::unique_ptr<QMimeData> foreign(Cards().model()->mimeData({Cards().model()->index(1, 0)}));
+  EXPECT_FALSE(Pages().model()->dropMimeData(foreign.get(), Qt::MoveAction, 0, 0, {}));
+  EXPECT_EQ(Frame().Page(0).Page().properties.id, first);
+}
+
+TEST_F(OutlineTest, ACardMayHaveANameOfItsOwn) {
+  Frame().RememberIn(host.Cfg() / "notes");
+  QAbstractItemModel& cards = *Cards().model();
+  const QString plain = cards.index(1, 0).data().toString();
+  ASSERT_TRUE(cards.setData(cards.index(1, 0), QStringLiteral(" Total ")));
+  EXPECT_EQ(cards.index(1, 0).data().toString(), QStringLiteral("Total"));
+  EXPECT_FALSE(Frame().IsModified());
+  Page().SelectPlaces({1});
+  Frame().Port().StateChanged();
+  Settle();
+  Run("Lock");
+  EXPECT_EQ(cards.index(1, 0).data().toString(), QStringLiteral("Total (locked)"));
+  Run("HideCards");
+  EXPECT_EQ(cards.index(1, 0).data().toString(), QStringLiteral("Total (locked, hidden)"));
+  cards.setData(cards.index(1, 0), QString());
+  Run("UnlockAll");
+  Run("ShowAll");
+  EXPECT_EQ(cards.index(1, 0).data().toString(), plain);
 }
 
 TEST_F(OutlineTest, ChosenCardsComeIntoSight) {

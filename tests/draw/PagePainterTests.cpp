@@ -76,7 +76,9 @@ TEST_F(PagePainterTest, FillsTheSurroundThePageAndItsRoundedCorners) {
   EXPECT_EQ(Painted(draw).Count(CallKind::FillRect), 1u);
   page.properties.backcolor = kBlack;
   draw.roundedPxX = draw.roundedPxY = 12.0;
-  drawn = Painted(draw, {false, {}, nullptr});
+  PagePaint alone;
+  alone.surround = false;
+  drawn = Painted(draw, alone);
   EXPECT_EQ(drawn.Count(CallKind::FillRect), 0u);
   EXPECT_EQ(drawn.First(CallKind::FillRoundRect).first, 12.0);
 }

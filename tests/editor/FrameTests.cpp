@@ -50,7 +50,9 @@ TEST_F(FrameTest, SavingUnderAnotherNameMakesAReportOfItsOwn) {
   EXPECT_EQ(Files().size(), 2u) << "a rename alone writes nothing";
   EXPECT_TRUE(editor.OnCommand(CDlgEditor::kSaveCommand));
   EXPECT_EQ(Files().size(), 3u);
-  EXPECT_FALSE(editor.OnCommand(CDlgEditor::kSaveAsCommand));
+  EXPECT_TRUE(editor.OnCommand(CDlgEditor::kSaveAsCommand));
+  EXPECT_EQ(port.passed, std::vector<int>{CDlgEditor::kSaveAsCommand});
+  EXPECT_FALSE(editor.OnCommand(1));
 }
 
 TEST_F(FrameTest, TheQuestionIsAskedOnlyAboutChangesAndAnsweringNoLetsThemGo) {

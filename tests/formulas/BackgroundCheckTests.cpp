@@ -38,7 +38,7 @@ class BackgroundCheckTest : public ReportCheckTest {
     report.SetTemplate(document.Root());
   }
   void Wait(const BackgroundCheck& check) {
-    for (int i = 0; i < 5000 && !check.IsDone(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    for (int i = 0; i < 60000 && !check.IsDone(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(1));
     ASSERT_TRUE(check.IsDone());
   }
   RVCardFormule& Edit(std::size_t index) { return dynamic_cast<RVCardFormule&>(report.pages[0]->cards.Edit(index)); }

@@ -74,6 +74,27 @@ TEST_F(OpenReportTest, FindsWhatTheSavedFileWouldShow) {
   EXPECT_EQ(fromFile, fromWindow);
 }
 
+TEST_F(OpenReportTest, FindsStylesThatWereLostWhenItWasOpened) {
+  host.WriteCfg("S1.Known.XSTY", "<style><id>S1</id><name>Known</name><font><name>Arial</name></font></style>");
+  const std::string gone = "<style>GONE</style>";
+  const Path file = host.WriteCfg(
+      "R.r.xrpt", "<reportLayout><id>R</id><name>r</name><page><id>p</id><label><id>a</id>" + gone +
+                      "</label><label><id>b</id></label><conditioned><id>c</id><control><condition>1 &lt; 2</condition>"
+                      "<label>" +
+                      gone + "</label></control></conditioned></page></reportLayout>");
+  report.LoadFile(file);
+  const auto styles = [this] {
+    Codes found = Now();
+    std::erase_if(found, [](const std::string& code) { return code.find("STYLE_UNKNOWN") == code.npos; });
+    return found;
+  };
+  EXPECT_EQ(styles(), (Codes{"STYLE_UNKNOWN@1.0", "STYLE_UNKNOWN@1.2"}));
+  Edit<RVCardLabel>(0).styleName = L"Known";
+  EXPECT_EQ(styles(), Codes{"STYLE_UNKNOWN@1.2"});
+  report.SaveTo(file);
+  EXPECT_EQ(styles(), Codes{});  // now the file does not have it either
+}
+
 TEST_F(OpenReportTest, LooksOnlyAtWhatChanged) {
   std::string cards = Formule("TOTAL", "f");
   for (int i = 0; i < 300; ++i) cards += Formule("[MAIN.P] + 1", "c" + std::to_string(i));

@@ -56,5 +56,37 @@ TEST_F(CardListTest, ASnapshotSharesWhatDidNotChangeSinceTheOneBefore) {
   EXPECT_EQ(&page.cards[0], first[1].get());
 }
 
+// Every card of the samples, moved about with now and then another change: each snapshot comes back as it was, however
+// many came after it.
+TEST_F(CardListTest, PackedSnapshotsComeBackToTheLastBit) {
+  for (const auto& file : std::filesystem::directory_iterator(XRPT_SAMPLES)) {
+    if (file.path().extension() != ".xrpt") continue;
+    RVReport report;
+    ASSERT_TRUE(report.LoadFile(file.path()).loaded);
+    CardList& cards = report.pages.front()->cards;
+    std::vector<SharedCards> steps;
+    std::vector<std::vector<std::string>> texts;
+    for (int step = 0; step < 9; ++step) {
+      for (std::size_t i = 0; i < cards.Size(); ++i) {
+        RVCardControl& card = cards.Edit(i);
+        card.x += 0.1;
+        if (step == 4 && i % 100 == 7) card.color += 1;
+      }
+      steps.push_back(cards.Share(steps.empty() ? SharedCards() : steps.back()));
+      if (step > 0) steps[steps.size() - 2].Pack(steps.back());
+      std::vector<std::string>& saved = texts.emplace_back();
+      for (std::size_t i = 0; i < cards.Size(); ++i) saved.push_back(Saved(cards[i]));
+    }
+    for (const std::size_t step : {8, 7, 3, 4, 5, 0, 6}) {
+      EXPECT_EQ(cards.Equals(steps[step]), step == 8 || cards.IsEmpty()) << step;
+      CardList other;
+      other.Restore(steps[step]);
+      EXPECT_TRUE(other.Equals(steps[step])) << step;
+      ASSERT_EQ(other.Size(), texts[step].size());
+      for (std::size_t i = 0; i < other.Size(); ++i) EXPECT_EQ(Saved(other[i]), texts[step][i]);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace xrpt

@@ -3,8 +3,11 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "editor/EditorPort.h"
@@ -22,6 +25,7 @@ class AnsweringPort final : public EditorPort {
   void StateChanged() override {}
   bool RunCommand(const char*) override { return false; }
   Answer Ask(int textId) override {
+    MayThrow();
     asked.push_back(textId);
     return answer;
   }
@@ -42,6 +46,23 @@ class AnsweringPort final : public EditorPort {
   void ShowDifferences(const Path&, const RVReport&) override { ++compared; }
   void Tell(int textId) override { told.push_back(textId); }
   std::optional<std::wstring> ChooseReport(const std::wstring&) override { return chosen; }
+  bool EditPageProperties(CDlgGlobalProperties& page) override {
+    MayThrow();
+    const auto edit = std::exchange(editPage, nullptr);
+    if (edit) edit(page);
+    return static_cast<bool>(edit);
+  }
+  void TimerStateChanged(bool runs) override {
+    MayThrow();
+    timers.push_back(runs);
+  }
+  void LoadBarState(const std::wstring& section) override { barSections.push_back(L"+" + section); }
+  void SaveBarState(const std::wstring& section) override { barSections.push_back(L"-" + section); }
+  bool PassCommand(int id) override {
+    MayThrow();
+    passed.push_back(id);
+    return true;
+  }
 
   int windows = 0;
   Answer answer = Answer::No;
@@ -54,6 +75,16 @@ class AnsweringPort final : public EditorPort {
   int failed = 0;
   int compared = 0;
   std::optional<std::wstring> chosen;
+  std::function<void(CDlgGlobalProperties&)> editPage;  // once, with OK; cancelled without
+  std::vector<int> passed;
+  std::vector<bool> timers;
+  std::vector<std::wstring> barSections;  // "+": loaded, "-": saved
+  bool throwing = false;                  // as a host in trouble
+
+ private:
+  void MayThrow() const {
+    if (throwing) throw std::runtime_error("the host's window is gone");
+  }
 };
 
 }  // namespace xrpt

@@ -8,7 +8,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
 #include "desktop/ribbon/Actions.h"
-#include "editor/CommandCatalogue.h"
+#include "editor/CommandHelp.h"
 
 namespace xrpt {
 
@@ -26,7 +26,16 @@ int MatchScore(const QString& label, const QString& typed) {
   return score;
 }
 
-CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* parent)
+int SenseScore(const QString& words, const QString& typed) {
+  constexpr qsizetype kLeast = 3;
+  if (typed.size() < kLeast) return 0;
+  for (const QString& word : words.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (word.startsWith(typed, Qt::CaseInsensitive)) return 5 * static_cast<int>(typed.size());
+  }
+  return 0;
+}
+
+CommandPalette::CommandPalette(const Actions& actions, QWidget* parent)
     : QDialog(parent, Qt::Popup | Qt::FramelessWindowHint), actions_(actions) {
   setObjectName(QStringLiteral("palettePopup"));
   setAttribute(Qt::WA_DeleteOnClose);
@@ -55,14 +64,17 @@ CommandPalette::CommandPalette(const std::vector<QAction*>& actions, QWidget* pa
 
 void CommandPalette::Fill(const QString& typed) {
   std::vector<std::pair<int, QAction*>> found;
-  for (QAction* action : actions_) {
-    if (const int score = MatchScore(Actions::FullLabelOf(*action), typed.trimmed())) found.emplace_back(score, action);
+  for (QAction* action : actions_.All()) {
+    const int byLabel = MatchScore(Actions::FullLabelOf(*action), typed.trimmed());
+    const int bySense = SenseScore(ToQString(OtherWordsFor(Actions::CommandOf(*action))), typed.trimmed());
+    if (const int score = std::max(byLabel, bySense)) found.emplace_back(score, action);
   }
   std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
   list_->clear();
   for (const auto& [score, action] : found) {
     const QString key = action->shortcut().toString(QKeySequence::NativeText);
-    const QString label = Actions::FullLabelOf(*action);
+    const QString why = ToQString(actions_.WhyUnavailable(*action));
+    const QString label = Actions::FullLabelOf(*action) + (why.isEmpty() ? why : QStringLiteral(" — ") + why);
     auto* item =
         new QListWidgetItem(action->icon(), key.isEmpty() ? label : label + QStringLiteral("    ") + key, list_);
     item->setData(Qt::UserRole, QVariant::fromValue(static_cast<QObject*>(action)));

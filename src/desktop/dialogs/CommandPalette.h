@@ -10,9 +10,11 @@ class QListWidget;
 
 namespace xrpt {
 
+class Actions;
+
 class CommandPalette final : public QDialog {
  public:
-  CommandPalette(const std::vector<QAction*>& actions, QWidget* parent);
+  CommandPalette(const Actions& actions, QWidget* parent);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -21,7 +23,7 @@ class CommandPalette final : public QDialog {
   void Fill(const QString& typed);
   void RunChosen();
 
-  const std::vector<QAction*>& actions_;
+  const Actions& actions_;
   QLineEdit* field_;
   QListWidget* list_;
 };
@@ -29,5 +31,8 @@ class CommandPalette final : public QDialog {
 // How well a label answers what was typed: 0 not at all, more is better. Every typed letter must occur in order; starts
 // of words and runs of letters count more.
 int MatchScore(const QString& label, const QString& typed);
+
+// How well other words for a command answer it: the beginning of one of them does, from three letters on.
+int SenseScore(const QString& words, const QString& typed);
 
 }  // namespace xrpt

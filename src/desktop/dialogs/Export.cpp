@@ -26,32 +26,35 @@ void SetPaper(QPrinter& printer, const RVReportPage& page) {
 
 }  // namespace
 
-std::string PdfOf(const RVReport& report) {
+std::string PdfOf(const RVReport& report, const PageNumbers& pages) {
   PdfSurface surface(report.name, kVectorDpi);
-  for (const auto& page : report.pages) {
-    if (surface.BeginPage(MillimetresOf(*page))) RenderPage(surface.Graphics(), *page, kVectorDpi);
+  for (const std::size_t number : pages) {
+    const RVReportPage& page = *report.pages[number];
+    if (surface.BeginPage(MillimetresOf(page))) RenderPage(surface.Graphics(), page, kVectorDpi);
   }
   return surface.Finish();
 }
 
-std::vector<std::string> PngsOf(const RVReport& report, int dpi) {
+std::vector<std::string> PngsOf(const RVReport& report, const PageNumbers& pages, int dpi) {
   std::vector<std::string> pictures;
-  for (const auto& page : report.pages) {
-    const SizeD size = OutputSize(*page, dpi);
+  for (const std::size_t number : pages) {
+    const RVReportPage& page = *report.pages[number];
+    const SizeD size = OutputSize(page, dpi);
     PngSurface surface(roundi(size.width), roundi(size.height), dpi);
-    if (surface.IsValid()) RenderPage(surface.Graphics(), *page, dpi);
+    if (surface.IsValid()) RenderPage(surface.Graphics(), page, dpi);
     pictures.push_back(surface.IsValid() ? surface.Finish() : std::string());
   }
   return pictures;
 }
 
-std::vector<std::string> SvgsOf(const RVReport& report) {
+std::vector<std::string> SvgsOf(const RVReport& report, const PageNumbers& pages) {
   std::vector<std::string> drawings;
-  for (const auto& page : report.pages) {
-    const SizeD size = MillimetresOf(*page);
+  for (const std::size_t number : pages) {
+    const RVReportPage& page = *report.pages[number];
+    const SizeD size = MillimetresOf(page);
     const bool isValid = size.width > 0.0 && size.height > 0.0;
-    SvgGraphics graphics(OutputSize(*page, kVectorDpi), size);
-    if (isValid) RenderPage(graphics, *page, kVectorDpi);
+    SvgGraphics graphics(OutputSize(page, kVectorDpi), size);
+    if (isValid) RenderPage(graphics, page, kVectorDpi);
     drawings.push_back(isValid ? graphics.Finish() : std::string());
   }
   return drawings;
@@ -65,7 +68,7 @@ bool PrintReport(const RVReport& report, QPrinter& printer) {
   for (std::size_t i = 0; i < report.pages.size(); ++i) {
     const RVReportPage& page = *report.pages[i];
     if (i > 0) {
-      SetPaper(printer, page);
+      if (MillimetresOf(page) != MillimetresOf(*report.pages[i - 1])) SetPaper(printer, page);
       printer.newPage();
     }
     QtGraphics graphics(painter, pictures);

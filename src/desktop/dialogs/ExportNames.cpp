@@ -9,12 +9,12 @@ QString WithEnding(const QString& typed, const QStringList& endings) {
   return hasOne ? typed : typed + endings.front();
 }
 
-std::vector<Path> PageFiles(const Path& file, std::size_t pages) {
-  if (pages == 1) return {file};
+std::vector<Path> PageFiles(const Path& file, const PageNumbers& pages) {
+  if (pages.size() == 1) return {file};
   std::vector<Path> files;
-  for (std::size_t page = 1; page <= pages; ++page) {
+  for (const std::size_t page : pages) {
     Path numbered = file;
-    numbered.replace_filename(file.stem().wstring() + L"-" + std::to_wstring(page) + file.extension().wstring());
+    numbered.replace_filename(file.stem().wstring() + L"-" + std::to_wstring(page + 1) + file.extension().wstring());
     files.push_back(numbered);
   }
   return files;

@@ -4,7 +4,8 @@
 #include <QStringList>
 #include <vector>
 
-#include "platform/Host.h"
+#include "editor/ExportChoice.h"
+#include "platform/Files.h"
 
 namespace xrpt {
 
@@ -12,7 +13,7 @@ namespace xrpt {
 // them behind it.
 QString WithEnding(const QString& typed, const QStringList& endings);
 
-// page.png of one page is page.png; of several page-1.png, page-2.png.
-std::vector<Path> PageFiles(const Path& file, std::size_t pages);
+// page.png of one page is page.png; of several, by their numbers, page-1.png, page-3.png.
+std::vector<Path> PageFiles(const Path& file, const PageNumbers& pages);
 
 }  // namespace xrpt

@@ -31,16 +31,8 @@ QImage OnSquare(const QImage& picture) {
 
 QImage PreviewOf(const std::wstring& name) {
   const PictureKey key = ParsePictureName(name);
-  const QSize room(PicturesModel::kPreview, PicturesModel::kPreview);
-  PicturePtr picture = ReadImageFile(CurrentHost(), key.id, key.path);
-  if (picture && picture->source) {
-    const QSize shown = QSize(picture->width, picture->height).scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
-    picture = WithPixels(picture, shown.width(), shown.height());
-  }
-  if (!picture) return {};
-  const QImage whole = ToImage(*picture);
-  const bool fits = whole.width() <= room.width() && whole.height() <= room.height();
-  return OnSquare(fits ? whole : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  const QImage fitted = FitPicture(ReadImageFile(CurrentHost(), key.id, key.path), PicturesModel::kPreview);
+  return fitted.isNull() ? fitted : OnSquare(fitted);
 }
 
 // Until a preview is there.
@@ -50,6 +42,18 @@ QPixmap Placeholder() {
 }
 
 }  // namespace
+
+QImage FitPicture(PicturePtr picture, int side) {
+  const QSize room(side, side);
+  if (picture && picture->source) {
+    const QSize shown = QSize(picture->width, picture->height).scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+    picture = WithPixels(picture, shown.width(), shown.height());
+  }
+  if (!picture) return {};
+  const QImage whole = ToImage(*picture);
+  const bool fits = whole.width() <= side && whole.height() <= side;
+  return fits ? whole : whole.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
 
 PicturesModel::PicturesModel(QObject* parent) : NamesModel(parent) {
   workers_.setMaxThreadCount(2);
@@ -65,11 +69,12 @@ void PicturesModel::Reload() {
   workers_.clear();
   workers_.waitForDone();
   previews_.clear();
+  ShowNames(ListPictures());
+}
+
+void PicturesModel::ShowNames(const std::vector<std::wstring>& names) {
   Clear();
-  for (std::wstring& name : ListPictures()) {
-    const QString label = ToQString(name);
-    Add(std::move(name), label);
-  }
+  for (const std::wstring& name : names) Add(name, ToQString(name));
   FilterAgain();
 }
 
@@ -102,14 +107,13 @@ PictureChooser::PictureChooser(const std::wstring& current, QWidget* parent)
     : NameChooser(*new PicturesModel(nullptr), {text::kChoosePicture, text::kFilterPictures, text::kPictures}, parent),
       model_(static_cast<PicturesModel*>(List().model())) {
   model_->setParent(this);
-  ShowAsPictures();
+  ShowAsPictures(List());
   AddButtons();
   NameChooser::Choose(current);
   KeepSize(*this, L"Pictures", {640, 520});
 }
 
-void PictureChooser::ShowAsPictures() {
-  QListView& list = List();
+void ShowAsPictures(QListView& list) {
   list.setViewMode(QListView::IconMode);
   list.setResizeMode(QListView::Adjust);
   list.setMovement(QListView::Static);

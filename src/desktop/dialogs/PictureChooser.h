@@ -1,12 +1,14 @@
 // The pictures of the images folder, with previews, to choose one from.
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QThreadPool>
 #include <optional>
 #include <unordered_map>
 
 #include "desktop/dialogs/NameChooser.h"
+#include "platform/Picture.h"
 
 namespace xrpt {
 
@@ -20,6 +22,8 @@ class PicturesModel final : public NamesModel {
 
   // Reads the folder again.
   void Reload();
+  // Other pictures; previews that are known stay.
+  void ShowNames(const std::vector<std::wstring>& names);
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:
@@ -30,6 +34,12 @@ class PicturesModel final : public NamesModel {
   mutable QThreadPool workers_;
 };
 
+// A picture as it is, or scaled down to a square of so many pixels. Null for one that cannot be had.
+QImage FitPicture(PicturePtr picture, int side);
+
+// A list of previews, side by side.
+void ShowAsPictures(QListView& list);
+
 class PictureChooser final : public NameChooser {
  public:
   // `current` is chosen to begin with.
@@ -39,7 +49,6 @@ class PictureChooser final : public NameChooser {
   static std::optional<std::wstring> Choose(const std::wstring& current, QWidget* parent);
 
  private:
-  void ShowAsPictures();
   void AddButtons();
   void AddFiles();
 

@@ -9,24 +9,23 @@
 
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
-#include "model/RVReport.h"
+#include "editor/EditorTexts.h"
+#include "editor/ReportFiles.h"
 #include "platform/FileTexts.h"
-#include "platform/NamedFiles.h"
+#include "platform/Host.h"
+#include "platform/SystemNames.h"
 #include "platform/Text.h"
 
 namespace xrpt {
 namespace {
 
-// Text id of what is wrong with a name, 0 when nothing is.
-int ProblemWith(const std::wstring& name) {
-  if (!IsSafeFileName(name)) return text::kBadName;
-  return FindNamedFile(CurrentHost().setup->CfgPath(), name, kReportEnding) ? text::kNameIsTaken : 0;
-}
+constexpr SaveDialog::Words kSaveWords{text::kSaveAsTitle, text::kSaveAnswer};
 
 }  // namespace
 
-SaveDialog::SaveDialog(const std::wstring& name, bool offersFiles, QWidget* parent) : QDialog(parent) {
-  setWindowTitle(Translated(text::kSaveAsTitle));
+SaveDialog::SaveDialog(const std::wstring& name, bool offersFiles, const Words& words, QWidget* parent)
+    : QDialog(parent) {
+  setWindowTitle(Translated(words.title));
   auto* column = new QVBoxLayout(this);
   auto* label = new QLabel(Translated(text::kReportName), this);
   name_ = new QLineEdit(ToQString(name), this);
@@ -39,7 +38,7 @@ SaveDialog::SaveDialog(const std::wstring& name, bool offersFiles, QWidget* pare
   column->addWidget(label);
   column->addWidget(name_);
   column->addWidget(problem_);
-  AddButtons(*column, offersFiles);
+  AddButtons(*column, offersFiles, words.accept);
   connect(name_, &QLineEdit::textChanged, this, [this] { Check(); });
   resize(460, sizeHint().height());
   Check();
@@ -47,9 +46,9 @@ SaveDialog::SaveDialog(const std::wstring& name, bool offersFiles, QWidget* pare
   name_->setFocus();
 }
 
-void SaveDialog::AddButtons(QBoxLayout& column, bool offersFiles) {
+void SaveDialog::AddButtons(QBoxLayout& column, bool offersFiles, int acceptTextId) {
   auto* buttons = new QDialogButtonBox(this);
-  save_ = buttons->addButton(Translated(text::kSaveAnswer), QDialogButtonBox::AcceptRole);
+  save_ = buttons->addButton(Translated(acceptTextId), QDialogButtonBox::AcceptRole);
   save_->setDefault(true);
   buttons->addButton(Translated(text::kCancel), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -63,8 +62,9 @@ void SaveDialog::AddButtons(QBoxLayout& column, bool offersFiles) {
 
 void SaveDialog::Check() {
   target_.name = name_->text().trimmed().toStdWString();
-  const int problem = target_.name.empty() ? 0 : ProblemWith(target_.name);
-  problem_->setText(problem == 0 ? QString() : Translated(problem));
+  const int problem = target_.name.empty() ? 0 : ProblemWithReportName(target_.name);
+  const bool isAsOffered = !name_->isModified() && problem == text::kNameIsTaken;
+  problem_->setText(problem == 0 || isAsOffered ? QString() : Translated(problem));
   save_->setEnabled(problem == 0 && !target_.name.empty());
 }
 
@@ -82,13 +82,17 @@ void SaveDialog::Browse() {
 }
 
 std::optional<SaveTarget> SaveDialog::Choose(const std::wstring& name, QWidget* parent) {
-  SaveDialog dialog(name, true, parent);
+  SaveDialog dialog(name, true, kSaveWords, parent);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.target_;
 }
 
 std::optional<std::wstring> SaveDialog::ChooseName(const std::wstring& proposed, QWidget* parent) {
-  SaveDialog dialog(proposed, false, parent);
+  return ChooseName(proposed, parent, kSaveWords);
+}
+
+std::optional<std::wstring> SaveDialog::ChooseName(const std::wstring& proposed, QWidget* parent, const Words& words) {
+  SaveDialog dialog(proposed, false, words, parent);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.target_.name;
 }

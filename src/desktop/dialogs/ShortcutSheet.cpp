@@ -22,10 +22,13 @@ struct Gesture {
   int keysTextId;
 };
 constexpr Gesture kGestures[] = {
-    {text::kGestureMove, text::kGestureMoveKeys},         {text::kGestureMoveFar, text::kGestureMoveFarKeys},
-    {text::kGestureZoom, text::kGestureZoomKeys},         {text::kGesturePan, text::kGesturePanKeys},
-    {text::kGestureAdd, text::kGestureAddKeys},           {text::kGestureToggle, text::kGestureToggleKeys},
-    {text::kGestureNextCard, text::kGestureNextCardKeys}, {text::kGestureNextArea, text::kGestureNextAreaKeys}};
+    {text::kGestureMove, text::kGestureMoveKeys},        {text::kGestureMoveFar, text::kGestureMoveFarKeys},
+    {text::kGestureZoom, text::kGestureZoomKeys},        {text::kGesturePan, text::kGesturePanKeys},
+    {text::kGestureAdd, text::kGestureAddKeys},          {text::kGestureToggle, text::kGestureToggleKeys},
+    {text::kGestureText, text::kGestureTextKeys},        {text::kGestureCopy, text::kGestureCopyKeys},
+    {text::kGestureBeneath, text::kGestureBeneathKeys},  {text::kGestureFine, text::kGestureFineKeys},
+    {text::kGestureFree, text::kGestureFreeKeys},        {text::kGestureNextCard, text::kGestureNextCardKeys},
+    {text::kGestureNextArea, text::kGestureNextAreaKeys}};
 
 QString KeysOf(const QAction& action) {
   return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText);

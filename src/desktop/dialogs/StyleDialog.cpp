@@ -13,6 +13,7 @@
 #include "desktop/look/Swatch.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/FieldEditors.h"
+#include "desktop/panels/FieldForm.h"
 #include "model/FieldTexts.h"
 
 namespace xrpt {
@@ -92,7 +93,7 @@ void StyleDialog::AddFields(QFormLayout& form) {
     editor->Widget()->setAccessibleName(Translated(row.panel.textId));
     editor->Widget()->setObjectName(QString::fromStdString(row.FullName()));
     if (row.panel.textId == text::kFontSize) size_ = editor->Widget();
-    form.addRow(Translated(row.panel.textId), editor->Widget());
+    form.addRow(LabelOf(row), editor->Widget());
     editors_.push_back(std::move(editor));
   });
 }

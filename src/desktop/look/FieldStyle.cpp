@@ -79,6 +79,24 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+// One of several to choose from: a ring, filled in the middle when it is the one.
+void DrawRadio(QPainter& painter, const QStyleOption& option) {
+  const ThemeColors& colors = CurrentTheme();
+  const bool isSet = option.state & QStyle::State_On;
+  const QRectF ring = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(isSet && IsEnabled(option) ? colors.accent : BorderOf(option), 1.0));
+  painter.setBrush(IsEnabled(option) ? colors.field : colors.window);
+  painter.drawEllipse(ring);
+  if (isSet) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(IsEnabled(option) ? colors.accent : colors.muted);
+    painter.drawEllipse(ring.center(), ring.width() * 0.28, ring.height() * 0.28);
+  }
+  painter.restore();
+}
+
 void DrawSpinBox(const QStyle& style, QPainter& painter, const QStyleOptionComplex& option, const QWidget* widget) {
   DrawField(painter, option);
   const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
@@ -120,6 +138,8 @@ void FieldStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return DrawButton(*painter, *option);
     case PE_IndicatorCheckBox:
       return DrawCheck(*painter, *option);
+    case PE_IndicatorRadioButton:
+      return DrawRadio(*painter, *option);
     case PE_FrameFocusRect:
       if (widget && (widget->inherits("QComboBox") || widget->inherits("QPushButton"))) return;
       break;

@@ -103,6 +103,8 @@ QCursor ToolkitCursor(Cursor cursor) {
       return DrawnCursor(QStringLiteral("cursor-over-card"), 4, 3);
     case Cursor::Moving:
       return DrawnCursor(QStringLiteral("cursor-moving"), 16, 16);
+    case Cursor::Cross:
+      return Qt::CrossCursor;
     case Cursor::Arrow:
       break;
   }

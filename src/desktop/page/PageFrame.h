@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "canvas/CardNotes.h"
 #include "platform/Geometry.h"
 
 namespace xrpt {
@@ -29,12 +30,22 @@ class PageFrame final : public QWidget {
 
  private:
   void MovePointer(std::optional<QPoint> at);
+  void ConnectRuler(Ruler& ruler, bool isAcross);
+  void TakeLine(bool isAcrossRuler, int along);
+  void DragLine(QPoint at, bool isMoving);
 
   RVEditControlWnd* frame_ = nullptr;
   QWidget* corner_;
   Ruler* across_;
   Ruler* down_;
   PageView* view_;
+
+  // A line that is being dragged: the others, and which way it lies.
+  struct DraggedLine {
+    PageLines others;
+    bool isAcross = false;
+  };
+  std::optional<DraggedLine> line_;
 };
 
 }  // namespace xrpt

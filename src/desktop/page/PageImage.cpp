@@ -20,6 +20,11 @@ PixelBuffer BufferOf(QImage& image) {
   return buffer;
 }
 
+Color ColorOf(const QColor& color) {
+  return Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
+             static_cast<unsigned>(color.blue()));
+}
+
 // In canvas pixels.
 Rect ClientOf(const QImage& image) {
   const QSizeF size = image.deviceIndependentSize();
@@ -76,7 +81,7 @@ void PageImage::PaintPage(RVEditTemplateWnd& window, QSize size, double scale) {
 }
 
 void PageImage::FindMoving(const RVEditTemplateWnd& window) {
-  sight_ = CardsInSight(window.Page().cards, window.Placement(), ClientOf(page_));
+  sight_ = SightOf(window, ClientOf(page_));
   moving_ = MovingParts(window, sight_);
   movingPlaces_.clear();
   for (const PagePart& part : moving_) movingPlaces_.push_back(WithEdges(part.rect));
@@ -122,16 +127,14 @@ void PageImage::PaintOverlay(RVEditTemplateWnd& window, double scale) {
   if (shown_.size() != page_.size()) shown_ = QImage(page_.size(), page_.format());
   shown_.setDevicePixelRatio(scale);
   if (shown_.isNull()) return;
-  const QColor color = CurrentTheme().guide;
-  const Color guide = Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
-                          static_cast<unsigned>(color.blue()));
   PixelBuffer shown = BufferOf(shown_);
+  const OverlayColors colors{ColorOf(CurrentTheme().guide), ColorOf(CurrentTheme().accent)};
   if (shownPainting_ == paintings_) overlay_.TakeParts(BufferOf(page_), window, arrivedPlaces_);
   arrivedPlaces_.clear();
   if (hasMoved_ && shownPainting_ == paintings_) {
-    overlay_.PaintMoved(shown, BufferOf(page_), paintings_, window, ClientOf(shown_), guide, movingPlaces_);
+    overlay_.PaintMoved(shown, BufferOf(page_), paintings_, window, ClientOf(shown_), colors, movingPlaces_);
   } else {
-    overlay_.Paint(shown, BufferOf(page_), paintings_, window, ClientOf(shown_), guide);
+    overlay_.Paint(shown, BufferOf(page_), paintings_, window, ClientOf(shown_), colors);
   }
   shownPainting_ = paintings_;
   hasMoved_ = false;

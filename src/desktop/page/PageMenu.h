@@ -1,22 +1,16 @@
-// The menu that a page's window opens under the pointer, with the icons and keys of the catalogue's commands.
+// The menu of the page: the catalogue's commands that make sense for what was clicked.
 #pragma once
 
 #include <QPoint>
-#include <vector>
 
-#include "platform/Window.h"
-
-class QAction;
 class QWidget;
 
 namespace xrpt {
 
 class Actions;
+class RVEditControlWnd;
 
-// The catalogue's action for a command of the menu; null for one the page carries out itself.
-QAction* ActionOfCommand(int command, const Actions& actions);
-
-// The chosen command's number, 0 for none.
-int RunPageMenu(const std::vector<MenuItem>& items, QPoint at, const Actions& actions, QWidget* parent);
+// The chosen command has run when it returns. False when none was chosen.
+bool RunPageMenu(const RVEditControlWnd& frame, QPoint at, const Actions& actions, QWidget* parent);
 
 }  // namespace xrpt

@@ -69,8 +69,8 @@ Point PagePort::CursorPosition() const {
 
 bool PagePort::IsControlDown() const { return QGuiApplication::queryKeyboardModifiers() & Qt::ControlModifier; }
 
-void PagePort::TrackPopupMenu(const std::vector<MenuItem>& items, Point at) {
-  if (IsShown()) view_.OpenMenu(items, at);
+void PagePort::TrackPopupMenu(const std::vector<MenuItem>&, Point at) {
+  if (IsShown()) view_.OpenMenu(at);
 }
 
 }  // namespace xrpt

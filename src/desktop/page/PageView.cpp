@@ -1,6 +1,5 @@
 #include "desktop/page/PageView.h"
 
-#include <QMenu>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -10,6 +9,9 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
+#include "desktop/page/DragNote.h"
+#include "desktop/page/InPlaceEditor.h"
+#include "desktop/page/PageAccess.h"
 #include "desktop/page/PageMenu.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/ribbon/Actions.h"
@@ -22,6 +24,7 @@ namespace {
 constexpr int kAnimationStep = 40;  // milliseconds
 constexpr int kRest = 250;          // milliseconds without a painting after which the rest of the page is laid out
 constexpr int kArrivalPause = 30;   // milliseconds in which pictures gather that are shown together
+constexpr int kScrollStep = 30;     // milliseconds
 
 // The keyboard is on the page.
 void PaintFocus(QPainter& painter, const QRect& area) {
@@ -32,6 +35,7 @@ void PaintFocus(QPainter& painter, const QRect& area) {
 }  // namespace
 
 PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
+  InstallPageAccess();
   setAccessibleName(Translated(text::kPageView));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -42,6 +46,8 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   verticalScrollBar()->setAccessibleName(Translated(text::kScrollDown));
   animation_.setInterval(kAnimationStep);
   connect(&animation_, &QTimer::timeout, this, [this] { ShowMoment(); });
+  scrolling_.setInterval(kScrollStep);
+  connect(&scrolling_, &QTimer::timeout, this, [this] { ScrollAlong(); });
   clock_.start();
   arrivals_.setSingleShot(true);
   arrivals_.setInterval(kArrivalPause);
@@ -52,10 +58,11 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   image_.LoadPicturesApart([this] { QMetaObject::invokeMethod(&arrivals_, qOverload<>(&QTimer::start)); });
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  setAcceptDrops(true);
   setMinimumSize(60, 60);
 }
 
-void PageView::Connect(RVEditControlWnd& frame, const Actions& actions) {
+void PageView::Connect(RVEditControlWnd& frame, Actions& actions) {
   frame_ = &frame;
   actions_ = &actions;
 }
@@ -64,6 +71,7 @@ RVEditTemplateWnd* PageView::Window() const { return port_ ? port_->Window() : n
 
 void PageView::ShowPage(PagePort& port) {
   if (port_ == &port) return;
+  KeepText();
   if (port_) LoseCapture();
   port_ = &port;
   ShowScroll(ScrollAxis::Horizontal, port.Scroll(ScrollAxis::Horizontal));
@@ -75,6 +83,7 @@ void PageView::ShowPage(PagePort& port) {
 
 void PageView::Forget(const PagePort& port) {
   if (port_ != &port) return;
+  KeepText();
   port_ = nullptr;
   captured_ = false;
   preparation_.Stop();
@@ -96,7 +105,10 @@ void PageView::Repaint() {
 }
 
 // The toolkit sends a pressed mouse's events here by itself; what counts is who hears of losing it.
-void PageView::Capture(bool on) { captured_ = on; }
+void PageView::Capture(bool on) {
+  captured_ = on;
+  if (!on) scrolling_.stop();
+}
 
 void PageView::LoseCapture() {
   StopPanning();
@@ -121,17 +133,11 @@ void PageView::ShowScroll(ScrollAxis axis, const ScrollInfo& info) {
   bar->update();
 }
 
-void PageView::OpenMenu(const std::vector<MenuItem>& items, Point at) {
+// Which commands there are is the catalogue's to say.
+void PageView::OpenMenu(Point at) {
   captured_ = false;
-  const int command = RunPageMenu(items, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this);
-  if (command == 0 || !Window()) return;
-  // What the catalogue knows runs as from the ribbon; undo there means the whole report.
-  if (QAction* action = ActionOfCommand(command, *actions_)) {
-    action->trigger();
-  } else {
-    Window()->OnCommand(command);
-  }
-  if (changed) changed();
+  actions_->Refresh();
+  if (RunPageMenu(*frame_, viewport()->mapToGlobal(QPoint(at.x, at.y)), *actions_, this) && changed) changed();
 }
 
 // --- Painting ---
@@ -140,7 +146,8 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   if (!Window() || viewport()->size().isEmpty()) return painter.fillRect(viewport()->rect(), palette().window());
   painter.drawImage(0, 0, image_.Paint(*Window(), viewport()->size(), devicePixelRatioF()));
-  if (paintOver) paintOver(painter);
+  if (paintOver && !Window()->IsPreview()) paintOver(painter);
+  PaintDragNote(painter, *Window(), viewport()->size());
   if (hasFocus()) PaintFocus(painter, viewport()->rect());
   const bool moves = animated_ && image_.HasMoving();
   if (moves && !animation_.isActive()) animation_.start();
@@ -181,6 +188,7 @@ void PageView::ShowArrived() {
 
 void PageView::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
+  KeepText();
   if (Window()) Window()->OnSize();
   if (resized) resized();
   if (placementChanged) placementChanged();
@@ -188,6 +196,7 @@ void PageView::resizeEvent(QResizeEvent* event) {
 
 void PageView::scrollContentsBy(int, int) {
   if (!Window()) return;
+  KeepText();
   Window()->OnHScroll(ScrollCommand::Thumb, horizontalScrollBar()->value());
   Window()->OnVScroll(ScrollCommand::Thumb, verticalScrollBar()->value());
 }

@@ -14,6 +14,7 @@
 namespace xrpt {
 
 class Actions;
+class InPlaceEditor;
 class PagePort;
 class RVEditControlWnd;
 class RVEditTemplateWnd;
@@ -23,10 +24,12 @@ class PageView final : public QAbstractScrollArea {
   explicit PageView(QWidget* parent = nullptr);
 
   // Whom zooming asks. Before this nothing is shown.
-  void Connect(RVEditControlWnd& frame, const Actions& actions);
+  void Connect(RVEditControlWnd& frame, Actions& actions);
   void ShowPage(PagePort& port);
   void Forget(const PagePort& port);
   const PagePort* Port() const { return port_; }
+  // The window of the page that is shown; null without one.
+  const RVEditTemplateWnd* Shown() const { return Window(); }
   // The page's pixels are painted anew, for what the window could not see (the theme).
   void RepaintPage();
 
@@ -43,7 +46,7 @@ class PageView final : public QAbstractScrollArea {
   void Capture(bool on);
   void ShowCursor(Cursor cursor);
   void ShowScroll(ScrollAxis axis, const ScrollInfo& info);
-  void OpenMenu(const std::vector<MenuItem>& items, Point at);
+  void OpenMenu(Point at);
 
   // Scrolls so that this many millimetres of the page come to stand at a pixel.
   void ZoomAt(double zoom, QPoint at);
@@ -52,6 +55,15 @@ class PageView final : public QAbstractScrollArea {
   void RevealSelection();
   // Screen pixels.
   QRect SelectionOnScreen() const;
+
+  // The text of the selected card is edited where it stands; what is typed already replaces it. False for a card whose
+  // text is none to be edited.
+  bool EditText(const QString& typed = {});
+  // The same, or else whatever else there is to edit of the card.
+  void EditContent();
+  // Ends that; the text is kept.
+  void KeepText();
+  const InPlaceEditor* Editor() const { return editor_; }
 
   // What lies over the page for the time being, and what it says at a pixel (nothing: no tooltip).
   std::function<void(QPainter&)> paintOver;
@@ -63,8 +75,16 @@ class PageView final : public QAbstractScrollArea {
   // A command of the page's own menu ran, or Tab selected another card.
   std::function<void()> changed;
   std::function<void()> resized;
+  // Cards begin to be dragged.
+  std::function<void()> dragBegun;
+  // Something was dropped on the page: texts and files at a pixel.
+  std::function<void(const QString& words, QPoint at)> textDropped;
+  std::function<void(const QStringList& files, QPoint at)> filesDropped;
+  // The selected card's content is wanted, which is edited elsewhere.
+  std::function<void()> contentWanted;
 
  protected:
+  bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -78,6 +98,9 @@ class PageView final : public QAbstractScrollArea {
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
@@ -88,6 +111,9 @@ class PageView final : public QAbstractScrollArea {
   void StopPanning();
   void ScrollByWheel(QWheelEvent& event);
   bool SelectNeighbour(bool next);
+  void WriteText(const std::wstring& words);
+  void EndText(bool keeps);
+  void ScrollAlong();
   void ShowMoment();
   void ShowArrived();
   void PrepareWhenAtRest();
@@ -95,14 +121,16 @@ class PageView final : public QAbstractScrollArea {
   void Escape();
 
   RVEditControlWnd* frame_ = nullptr;
-  const Actions* actions_ = nullptr;
+  Actions* actions_ = nullptr;
   PagePort* port_ = nullptr;
   QTimer animation_;  // runs while something in sight moves
+  QTimer scrolling_;  // runs while a drag is beyond the edge
   QTimer arrivals_;   // runs for a moment when pictures have arrived
   QTimer rest_;       // runs until the page was left alone for a while
   int prepared_ = 0;  // the painting after which the rest of the page was laid out last
   PagePreparation preparation_;
-  PageImage image_;  // before the timers: its thread starts one
+  PageImage image_;  // the first to go: its thread starts a timer
+  InPlaceEditor* editor_ = nullptr;
   QElapsedTimer clock_;
   bool animated_ = true;
   bool captured_ = false;

@@ -1,11 +1,16 @@
 // What mouse, wheel and keyboard do on the page view: handed on to the page's window, but for panning, zooming and
 // walking from card to card, which are the view's own.
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QUrl>
 #include <QWheelEvent>
 
+#include "canvas/InsertTools.h"
 #include "canvas/RVEditTemplateWnd.h"
+#include "desktop/page/InPlaceEditor.h"
 #include "desktop/page/KeyCodes.h"
 #include "desktop/page/PagePort.h"
 #include "desktop/page/PageView.h"
@@ -27,6 +32,7 @@ MouseFlags FlagsOf(Qt::KeyboardModifiers modifiers) {
   MouseFlags flags;
   flags.control = modifiers.testFlag(Qt::ControlModifier);
   flags.shift = modifiers.testFlag(Qt::ShiftModifier);
+  flags.alt = modifiers.testFlag(Qt::AltModifier);
   return flags;
 }
 
@@ -35,6 +41,13 @@ DragModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
   drag.alt = modifiers.testFlag(Qt::AltModifier);
   drag.shift = modifiers.testFlag(Qt::ShiftModifier);
   return drag;
+}
+
+// A character that begins a text; Space pans.
+bool IsTyping(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers held =
+      key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier);
+  return held == Qt::NoModifier && !key.text().isEmpty() && key.text().front().isPrint() && key.key() != Qt::Key_Space;
 }
 
 constexpr Point kNowhere{-1, -1};
@@ -50,16 +63,78 @@ int IntoSight(int near, int far, int length) {
 // --- Mouse ---
 
 void PageView::mousePressEvent(QMouseEvent* event) {
+  KeepText();
   if (!Window() || StartPanning(*event) || event->button() != Qt::LeftButton) return;
   Window()->OnLButtonDown(PositionOf(*event), FlagsOf(event->modifiers()));
 }
 
-void PageView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+// On the selected card, which the first click has selected; of a group, on the one card.
+void PageView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const Point at = PositionOf(*event);
+  const bool onCard = Window() && event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                      Window()->InsertKind() == tool::kPointer && Window()->SelectedArea().Contains(at);
+  if (!onCard || spaceHeld_) return mousePressEvent(event);
+  if (Window()->Selection().Size() > 1) Window()->SelectOnlyAt(at);
+  EditContent();
+}
+
+// --- Text edited where it stands ---
+
+bool PageView::EditText(const QString& typed) {
+  KeepText();
+  const auto text = Window() ? Window()->EditableText() : std::nullopt;
+  if (!text) return false;
+  RevealSelection();
+  Window()->EndEdit();
+  editor_ = new InPlaceEditor(*Window()->EditableText(), viewport());
+  editor_->ended = [this](bool keeps) { EndText(keeps); };
+  connect(editor_, &QTextEdit::textChanged, this, [this] { WriteText(editor_->Words()); });
+  editor_->Begin(typed);
+  return true;
+}
+
+void PageView::EditContent() {
+  if (Window() && !Window()->Selection().IsEmpty() && !EditText() && contentWanted) contentWanted();
+}
+
+// The card has the text while it is typed, so that saving and everything else knows of it.
+void PageView::WriteText(const std::wstring& words) {
+  if (Window()) Window()->SetTextOf(editor_->Card(), words);
+  if (changed) changed();
+}
+
+void PageView::KeepText() { EndText(true); }
+
+void PageView::EndText(bool keeps) {
+  if (!editor_) return;
+  if (!keeps) WriteText(editor_->Before());
+  if (Window()) Window()->EndEdit();
+  InPlaceEditor* editor = std::exchange(editor_, nullptr);
+  editor->disconnect(this);
+  editor->ended = nullptr;
+  const bool hadFocus = editor->hasFocus();
+  editor->hide();
+  editor->deleteLater();
+  if (hadFocus) setFocus(Qt::OtherFocusReason);
+  if (changed) changed();
+}
 
 void PageView::mouseMoveEvent(QMouseEvent* event) {
   if (pointerMoved) pointerMoved(event->position().toPoint());
   if (panFrom_) return Pan(event->position().toPoint());
-  if (Window() && !spaceHeld_) Window()->OnMouseMove(PositionOf(*event), ModifiersOf(event->modifiers()));
+  if (!Window() || spaceHeld_) return;
+  const bool wasClick = Window()->CurrentGesture().Row().kind == GestureKind::Click;
+  Window()->OnMouseMove(PositionOf(*event), ModifiersOf(event->modifiers()));
+  if (wasClick && Window()->CurrentGesture().Row().kind == GestureKind::Drag && dragBegun) dragBegun();
+  const bool isOutside = captured_ && !viewport()->rect().contains(event->position().toPoint());
+  if (isOutside && !scrolling_.isActive()) scrolling_.start();
+  if (!isOutside) scrolling_.stop();
+}
+
+void PageView::ScrollAlong() {
+  if (!captured_ || !Window()) return scrolling_.stop();
+  const QPoint at = viewport()->mapFromGlobal(QCursor::pos());
+  Window()->ScrollTowards({at.x(), at.y()}, ModifiersOf(QGuiApplication::queryKeyboardModifiers()));
 }
 
 void PageView::mouseReleaseEvent(QMouseEvent* event) {
@@ -91,6 +166,37 @@ void PageView::contextMenuEvent(QContextMenuEvent* event) {
 void PageView::focusOutEvent(QFocusEvent* event) {
   if (event->reason() != Qt::PopupFocusReason) LoseCapture();
   QAbstractScrollArea::focusOutEvent(event);
+}
+
+// --- Drops ---
+
+namespace {
+
+QStringList LocalFiles(const QMimeData& data) {
+  QStringList files;
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) files << url.toLocalFile();
+  }
+  return files;
+}
+
+bool IsWelcome(const QMimeData& data) { return !LocalFiles(data).isEmpty() || data.hasText(); }
+
+}  // namespace
+
+void PageView::dragEnterEvent(QDragEnterEvent* event) {
+  if (Window() && IsWelcome(*event->mimeData())) event->acceptProposedAction();
+}
+
+void PageView::dragMoveEvent(QDragMoveEvent* event) { event->acceptProposedAction(); }
+
+void PageView::dropEvent(QDropEvent* event) {
+  KeepText();
+  event->acceptProposedAction();
+  const QPoint at = event->position().toPoint();
+  const QStringList files = LocalFiles(*event->mimeData());
+  if (!files.isEmpty() && filesDropped) return filesDropped(files, at);
+  if (textDropped) textDropped(event->mimeData()->text().trimmed(), at);
 }
 
 // --- Panning ---
@@ -161,6 +267,16 @@ QRect PageView::SelectionOnScreen() const {
 
 // --- Keyboard ---
 
+// A letter is a tool's, but over a label whose text it begins.
+bool PageView::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsTyping(*static_cast<QKeyEvent*>(event)) && Window() &&
+      Window()->EditableText()) {
+    event->accept();
+    return true;
+  }
+  return QAbstractScrollArea::event(event);
+}
+
 void PageView::keyPressEvent(QKeyEvent* event) {
   if (!Window()) return;
   if (event->key() == Qt::Key_Space) {
@@ -169,6 +285,8 @@ void PageView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (event->key() == Qt::Key_Escape) return Escape();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return EditContent();
+  if (IsTyping(*event) && EditText(event->text())) return;
   if (const int code = VirtualKey(event->key())) Window()->OnKeyDown(code, FlagsOf(event->modifiers()));
 }
 
@@ -178,9 +296,10 @@ void PageView::keyReleaseEvent(QKeyEvent* event) {
   if (!panFrom_) ShowCursor(port_ ? port_->LastCursor() : Cursor::Arrow);
 }
 
-// Ends a gesture, else puts the insert tool away.
+// Ends a gesture or a preview, else puts the insert tool away.
 void PageView::Escape() {
   if (captured_) return LoseCapture();
+  if (Window()->IsPreview()) return actions_->Find("Preview")->trigger();
   QAction* pointer = actions_->Find("Pointer");
   pointer->isChecked() ? Window()->OnKeyDown(key::Escape, {}) : pointer->trigger();
 }

@@ -1,5 +1,6 @@
 #include "desktop/page/Rulers.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <algorithm>
 #include <utility>
@@ -31,6 +32,7 @@ double LengthOf(RulerMarkKind kind) {
 Ruler::Ruler(Qt::Orientation orientation, QWidget* parent) : QWidget(parent), orientation_(orientation) {
   const bool isHorizontal = orientation == Qt::Horizontal;
   isHorizontal ? setFixedHeight(kThickness) : setFixedWidth(kThickness);
+  setToolTip(Translated(text::kRulerHint));
   setAccessibleName(Translated(isHorizontal ? text::kHorizontalRuler : text::kVerticalRuler));
   QFont small = font();
   small.setPointSizeF(small.pointSizeF() * 0.75);
@@ -60,6 +62,25 @@ void Ruler::SetSelection(std::optional<std::pair<int, int>> range) {
 
 void Ruler::Renew(int first, int last) { update(Along(first, last + 1, 0, kThickness).toAlignedRect()); }
 
+void Ruler::SetLines(const std::vector<int>& lines) {
+  if (lines == lines_) return;
+  lines_ = lines;
+  update();
+}
+
+void Ruler::mousePressEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (event->button() == Qt::LeftButton && pressed) pressed(orientation_ == Qt::Horizontal ? at.x() : at.y());
+}
+
+void Ruler::mouseMoveEvent(QMouseEvent* event) {
+  if (event->buttons().testFlag(Qt::LeftButton) && dragged) dragged(event->globalPosition().toPoint());
+}
+
+void Ruler::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && released) released(event->globalPosition().toPoint());
+}
+
 QRectF Ruler::Along(double from, double to, double near, double far) const {
   return orientation_ == Qt::Horizontal ? QRectF(QPointF(from, kThickness - far), QPointF(to, kThickness - near))
                                         : QRectF(QPointF(kThickness - far, from), QPointF(kThickness - near, to));
@@ -81,6 +102,7 @@ void Ruler::paintEvent(QPaintEvent* event) {
   }
   for (const RulerMark& mark : RulerMarks(scale_, std::max(0, from - kLabelRoom), std::min(Length(), to + kLabelRoom)))
     PaintMark(painter, mark);
+  for (const int line : lines_) painter.fillRect(Along(line - 1, line + 2, 0, kThickness), colors.guide);
   painter.fillRect(Along(0, Length(), 0, 1), colors.border);
   if (pointer_) painter.fillRect(Along(*pointer_, *pointer_ + 1, 0, kThickness), colors.accent);
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "desktop/page/RulerMarks.h"
 
@@ -19,9 +21,19 @@ class Ruler final : public QWidget {
   void SetPointer(std::optional<int> position);
   // First and last pixel of the selection; nothing without one.
   void SetSelection(std::optional<std::pair<int, int>> range);
+  // Where lines cross it, pixels.
+  void SetLines(const std::vector<int>& lines);
+
+  // The ruler is pressed at a pixel along it, and a line is dragged out of it (points of the screen).
+  std::function<void(int along)> pressed;
+  std::function<void(QPoint at)> dragged;
+  std::function<void(QPoint at)> released;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   // Paints a stretch of pixels again, the last one included.
@@ -37,6 +49,7 @@ class Ruler final : public QWidget {
   double page_ = 0.0;
   std::optional<int> pointer_;
   std::optional<std::pair<int, int>> selection_;
+  std::vector<int> lines_;
 };
 
 }  // namespace xrpt

@@ -153,6 +153,10 @@ void AlternativesEditor::Move(int by) {
   Refresh();
 }
 
+int AlternativesEditor::Filter(const QString& text) {
+  return isHidden() ? 0 : form_->Filter(text) + items_->Filter(text);
+}
+
 void AlternativesEditor::Finish() {
   form_->Finish();
   items_->Finish();

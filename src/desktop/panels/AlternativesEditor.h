@@ -28,6 +28,8 @@ class AlternativesEditor final : public QWidget {
 
   // Shows the card that is selected now; hides itself when it has no alternatives to be had.
   void Refresh();
+  // Of the fields of the card that is shown; how many there are to see.
+  int Filter(const QString& text);
   void Finish();
   void Forget();
   QWidget* Find(std::string_view name) const;

@@ -80,11 +80,24 @@ void ColorButton::paintEvent(QPaintEvent*) {
 
 void ColorButton::OpenMenu() {
   QMenu menu(this);
+  if (const std::vector<Color> inUse = used ? used() : std::vector<Color>(); !inUse.empty()) {
+    menu.addSection(Translated(text::kReportColors));
+    AddBoard(menu, inUse);
+    menu.addSeparator();
+  }
+  AddBoard(menu, kSwatches);
+  menu.addAction(SwatchPixmap(kNoColor, devicePixelRatioF()), Translated(text::kNoColor), this,
+                 [this] { Choose(xrpt::kNoColor); });
+  menu.addAction(Translated(text::kOtherColor), this, [this] { ChooseOther(); });
+  menu.exec(mapToGlobal(QPoint(0, height())));
+}
+
+void ColorButton::AddBoard(QMenu& menu, std::span<const Color> colors) {
   auto* board = new QWidget(&menu);
   auto* grid = new QGridLayout(board);
   grid->setSpacing(3);
-  for (int i = 0; i < static_cast<int>(std::size(kSwatches)); ++i) {
-    const Color color = kSwatches[i];
+  for (int i = 0; i < static_cast<int>(colors.size()); ++i) {
+    const Color color = colors[static_cast<std::size_t>(i)];
     auto* swatch = new QToolButton(board);
     swatch->setAutoRaise(true);
     swatch->setIcon(SwatchPixmap(color, devicePixelRatioF()));
@@ -100,10 +113,6 @@ void ColorButton::OpenMenu() {
   auto* swatches = new QWidgetAction(&menu);
   swatches->setDefaultWidget(board);
   menu.addAction(swatches);
-  menu.addAction(SwatchPixmap(kNoColor, devicePixelRatioF()), Translated(text::kNoColor), this,
-                 [this] { Choose(xrpt::kNoColor); });
-  menu.addAction(Translated(text::kOtherColor), this, [this] { ChooseOther(); });
-  menu.exec(mapToGlobal(QPoint(0, height())));
 }
 
 void ColorButton::ChooseOther() {

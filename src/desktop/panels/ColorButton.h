@@ -4,8 +4,12 @@
 #include <QToolButton>
 #include <functional>
 #include <optional>
+#include <span>
+#include <vector>
 
 #include "platform/Color.h"
+
+class QMenu;
 
 namespace xrpt {
 
@@ -16,12 +20,15 @@ class ColorButton final : public QToolButton {
   // Nothing: several cards of different colours.
   void Show(std::optional<Color> color);
   std::function<void(Color)> chosen;
+  // Colours that are offered first: those in use.
+  std::function<std::vector<Color>()> used;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void OpenMenu();
+  void AddBoard(QMenu& menu, std::span<const Color> colors);
   void ChooseOther();
   void Choose(Color color);
 

@@ -91,6 +91,7 @@ class NumberEditor final : public EditorOf<MixedSpinBox> {
   NumberEditor(const FieldRow& row, Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
     const bool isInteger = row.panel.editor == FieldEditor::Integer;
     const bool hasRange = row.panel.maximum > row.panel.minimum;
+    control_->SetMixedText(Translated(text::kMixed));
     control_->setDecimals(isInteger ? 0 : 2);
     control_->setRange(hasRange ? row.panel.minimum : -1e9, hasRange ? row.panel.maximum : 1e9);
     if (row.panel.editor == FieldEditor::Angle) AsAngle();
@@ -161,6 +162,14 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
       Add(word.textId ? Translated(word.textId) : text, text);
     }
   }
+  void OfferNames(std::span<const NamedValue> names) override {
+    if (names.data() == names_.data() && names.size() == names_.size()) return;
+    names_ = names;
+    const QSignalBlocker quiet(control_);
+    control_->clear();
+    Add(Translated(text::kNoField), QString());
+    for (const NamedValue& named : names) Add(ToQString(named.name), ToQString(named.value));
+  }
   void Show(const std::optional<std::wstring>& text) override {
     const QSignalBlocker quiet(control_);
     int index = text ? control_->findData(ToQString(*text)) : -1;
@@ -174,6 +183,7 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
 
  private:
   std::span<const Word> words_;
+  std::span<const NamedValue> names_;
 };
 
 class FaceEditor final : public EditorOf<QFontComboBox> {
@@ -229,6 +239,10 @@ std::unique_ptr<FieldEditorWidget> MakePicture(FieldEditorWidget::Edited edited,
 }
 
 }  // namespace
+
+std::unique_ptr<FieldEditorWidget> MakeNamedEditor(FieldEditorWidget::Edited edited, QWidget* parent) {
+  return std::make_unique<ChoiceEditor>(std::move(edited), parent);
+}
 
 std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
                                                    const std::function<ExpressionSources()>& expressions,

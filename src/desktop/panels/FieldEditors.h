@@ -5,8 +5,10 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
+#include "editor/DatabaseFields.h"
 #include "formulas/ExpressionChoices.h"
 #include "model/FieldTable.h"
 
@@ -22,6 +24,8 @@ class FieldEditorWidget {
   virtual QWidget* Widget() = 0;
   // The words to choose from, for a choice whose words hang on another field.
   virtual void Offer(std::span<const Word>) {}
+  // The values to choose from by name.
+  virtual void OfferNames(std::span<const NamedValue>) {}
   // Filling never counts as an edit.
   virtual void Show(const std::optional<std::wstring>& text) = 0;
   // Tells what was typed and not told yet.
@@ -33,5 +37,7 @@ class FieldEditorWidget {
 std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEditorWidget::Edited edited,
                                                    const std::function<ExpressionSources()>& expressions,
                                                    QWidget* parent);
+// A choice among values that have names, whatever the row says of its editor.
+std::unique_ptr<FieldEditorWidget> MakeNamedEditor(FieldEditorWidget::Edited edited, QWidget* parent);
 
 }  // namespace xrpt

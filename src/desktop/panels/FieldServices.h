@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "formulas/ExpressionChoices.h"
+#include "platform/Color.h"
 
 namespace xrpt {
 
@@ -13,6 +15,8 @@ struct FieldServices {
   FieldUndo& undo;
   // What the report's expressions may use now.
   std::function<ExpressionSources()> expressions;
+  // Colours that choosers offer first.
+  std::function<std::vector<Color>()> colors;
 };
 
 }  // namespace xrpt

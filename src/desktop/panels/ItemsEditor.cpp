@@ -108,6 +108,8 @@ void ItemsEditor::Move(int by) {
   changed_();
 }
 
+int ItemsEditor::Filter(const QString& text) { return isHidden() ? 0 : form_->Filter(text); }
+
 void ItemsEditor::Finish() { form_->Finish(); }
 
 void ItemsEditor::Forget() { form_->Forget(); }

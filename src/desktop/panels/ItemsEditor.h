@@ -23,6 +23,7 @@ class ItemsEditor final : public QWidget {
 
   // Shows the items of the card that is meant now; hides itself when there are none to be had.
   void Refresh();
+  int Filter(const QString& text);
   void Finish();
   void Forget();
   QWidget* Find(std::string_view name) const;

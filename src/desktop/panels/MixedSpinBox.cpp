@@ -24,6 +24,7 @@ MixedSpinBox::MixedSpinBox(QWidget* parent) : QDoubleSpinBox(parent) {
 void MixedSpinBox::ShowValue(double value) {
   const QSignalBlocker quiet(this);
   isMixed_ = false;
+  lineEdit()->setPlaceholderText({});
   setValue(value);
 }
 
@@ -32,6 +33,7 @@ void MixedSpinBox::ShowMixed() {
   isMixed_ = true;
   setValue(minimum());
   lineEdit()->clear();
+  lineEdit()->setPlaceholderText(mixedText_);
 }
 
 QString MixedSpinBox::textFromValue(double value) const {

@@ -13,6 +13,8 @@ class MixedSpinBox final : public QDoubleSpinBox {
 
   void ShowValue(double value);
   void ShowMixed();
+  // What stands where numbers differ; nothing unless told.
+  void SetMixedText(const QString& text) { mixedText_ = text; }
   bool IsMixed() const { return isMixed_; }
   // From the first key until the number is finished, what stands here is the user's and is not replaced.
   bool IsBeingTyped() const { return isTyped_; }
@@ -29,6 +31,7 @@ class MixedSpinBox final : public QDoubleSpinBox {
  private:
   QString WithoutSuffix(const QString& text) const;
 
+  QString mixedText_;
   bool isMixed_ = false;
   bool isTyped_ = false;
 };

@@ -1,13 +1,16 @@
 #include "desktop/panels/Outline.h"
 
+#include <QApplication>
 #include <QItemSelectionModel>
 #include <QListView>
+#include <QPainter>
 #include <QSplitter>
 
 #include "canvas/RVEditTemplateWnd.h"
 #include "desktop/TextIds.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
+#include "desktop/look/Theme.h"
 #include "editor/RVEditControlWnd.h"
 #include "editor/SelectedFields.h"
 
@@ -33,12 +36,39 @@ QVariant PagesModel::data(const QModelIndex& index, int role) const {
   const auto page = static_cast<std::size_t>(index.row());
   if (page >= frame_.PageCount()) return {};
   const RVGlobalProperties& properties = frame_.Page(page).Page().properties;
-  if (role == Qt::DecorationRole)
-    return ThemedIcon(properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait"));
+  if (role == Qt::DecorationRole) return Picture(page);
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   const QString number = Translated(text::kPageNumber, QString::number(index.row() + 1));
-  return properties.name.empty() ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
+  // A page nobody has named bears its identifier.
+  const bool isNamed = !properties.name.empty() && properties.name != properties.id;
+  return !isNamed ? number : QStringLiteral("%1 · %2").arg(number, ToQString(properties.name));
 }
+
+PagesModel::PagesModel(RVEditControlWnd& frame, QObject* parent)
+    : DraggedRows(parent), frame_(frame), pictures_(nullptr) {
+  pictures_.painted = [this] { emit dataChanged(index(0), index(std::max(0, rowCount() - 1)), {Qt::DecorationRole}); };
+}
+
+// Before it is painted, whichever way the page lies. All are of one size, so that lines are as high as each other.
+QVariant PagesModel::Picture(std::size_t page) const {
+  const RVReportPage& shown = frame_.Page(page).Page();
+  const QPixmap picture = pictures_.Of(shown, frame_.History().Serial(), qApp->devicePixelRatio());
+  QPixmap square(QSize(Thumbnails::kSide, Thumbnails::kSide) * qApp->devicePixelRatio());
+  square.setDevicePixelRatio(qApp->devicePixelRatio());
+  square.fill(Qt::transparent);
+  QPainter painter(&square);
+  if (picture.isNull()) {
+    const QString name = shown.properties.IsLandscape() ? QStringLiteral("landscape") : QStringLiteral("portrait");
+    ThemedIcon(name).paint(&painter, {0, 0, Thumbnails::kSide, Thumbnails::kSide});
+  } else {
+    const QSizeF size = picture.deviceIndependentSize();
+    painter.drawPixmap(QPointF((Thumbnails::kSide - size.width()) / 2, (Thumbnails::kSide - size.height()) / 2),
+                       picture);
+  }
+  return square;
+}
+
+void PagesModel::Repaint() { pictures_.painted(); }
 
 void PagesModel::Reset() {
   beginResetModel();
@@ -47,13 +77,42 @@ void PagesModel::Reset() {
 
 // --- Cards ---
 
+namespace {
+
+QString WithState(const QString& name, const CardNote& note) {
+  if (note.locked && note.hidden) return Translated(text::kLockedHiddenCard, name);
+  if (note.locked) return Translated(text::kLockedCard, name);
+  return note.hidden ? Translated(text::kHiddenCard, name) : name;
+}
+
+}  // namespace
+
+Qt::ItemFlags CardsModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags plain = DraggedRows::flags(index);
+  return index.isValid() ? plain | Qt::ItemIsEditable : plain;
+}
+
+// A name that says what the card says anyway is none.
+bool CardsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  const CardList& cards = frame_.CurrentPage().Page().cards;
+  const auto at = static_cast<std::size_t>(index.row());
+  if (role != Qt::EditRole || at >= cards.Size()) return false;
+  const std::wstring name = value.toString().trimmed().toStdWString();
+  frame_.CurrentPage().NameCard(at, name == CardCaption(cards[at]) ? std::wstring() : name);
+  return true;
+}
+
 int CardsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
 
 QVariant CardsModel::data(const QModelIndex& index, int role) const {
   const CardList& cards = frame_.CurrentPage().Page().cards;
   const auto at = static_cast<std::size_t>(index.row());
   if (at >= cards.Size()) return {};
-  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return ToQString(CardCaption(cards[at]));
+  const CardNote& note = frame_.CurrentPage().NoteOf(cards[at]);
+  const QString name = ToQString(note.name.empty() ? CardCaption(cards[at]) : note.name);
+  if (role == Qt::EditRole) return name;
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return WithState(name, note);
+  if (role == Qt::ForegroundRole && note.hidden) return CurrentTheme().muted;
   if (role == Qt::DecorationRole) return ThemedIcon(CardIconName(cards[at].GetRuntimeClass().tag));
   return {};
 }
@@ -72,6 +131,8 @@ void CardsModel::Reset() {
 // --- Both ---
 
 namespace {
+
+constexpr int kMoment = 400;  // milliseconds
 
 // In ascending order.
 std::vector<std::size_t> ChosenRows(const QListView& list) {
@@ -104,12 +165,22 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   auto* split = new QSplitter(Qt::Vertical, this);
   split->setChildrenCollapsible(false);
-  pages_ = MakeList(pageModel_, text::kPages);
-  cards_ = MakeList(cardModel_, text::kCards);
+  repaint_.setSingleShot(true);
+  repaint_.setInterval(kMoment);
+  connect(&repaint_, &QTimer::timeout, this, [this] { pageModel_->Repaint(); });
+  pages_ = MakeList(pageModel_, text::kPages, &Outline::pageMenuWanted);
+  cards_ = MakeList(cardModel_, text::kCards, &Outline::cardMenuWanted);
+  pageModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
+    if (pageDropped) pageDropped(rows.front(), before);
+  };
+  cardModel_->dropped = [this](const std::vector<std::size_t>& rows, std::size_t before) {
+    if (cardsDropped) cardsDropped(rows, before);
+  };
+  pages_->setIconSize({Thumbnails::kSide, Thumbnails::kSide});
   cards_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   split->addWidget(pages_);
   split->addWidget(cards_);
-  split->setSizes({160, 420});
+  split->setSizes({260, 340});
   column->addWidget(split);
   connect(pages_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
     if (!isFilling_ && pageChosen && index.isValid()) pageChosen(static_cast<std::size_t>(index.row()));
@@ -119,7 +190,7 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   });
 }
 
-QListView* Outline::MakeList(QAbstractListModel* model, int nameTextId) {
+QListView* Outline::MakeList(DraggedRows* model, int nameTextId, std::function<void(QPoint)> Outline::*menuWanted) {
   auto* list = new QListView(this);
   list->setModel(model);
   list->setAccessibleName(Translated(nameTextId));
@@ -128,6 +199,11 @@ QListView* Outline::MakeList(QAbstractListModel* model, int nameTextId) {
   list->setIconSize({16, 16});
   list->setTextElideMode(Qt::ElideRight);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setDragDropMode(QAbstractItemView::InternalMove);
+  list->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list, &QListView::customContextMenuRequested, this, [this, list, menuWanted](QPoint at) {
+    if (this->*menuWanted && list->indexAt(at).isValid()) (this->*menuWanted)(list->viewport()->mapToGlobal(at));
+  });
   return list;
 }
 
@@ -140,6 +216,7 @@ void Outline::RefreshPages() {
 }
 
 void Outline::RefreshCards() {
+  repaint_.start();
   isFilling_ = true;
   cardModel_->Reset();
   ShowSelection();
@@ -167,6 +244,12 @@ void Outline::ShowSelection() {
   const QModelIndex last = selected.empty() ? QModelIndex() : cardModel_->index(static_cast<int>(selected.back()));
   cards_->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
   if (last.isValid()) cards_->scrollTo(last);
+}
+
+bool Outline::RenameChosen() {
+  if (!cards_->hasFocus() || !cards_->currentIndex().isValid()) return false;
+  cards_->edit(cards_->currentIndex());
+  return true;
 }
 
 void Outline::FocusCards() { cards_->setFocus(Qt::ShortcutFocusReason); }

@@ -2,10 +2,14 @@
 // selects those cards.
 #pragma once
 
-#include <QAbstractListModel>
+#include <QPoint>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <vector>
+
+#include "desktop/panels/DraggedRows.h"
+#include "desktop/panels/Thumbnails.h"
 
 class QListView;
 
@@ -13,22 +17,30 @@ namespace xrpt {
 
 class RVEditControlWnd;
 
-class PagesModel final : public QAbstractListModel {
+class PagesModel final : public DraggedRows {
  public:
-  explicit PagesModel(RVEditControlWnd& frame, QObject* parent) : QAbstractListModel(parent), frame_(frame) {}
+  PagesModel(RVEditControlWnd& frame, QObject* parent);
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   void Reset();
+  // Pages may look different now.
+  void Repaint();
 
  private:
+  QVariant Picture(std::size_t page) const;
+
   RVEditControlWnd& frame_;
+  mutable Thumbnails pictures_;
 };
 
-class CardsModel final : public QAbstractListModel {
+class CardsModel final : public DraggedRows {
  public:
-  explicit CardsModel(RVEditControlWnd& frame, QObject* parent) : QAbstractListModel(parent), frame_(frame) {}
+  explicit CardsModel(RVEditControlWnd& frame, QObject* parent) : DraggedRows(parent), frame_(frame) {}
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  // The card is called so from now on.
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
   void Reset();
 
  private:
@@ -45,13 +57,21 @@ class Outline final : public QWidget {
   // Cards or the selection changed.
   void RefreshCards();
   void FocusCards();
+  // The name of the chosen card is edited in its line. False when the keyboard is not in the list of cards.
+  bool RenameChosen();
 
   std::function<void(std::size_t)> pageChosen;
   // Their places in the list of cards, in selection order: those that were selected before, then the new ones.
   std::function<void(const std::vector<std::size_t>&)> cardsChosen;
+  // A page was dragged before another, chosen cards were.
+  std::function<void(std::size_t page, std::size_t before)> pageDropped;
+  std::function<void(const std::vector<std::size_t>& cards, std::size_t before)> cardsDropped;
+  // A menu is wanted for the page, or for the cards, that the click has chosen; where on the screen.
+  std::function<void(QPoint)> pageMenuWanted;
+  std::function<void(QPoint)> cardMenuWanted;
 
  private:
-  QListView* MakeList(QAbstractListModel* model, int nameTextId);
+  QListView* MakeList(DraggedRows* model, int nameTextId, std::function<void(QPoint)> Outline::*menuWanted);
   void TellCards();
   void ShowSelection();
 
@@ -60,6 +80,7 @@ class Outline final : public QWidget {
   CardsModel* cardModel_;
   QListView* pages_;
   QListView* cards_;
+  QTimer repaint_;          // after a moment of rest
   bool isFilling_ = false;  // what changes now is no choice of the user's
 };
 

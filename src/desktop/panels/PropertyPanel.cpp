@@ -1,6 +1,7 @@
 #include "desktop/panels/PropertyPanel.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -11,6 +12,7 @@
 #include "desktop/panels/FieldUndo.h"
 #include "desktop/panels/ItemsEditor.h"
 #include "editor/ReportDialogs.h"
+#include "editor/UsedColors.h"
 
 namespace xrpt {
 
@@ -23,7 +25,8 @@ PropertyPanel::PropertyPanel(RVEditControlWnd& frame, QWidget* parent)
       fields_(frame),
       background_(frame, FieldsOf::Background),
       idle_(new QTimer(this)),
-      services_{*new FieldUndo([this] { return isTyping_; }, this), [&frame] { return SourcesOf(frame); }} {
+      services_{*new FieldUndo([this] { return isTyping_; }, this), [&frame] { return SourcesOf(frame); },
+                [&frame] { return UsedColors(frame); }} {
   setObjectName(QStringLiteral("panelArea"));
   setAccessibleName(Translated(text::kProperties));
   setFrameShape(QFrame::NoFrame);
@@ -44,15 +47,37 @@ PropertyPanel::PropertyPanel(RVEditControlWnd& frame, QWidget* parent)
   title_->setFont(bold);
   setWidget(body);
   const auto touch = [this] { Touch(); };
+  AddFilter();
   form_ = AddForm("", fields_);
   items_ = new ItemsEditor("item/", SelectedItems(frame), services_, touch, body);
   alternatives_ = new AlternativesEditor(frame, services_, touch, body);
   backgroundTitle_ = MakeSectionTitle(text::kBackground, body);
   backgroundForm_ = AddForm("background/", background_);
-  for (QWidget* part :
-       std::initializer_list<QWidget*>{title_, form_, items_, alternatives_, backgroundTitle_, backgroundForm_})
+  for (QWidget* part : std::initializer_list<QWidget*>{title_, filter_, noField_, form_, items_, alternatives_,
+                                                       backgroundTitle_, backgroundForm_})
     column->addWidget(part);
   column->addStretch(1);
+}
+
+void PropertyPanel::AddFilter() {
+  filter_ = new QLineEdit(widget());
+  filter_->setPlaceholderText(Translated(text::kFilterFields));
+  filter_->setAccessibleName(Translated(text::kFilterFields));
+  filter_->setObjectName(QStringLiteral("filter"));
+  filter_->setClearButtonEnabled(true);
+  noField_ = new QLabel(Translated(text::kNoSuchField), widget());
+  noField_->setObjectName(QStringLiteral("muted"));
+  noField_->hide();
+  connect(filter_, &QLineEdit::textChanged, this, [this] { ApplyFilter(); });
+}
+
+// What stands in no form has no name to be found by, and stays.
+void PropertyPanel::ApplyFilter() {
+  const QString text = filter_->text();
+  const int background = backgroundForm_->Filter(text);
+  const int shown = form_->Filter(text) + items_->Filter(text) + alternatives_->Filter(text) + background;
+  backgroundTitle_->setVisible(!backgroundForm_->IsEmpty() && background > 0);
+  noField_->setVisible(shown == 0);
 }
 
 FieldForm* PropertyPanel::AddForm(const char* prefix, SelectedFields& fields) {
@@ -74,6 +99,7 @@ void PropertyPanel::Refresh() {
   backgroundTitle_->setVisible(!background.empty());
   backgroundForm_->setVisible(!background.empty());
   backgroundForm_->Show(background);
+  if (!filter_->text().isEmpty()) ApplyFilter();
 }
 
 void PropertyPanel::Reload() {
@@ -114,6 +140,8 @@ void PropertyPanel::EndStep() {
 }
 
 void PropertyPanel::FocusFirst() { form_->FocusFirst(); }
+
+void PropertyPanel::FocusContent() { form_->FocusContent(); }
 
 QWidget* PropertyPanel::Find(std::string_view name) const {
   if (QWidget* found = form_->Find(name)) return found;

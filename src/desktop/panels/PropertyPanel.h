@@ -8,6 +8,7 @@
 #include "editor/SelectedFields.h"
 
 class QLabel;
+class QLineEdit;
 class QTimer;
 
 namespace xrpt {
@@ -29,6 +30,8 @@ class PropertyPanel final : public QScrollArea {
   void Commit();
   // Puts the keyboard on the first field.
   void FocusFirst();
+  // The field that says what the card shows.
+  void FocusContent();
   // The widget of a field by its full name; null when it is not shown. Those of an alternative's card stand behind
   // the card's own.
   QWidget* Find(std::string_view name) const;
@@ -40,6 +43,8 @@ class PropertyPanel final : public QScrollArea {
 
  private:
   FieldForm* AddForm(const char* prefix, SelectedFields& fields);
+  void AddFilter();
+  void ApplyFilter();
   void ShowTitle();
   void Touch();
   void EndStep();
@@ -49,6 +54,8 @@ class PropertyPanel final : public QScrollArea {
   QTimer* idle_;
   FieldServices services_;
   QLabel* title_ = nullptr;
+  QLineEdit* filter_ = nullptr;
+  QLabel* noField_ = nullptr;  // nothing fits the filter
   FieldForm* form_ = nullptr;
   ItemsEditor* items_ = nullptr;
   AlternativesEditor* alternatives_ = nullptr;

@@ -6,7 +6,7 @@
 
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
-#include "editor/CommandCatalogue.h"
+#include "editor/CommandHelp.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -75,6 +75,10 @@ const Command& Actions::CommandOf(const QAction& action) {
 
 QString Actions::FullLabelOf(const QAction& action) {
   return QStringLiteral("%1: %2").arg(Translated(CommandOf(action).groupTextId), action.text());
+}
+
+std::wstring Actions::WhyUnavailable(const QAction& action) const {
+  return xrpt::WhyUnavailable(CommandOf(action), frame_);
 }
 
 void Actions::Refresh() {

@@ -27,6 +27,9 @@ class Actions {
   // "Align to last card: Left" says more than "Left" where the ribbon's group is not in sight.
   static QString FullLabelOf(const QAction& action);
 
+  // What a disabled one waits for; empty when it does not say.
+  std::wstring WhyUnavailable(const QAction& action) const;
+
   // Asks every command whether it is enabled and checked.
   void Refresh();
 

@@ -50,9 +50,16 @@ CornerBar::CornerBar(RVEditControlWnd& frame, const Actions& actions, QWidget* p
   zoom.addWidget(zoom_);
   AddButtons(zoom, actions, {"ZoomIn"});
   connect(pages_, &QComboBox::activated, this, [this](int page) { frame_.ShowPage(static_cast<std::size_t>(page)); });
-  connect(zoom_, &QComboBox::activated, this, [this](int entry) { frame_.SetZoomEntry(entry); });
+  connect(zoom_, &QComboBox::activated, this, [this](int entry) { ChooseZoom(entry); });
   zoom_->addItems({Translated(text::kFitPage), Translated(text::kFitWidth)});
   for (int percent = 50; percent <= 1000; percent += 50) zoom_->addItem(QStringLiteral("%1 %").arg(percent));
+  zoom_->addItem(Translated(text::kZoomToSelection));
+}
+
+// The last entry is the selection's; without one the zoom stays.
+void CornerBar::ChooseZoom(int entry) {
+  entry + 1 == zoom_->count() ? frame_.ZoomToSelection() : frame_.SetZoomEntry(entry);
+  RefreshZoom();
 }
 
 QBoxLayout& CornerBar::AddPart() {

@@ -32,6 +32,7 @@ class CornerBar final : public QWidget {
   void PutPart(QWidget* part, bool inPopup);
   void PlaceParts();
   void RefreshPages();
+  void ChooseZoom(int entry);
   void RefreshZoom();
 
   RVEditControlWnd& frame_;

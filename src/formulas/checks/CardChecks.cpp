@@ -1,4 +1,5 @@
 // Checks of one card: its place on the page, its text, its picture, its style, its identity.
+#include <algorithm>
 #include <cmath>
 
 #include "formulas/checks/CheckTexts.h"
@@ -85,18 +86,32 @@ double PrintedDpi(const Picture& picture, const RVCardImage& card, const RectD& 
   return std::min(picture.width * kPointsPerInch / placed.Width(), picture.height * kPointsPerInch / placed.Height());
 }
 
+std::wstring StyleOf(const RVCardControl& card) {
+  std::wstring name;
+  ForEachField(card.GetRuntimeClass().table, [&](const CardRow& row) {
+    if (row.panel.editor == FieldEditor::Style) name = row.text(card);
+  });
+  return name;
+}
+
+// What the file of an open report has and the card has not, until it is given another style.
+std::optional<std::wstring> LostStyleOf(const CardView& view) {
+  if (!view.page.lostStyles || !StyleOf(view.card).empty()) return std::nullopt;
+  const LostStyles& lost = *view.page.lostStyles;
+  const CardKey key = view.card.Key();
+  const auto at =
+      std::lower_bound(lost.begin(), lost.end(), key, [](const LostStyle& one, CardKey k) { return one.card < k; });
+  return at == lost.end() || at->card != key ? std::nullopt : std::optional(at->id);
+}
+
 std::optional<std::wstring> UnknownStyleOf(const CardView& view) {
   StyleTable& styles = *view.card.Services().styles;
   std::wstring found;
   const std::wstring stored = view.element.Value("style");
   if (!stored.empty() && !styles.StyleId2Name(stored, found)) return stored;
-  std::optional<std::wstring> unknown;
-  ForEachField(view.card.GetRuntimeClass().table, [&](const CardRow& row) {
-    if (row.panel.editor != FieldEditor::Style) return;
-    const std::wstring name = row.text(view.card);
-    if (!name.empty() && !styles.StyleName2Id(name, found)) unknown = name;
-  });
-  return unknown;
+  const std::wstring name = StyleOf(view.card);
+  if (name.empty() || styles.StyleName2Id(name, found)) return std::nullopt;
+  return name;
 }
 
 }  // namespace
@@ -136,8 +151,9 @@ std::optional<Note> CoarsePicture(const CardView& view) {
 
 std::optional<Note> UnknownStyle(const CardView& view) {
   const std::optional<std::wstring> style = UnknownStyleOf(view);
-  if (!style) return std::nullopt;
-  return Note{.detail = style, .remedy = {text::kDropStyle, {{Change::Kind::SetField, "style", L""}}}};
+  if (style) return Note{.detail = style, .remedy = {text::kDropStyle, {{Change::Kind::SetField, "style", L""}}}};
+  const std::optional<std::wstring> lost = LostStyleOf(view);
+  return lost ? std::optional(Note{.detail = lost}) : std::nullopt;
 }
 
 std::optional<Note> WithoutId(const CardView& view) {

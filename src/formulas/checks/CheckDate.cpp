@@ -6,8 +6,7 @@ namespace xrpt {
 
 bool CheckDate(Inspector& inspector, const XmlNode& card, tagSDebugData& data, bool conditioned) {
   if (card.Node("field")) return true;
-  RVDateTime moment{};
-  if (inspector.TheHost().dates->String2DateTime(card.Value("value"), moment)) return true;
+  if (inspector.IsMoment(card.Node("value"))) return true;
   return inspector.Raise(conditioned ? HostCode(L"CONDITIONALCTRL_DATE_ERROR") : HostCode(L"DATECTRL_DATE_ERROR"),
                          data);
 }

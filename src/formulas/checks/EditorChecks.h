@@ -7,6 +7,7 @@
 #include "formulas/FormulaTable.h"
 #include "formulas/checks/CardFacts.h"
 #include "formulas/checks/Finding.h"
+#include "model/RVReportPage.h"
 #include "platform/Host.h"
 #include "platform/Xml.h"
 
@@ -16,6 +17,8 @@ namespace xrpt {
 struct PageShape {
   SizeD size;              // millimetres
   double fontScale = 1.0;  // from a font's points to those of the page
+  // References of its cards to styles that nobody knew when they were read; null for none.
+  std::shared_ptr<const LostStyles> lostStyles = nullptr;
   bool operator==(const PageShape&) const = default;
 };
 

@@ -101,7 +101,7 @@ PageFacts PointersTo(const std::vector<CardFacts>& facts) {
 PageShape ShapeOf(const RVReportPage& page) {
   constexpr double kUsualDpi = 96.0;
   const double scale = page.fontFactor * kUsualDpi / page.Services().screen->DpiY();
-  return {{page.properties.width, page.properties.height}, scale};
+  return {{page.properties.width, page.properties.height}, scale, page.StylesLost()};
 }
 
 std::vector<Finding> InspectCard(const RVCardControl& card, const XmlNode& element, const PageShape& page,

@@ -44,6 +44,14 @@ const BoundVariable& Inspector::Look(const XmlNode& name) {
   return variables_.Add(text, std::move(variable));
 }
 
+bool Inspector::IsMoment(const XmlNode& text) {
+  std::string joined;
+  const std::string_view utf8 = text.WholeText(joined);
+  if (const bool* known = moments_.Find(utf8)) return *known;
+  RVDateTime moment{};
+  return moments_.Add(utf8, host_.dates->String2DateTime(FromUtf8(utf8), moment));
+}
+
 bool Inspector::HasPicture(const XmlNode& image) {
   const XmlNode id = image.Node("imageId");
   const XmlNode path = image.Node("imagePath");
@@ -65,6 +73,7 @@ void Inspector::Forget() {
   plant_.reset();
   variables_.Clear();
   pictures_.Clear();
+  moments_.Clear();
   expressions_.Clear();
 }
 

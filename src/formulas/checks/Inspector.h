@@ -31,6 +31,8 @@ class Inspector {
   const ExpressionReading& Read(const XmlNode& expression, const tagSDebugData& data);
   // Of a driver variable's name, which surrounding brackets do not change.
   const BoundVariable& Look(const XmlNode& name);
+  // Whether the element's text names a moment in the user's locale.
+  bool IsMoment(const XmlNode& text);
   // Whether there is a file for the picture that an "image" element names.
   bool HasPicture(const XmlNode& image);
   // Plant, values and pictures may be others from here on.
@@ -48,6 +50,7 @@ class Inspector {
   ExpressionReadings expressions_;
   TextMemory<BoundVariable> variables_;
   TextMemory<bool> pictures_;
+  TextMemory<bool> moments_;
   std::unique_ptr<RVDriverVariable> plant_;
 };
 
