@@ -15,6 +15,12 @@
 
 namespace xrpt {
 
+// A place of the page that is painted by itself, and the cards of the list that meet it, top first.
+struct PagePart {
+  Rect rect;  // canvas pixels
+  std::vector<std::size_t> cards;
+};
+
 struct PagePaint {
   bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
   std::optional<Color> surroundColor;
@@ -22,7 +28,7 @@ struct PagePaint {
   bool gridWhenOff = false;     // the grid is shown though nothing snaps to it
   // Whether a card is painted; all are without it.
   std::function<bool(const RVCardControl& card)> shows;
-  const std::vector<std::size_t>* cards = nullptr;  // those that can be in the clip, top first; null: nobody knows
+  const PagePart* part = nullptr;  // what is painted, over what was there; null: the whole page
 };
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how = {});

@@ -1,7 +1,6 @@
 #include "canvas/PagePreparation.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/Graphics.h"
 
@@ -45,10 +44,16 @@ void LayOut(const RVCardControl& card, const tagDraw& draw) {
 // A snapshot of the cards is never changed, and lives as long as the thread looks at it.
 void PagePreparation::Begin(const CardList& cards, const tagDraw& draw) {
   Stop();
-  thread_ = std::jthread([shared = cards.Share(), draw](const std::stop_token& stop) {
-    const std::size_t count = std::min(shared.Size(), kMostCards);
-    for (std::size_t i = 0; i < count && !stop.stop_requested(); ++i) LayOut(*shared[i], draw);
+  cards_ = cards.Share();
+  thread_ = std::jthread([this, draw](const std::stop_token& stop) {
+    const std::size_t count = std::min(cards_.Size(), kMostCards);
+    for (std::size_t i = 0; i < count && !stop.stop_requested(); ++i) LayOut(*cards_[i], draw);
   });
+}
+
+void PagePreparation::Stop() {
+  thread_ = {};
+  cards_ = {};
 }
 
 void PagePreparation::Finish() {

@@ -17,11 +17,13 @@ class PagePreparation {
   // Begins with the top cards, as they are now, and gives up what it was at. The cards' services must outlive this.
   void Begin(const CardList& cards, const tagDraw& draw);
   // Gives up, at the next card at the latest.
-  void Stop() { thread_ = {}; }
+  void Stop();
   // Waits until all are done.
   void Finish();
 
  private:
+  // Let go of here and never in the thread: a card that nobody else holds may be changed where it stands.
+  SharedCards cards_;
   std::jthread thread_;
 };
 

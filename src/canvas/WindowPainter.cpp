@@ -106,8 +106,10 @@ void PaintWindowPart(Graphics& graphics, PixelBuffer& pixels, const RVEditTempla
   const GraphicsState state(graphics);
   graphics.ClipRect(RectD(part.rect));
   PagePaint how = PaintOf(window, pixels);
-  how.cards = &part.cards;
-  PaintWith(graphics, window, part.rect, how);
+  how.part = &part;
+  // On dense screens a part may end amid a pixel: what is behind the cards covers that one as it does elsewhere.
+  const Rect ground{part.rect.left - 1, part.rect.top - 1, part.rect.right + 1, part.rect.bottom + 1};
+  PaintWith(graphics, window, ground, how);
 }
 
 WindowOverlay::Scene WindowOverlay::SceneOf(const RVEditTemplateWnd& window, int painting) {

@@ -4,11 +4,16 @@
 // move, their places are painted and copied and nothing else.
 #pragma once
 
+#include <optional>
+#include <span>
 #include <vector>
 
+#include "canvas/CardNotes.h"
 #include "canvas/CardsInSight.h"
 #include "canvas/FrameOverlay.h"
+#include "canvas/PagePainter.h"
 #include "canvas/RVSelection.h"
+#include "canvas/SmartGuides.h"
 #include "platform/Color.h"
 #include "platform/Graphics.h"
 #include "platform/PixelBuffer.h"
@@ -20,11 +25,6 @@ class RVEditTemplateWnd;
 // `pixels` are the ones that `graphics` paints into: the grid goes there.
 void PaintWindowPage(Graphics& graphics, PixelBuffer& pixels, RVEditTemplateWnd& window, const Rect& client);
 
-// A place of the page that is painted by itself, and the cards of the list that meet it, top first.
-struct PagePart {
-  Rect rect;  // canvas pixels
-  std::vector<std::size_t> cards;
-};
 // The cards that the window shows there: all but those its user has hidden, which come back in a preview.
 CardsInSight SightOf(const RVEditTemplateWnd& window, const Rect& client);
 PagePart PartAt(const CardsInSight& sight, const Rect& rect);

@@ -49,8 +49,9 @@ struct PixelBuffer {
       for (int column = device.left; column < device.right; ++column) change(pixels[column]);
     }
   }
+  // As painters round the edges of what they fill and clip.
   int Device(int canvas, int limit) const {
-    return std::clamp(scale == 1.0 ? canvas : trunci(canvas * scale), 0, limit);
+    return std::clamp(scale == 1.0 ? canvas : roundi(canvas * scale), 0, limit);
   }
 };
 

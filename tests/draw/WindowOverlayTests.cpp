@@ -31,6 +31,7 @@ struct WindowOverlayTest : HostTest {
       card->width = 15.0;
       page.cards.PushBack(std::move(card));
     }
+    page.properties.id = L"page";
     window.emplace(page, port, queue, target);
     window->SetDpi(96, 96);
   }
@@ -49,6 +50,29 @@ struct WindowOverlayTest : HostTest {
     EXPECT_TRUE(shown == Shown(fresh)) << step;
     return shown;
   }
+  // From here on the page's picture changes in one place, and what is shown is what was shown before.
+  void BeginTicking() {
+    const Rect page = window->Placement().PageRect();
+    places = {{page.left + 40, page.top + 30, page.left + 90, page.top + 60}};
+    shown = Shown(kept);
+  }
+  void Repaper() {
+    color += 0x20u;
+    for (int y = places[0].top; y < places[0].bottom; ++y) {
+      for (int x = places[0].left; x < places[0].right; ++x) paper[static_cast<std::size_t>(y * kWidth + x)] = color;
+    }
+  }
+  void Tick(const char* step) {
+    Repaper();
+    PixelBuffer buffer = BufferOf(shown);
+    kept.PaintMoved(buffer, BufferOf(paper), painting, *window, port.ClientRect(), kBlack, places);
+    WindowOverlay fresh;
+    EXPECT_TRUE(shown == Shown(fresh)) << step;
+  }
+  void PaintAnew() {
+    ++painting;
+    shown = Shown(kept);
+  }
   void MoveTo(Point point) {
     screen.pointer = point;
     window->OnMouseMove(point, {});
@@ -63,6 +87,9 @@ struct WindowOverlayTest : HostTest {
   std::vector<std::uint32_t> paper = std::vector<std::uint32_t>(kWidth * kHeight, 0xFFFFFFFFu);
   int painting = 1;
   WindowOverlay kept;
+  std::vector<Rect> places;  // where texts move
+  std::vector<std::uint32_t> shown;
+  std::uint32_t color = 0xFF000100u;  // of what moves
 };
 
 TEST_F(WindowOverlayTest, ShowsWhatAFreshOneShows) {
@@ -102,36 +129,81 @@ TEST_F(WindowOverlayTest, ShowsWhatAFreshOneShows) {
 // Texts move on the page while the user points, selects and drags.
 TEST_F(WindowOverlayTest, WhatMovesIsFilledInAndLooksAsIfAllWere) {
   const Rect page = window->Placement().PageRect();
-  const std::vector<Rect> places = {{page.left + 40, page.top + 30, page.left + 90, page.top + 60}};
-  std::uint32_t color = 0xFF000100u;
-  auto shown = Shown(kept);
-  const auto tick = [&](const char* step) {
-    color += 0x20u;
-    for (int y = places[0].top; y < places[0].bottom; ++y) {
-      for (int x = places[0].left; x < places[0].right; ++x) paper[static_cast<std::size_t>(y * kWidth + x)] = color;
-    }
-    PixelBuffer buffer = BufferOf(shown);
-    kept.PaintMoved(buffer, BufferOf(paper), painting, *window, port.ClientRect(), kBlack, places);
-    WindowOverlay fresh;
-    EXPECT_TRUE(shown == Shown(fresh)) << step;
-  };
-  tick("a first tick");
-  tick("and another");
+  BeginTicking();
+  Tick("a first tick");
+  Tick("and another");
   MoveTo({page.left + 50, page.top + 40});
-  tick("pointer over a card");
+  Tick("pointer over a card");
   window->SelectControls({L"card1", L"card4"});
-  tick("two selected");
-  tick("standing still");
+  Tick("two selected");
+  Tick("standing still");
   window->OnTimer();
-  tick("dashes marched");
+  Tick("dashes marched");
   window->OnLButtonDown({page.left + 60, page.top + 40}, {});
   MoveTo({page.left + 70, page.top + 45});
-  tick("dragging");
-  tick("holding still");
+  Tick("dragging");
+  Tick("holding still");
   window->OnLButtonUp({page.left + 70, page.top + 45});
-  ++painting;
-  shown = Shown(kept);
-  tick("dropped");
+  PaintAnew();
+  Tick("dropped");
+}
+
+// What the editor lays over the page beside frames stays where it is, and moves and goes when it should.
+TEST_F(WindowOverlayTest, WhatMovesIsFilledInUnderLinesHandlesAndBesideHiddenCards) {
+  CardNotes notes;
+  window->SetNotes(&notes, {});
+  EditingOptions options;
+  options.showsHandles = true;
+  window->SetOptions(options);
+  BeginTicking();
+  Tick("nothing yet");
+  window->SetLines({{10.0, 40.0}, {15.0}}, true);
+  Tick("lines have come");
+  Tick("and stay");
+  window->SetLines({{12.0, 40.0}, {}}, true);
+  Tick("one has moved, one is gone");
+  window->SelectControls({L"card1", L"card2"});
+  Tick("handles");
+  Tick("stay too");
+  window->SelectControls({L"card2", L"card1"});
+  Tick("another one is last");
+  window->HideCard(1, true);
+  PaintAnew();
+  Tick("a card under them is hidden");
+  window->ClearSelection();
+  Tick("nothing is selected");
+  const auto withHidden = shown;
+  window->HideCard(1, false);
+  PaintAnew();
+  Tick("it is back");
+  EXPECT_TRUE(shown != withHidden);
+  window->SetPreview(true);
+  PaintAnew();
+  Tick("readers see no frames and no lines");
+  EXPECT_TRUE(shown == paper);
+}
+
+// Where pictures arrive the page's picture is taken again, under whatever lies over it.
+TEST_F(WindowOverlayTest, WhatArrivesIsTakenUnderFramesLinesAndHandles) {
+  CardNotes notes;
+  window->SetNotes(&notes, {});
+  EditingOptions options;
+  options.showsHandles = true;
+  window->SetOptions(options);
+  window->SetLines({{10.0}, {15.0}}, true);
+  window->SelectControls({L"card1"});
+  window->HideCard(3, true);
+  BeginTicking();
+  for (const char* step : {"one arrived", "the next"}) {
+    Repaper();
+    kept.TakeParts(BufferOf(paper), *window, places);
+    Check(step);
+  }
+  window->SetPreview(true);
+  PaintAnew();
+  Repaper();
+  kept.TakeParts(BufferOf(paper), *window, places);
+  EXPECT_TRUE(Check("in a preview") == paper);
 }
 
 // However many cards there are, a tick draws those that meet the one that moves.
@@ -150,6 +222,14 @@ TEST_F(WindowOverlayTest, ATickDrawsTheCardsAroundWhatMoves) {
   PixelBuffer buffer = BufferOf(paper);
   PaintWindowPart(graphics, buffer, *window, parts[0]);
   EXPECT_EQ(graphics.Texts(), (std::vector<std::wstring>{L"still", L"moving", L"still"}));
+  // A card the user has hidden is not painted in a tick either, but for readers.
+  CardNotes notes;
+  window->SetNotes(&notes, {});
+  window->HideCard(1, true);
+  const auto neighbours = [&] { return MovingParts(*window, SightOf(*window, port.ClientRect())).at(0).cards; };
+  EXPECT_EQ(neighbours(), (std::vector<std::size_t>{2, 3}));
+  window->SetPreview(true);
+  EXPECT_EQ(neighbours(), (std::vector<std::size_t>{1, 2, 3}));
 }
 
 // Any card, anywhere, of any size: asking for a place gives what a walk over all gives.
