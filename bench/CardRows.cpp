@@ -8,6 +8,7 @@
 #include "canvas/RVEditTemplateWnd.h"
 #include "canvas/UndoTexts.h"
 #include "editor/CommandCatalogue.h"
+#include "editor/CommandTexts.h"
 #include "editor/SelectedFields.h"
 #include "model/RVCardLabel.h"
 #include "platform/SearchRequest.h"
@@ -102,8 +103,8 @@ std::vector<Row> CommandRows() {
   std::vector<Row> rows;
   for (const Command& command : CommandCatalogue()) {
     const std::string_view name = command.name;
-    if (command.run && command.tab != RibbonTab::Report && name != "Undo" && name != "Redo")
-      rows.push_back(RowOf(command));
+    const bool isOfFiles = command.tab == RibbonTab::Report || command.groupTextId == text::kFileGroup;
+    if (command.run && !isOfFiles && name != "Undo" && name != "Redo") rows.push_back(RowOf(command));
   }
   return rows;
 }

@@ -2,11 +2,11 @@
 // and a large picture store, opened and filtered as one types.
 #include <QApplication>
 #include <QLineEdit>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 
+#include "Measure.h"
 #include "canvas/PageEdit.h"
 #include "desktop/dialogs/PictureChooser.h"
 #include "desktop/dialogs/VariableChooser.h"
@@ -19,17 +19,7 @@
 namespace {
 
 using namespace xrpt;
-
-template <class Work>
-double BestOf(int runs, const Work& work) {
-  double best = 1e9;
-  for (int i = 0; i < runs; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    best = std::min(best, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
-  }
-  return best;
-}
+using bench::BestOf;
 
 bool Report(const char* what, double taken, double limit) {
   std::printf("%-52s %8.2f ms (limit %.0f)\n", what, taken, limit);

@@ -2,9 +2,9 @@
 // cards beside reading and parsing them bare.
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdio>
 
+#include "Measure.h"
 #include "canvas/RVEditTemplateWnd.h"
 #include "formulas/TemplateTexts.h"
 #include "host/DefaultHost.h"
@@ -16,18 +16,9 @@
 namespace {
 
 using namespace xrpt;
+using bench::BestOf;
 
-// Milliseconds; the best of several runs, for other programs disturb.
-template <class Work>
-double Cost(const Work& work) {
-  double best = 1e9;
-  for (int run = 0; run < 7; ++run) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    best = std::min(best, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
-  }
-  return best;
-}
+constexpr int kRuns = 7;
 
 class Nobody final : public MessageTarget {
  public:
@@ -50,7 +41,7 @@ void SearchPage() {
   Nobody parent;
   RVEditTemplateWnd window(page, port, queue, parent);
   std::size_t characters = 0;
-  const double reading = Cost([&] {
+  const double reading = BestOf(kRuns, [&] {
     for (std::size_t i = 0; i < page.cards.Size(); ++i) {
       ForEachText(page.cards[i], [&](const CardText& text) {
         for (const wchar_t c : text.text) characters += c == L'~' ? 2 : 1;
@@ -58,7 +49,7 @@ void SearchPage() {
     }
   });
   for (const wchar_t* pattern : {L"DEMAND", L"nowhere", L"e"}) {
-    const double searching = Cost([&] { window.SearchControl(pattern, false, true); });
+    const double searching = BestOf(kRuns, [&] { window.SearchControl(pattern, false, true); });
     std::printf("100,000 cards, \"%ls\": %.1f ms, reading the texts %.1f ms, beyond it %.1f ms\n", pattern, searching,
                 reading, searching - reading);
   }
@@ -81,9 +72,9 @@ void SearchFolder() {
       work(document.Root());
     }
   };
-  const double bare = Cost([&] { each([](const XmlNode&) {}); });
+  const double bare = BestOf(kRuns, [&] { each([](const XmlNode&) {}); });
   const TextFinder finder(L"DEMAND", false);
-  const double searching = Cost([&] { each([&](const XmlNode& root) { SearchTemplate(root, finder); }); });
+  const double searching = BestOf(kRuns, [&] { each([&](const XmlNode& root) { SearchTemplate(root, finder); }); });
   std::printf("1,000 files of 50 cards: %.0f ms, reading and parsing bare %.0f ms (%.2f x)\n", searching, bare,
               searching / bare);
   std::filesystem::remove_all(folder);

@@ -26,6 +26,10 @@ void Put(std::map<std::wstring, Value, std::less<>>& values, std::wstring_view i
 
 const CardNote& CardNotes::Of(std::wstring_view card) const { return Find(cards_, card); }
 
+bool CardNotes::HasAny(bool CardNote::*what) const {
+  return std::any_of(cards_.begin(), cards_.end(), [what](const auto& card) { return card.second.*what; });
+}
+
 void CardNotes::Set(std::wstring_view card, const CardNote& note) { Put(cards_, card, note); }
 
 const PageLines& CardNotes::LinesOf(std::wstring_view page) const { return Find(pages_, page); }

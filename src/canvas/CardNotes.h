@@ -31,6 +31,8 @@ class CardNotes {
  public:
   // Cards and pages are known by their ids; one without an id has no notes.
   const CardNote& Of(std::wstring_view card) const;
+  // Whether any card has this noted, on whichever page.
+  bool HasAny(bool CardNote::*what) const;
   void Set(std::wstring_view card, const CardNote& note);
   const PageLines& LinesOf(std::wstring_view page) const;
   void SetLines(std::wstring_view page, PageLines lines);

@@ -120,7 +120,7 @@ void RVEditTemplateWnd::NameCard(std::size_t index, const std::wstring& name) {
 }
 
 bool RVEditTemplateWnd::HasNoted(bool CardNote::*what) const {
-  if (!notes_ || notes_->IsEmpty()) return false;
+  if (!notes_ || !notes_->HasAny(what)) return false;
   for (std::size_t i = 0; i < page_.cards.Size(); ++i) {
     if (NoteOf(page_.cards[i]).*what) return true;
   }

@@ -269,6 +269,8 @@ class RVEditTemplateWnd {
   }
   const CardNote& NoteOf(const RVCardControl& card) const;
   bool IsHidden(const RVCardControl& card) const { return NoteOf(card).hidden; }
+  // Whether to ask that of every card; asks none of them.
+  bool HidesAny() const { return notes_ && notes_->HasAny(&CardNote::hidden); }
   bool AreSelectedLocked() const;
   bool IsAnySelectedGrouped() const;
   // Whether any card of the page has this noted.

@@ -30,7 +30,7 @@ CardFrame FrameOf(const RVCardControl& card, const Rect& rect, const RVEditTempl
 }
 
 std::function<bool(const RVCardControl&)> ShowsOf(const RVEditTemplateWnd& window) {
-  if (window.IsPreview() || !window.HasNoted(&CardNote::hidden)) return {};
+  if (window.IsPreview() || !window.HidesAny()) return {};
   return [&window](const RVCardControl& card) { return !window.IsHidden(card); };
 }
 

@@ -164,6 +164,8 @@ inline constexpr int kFilterFields = 62551;
 inline constexpr int kNoSuchField = 62552;
 inline constexpr int kFoldSection = 62553;
 inline constexpr int kReportColors = 62554;
+inline constexpr int kFetchPicture = 62555;
+inline constexpr int kFetchingPicture = 62560;
 
 inline constexpr int kEditedText = 62610;
 inline constexpr int kHistory = 62611;

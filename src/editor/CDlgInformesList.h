@@ -6,20 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "editor/Question.h"
+#include "editor/DialogPort.h"
 #include "editor/ReportFiles.h"
 
 namespace xrpt {
 
 // What the list asks of whoever shows it.
-class ReportListPort {
+class ReportListPort : public DialogPort {
  public:
-  virtual ~ReportListPort() = default;
-  virtual std::size_t Decide(const Question& question) = 0;
   // Another name, or the name of a copy. Nothing when cancelled.
   virtual std::optional<std::wstring> AskForName(int titleTextId, const std::wstring& proposed) = 0;
-  // One sentence for people.
-  virtual void TellFailure(const std::wstring& sentence) = 0;
 };
 
 enum class ReportColumn { Name, Changed, Size, File };

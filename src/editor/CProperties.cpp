@@ -47,16 +47,6 @@ constexpr std::pair<const wchar_t*, int PropertyBarSizes::*> kSizes[] = {
 
 constexpr std::size_t kLongestValue = 256;  // characters
 
-// Text ids of hosts.
-constexpr int kAutoText = 753;
-constexpr int kMinutesText = 757;
-constexpr int kHourText = 762;
-constexpr int kFileText = 791;
-constexpr int kDefaultText = 34126;
-
-constexpr int kHour = 3600;
-constexpr int kPeriods[] = {kAutoPeriod, kDefaultPeriod, kFilePeriod, 300, 600, 900, 1200, 1800, kHour, 86400, 2678400};
-
 }  // namespace
 
 std::span<const PropertyPanelRow> PropertyPanels() { return kPanels; }
@@ -137,25 +127,11 @@ std::wstring CheckValidValue(std::wstring_view typed) {
   return valid;
 }
 
-std::span<const int> PeriodItems() { return kPeriods; }
+std::span<const Word> PeriodItems() { return kPeriodWords; }
 
 std::wstring PeriodText(int item) {
-  if (item == kDefaultPeriod) return L"DEFAULT";
-  if (item == kFilePeriod) return L"FILE";
-  const bool isListed = std::find(std::begin(kPeriods), std::end(kPeriods), item) != std::end(kPeriods);
-  return isListed && item != kAutoPeriod ? std::to_wstring(item) : L"AUTO";
-}
-
-std::wstring PeriodName(int item) {
-  if (item == kDefaultPeriod) return HostText(kDefaultText);
-  if (item == kFilePeriod) return HostText(kFileText);
-  if (item == kHour) return HostText(kHourText);
-  if (item > 0 && item < kHour) return FormatText(HostText(kMinutesText), std::to_wstring(item / 60));
-  const std::wstring text = PeriodText(item);
-  for (const Word& word : kPeriodWords) {
-    if (item > kHour && FromUtf8(word.text) == text) return HostText(word.textId);
-  }
-  return HostText(kAutoText);
+  const Word* word = WordOf(kPeriodWords, item);
+  return FromUtf8((word ? *word : kPeriodWords[0]).text);
 }
 
 bool IsControlEnabled(const RVCardReportGraph& graph, int control) {

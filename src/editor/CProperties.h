@@ -115,14 +115,9 @@ class CProperties {
 std::wstring CheckValidValue(std::wstring_view typed);
 
 // The periods a graph offers, by the number behind each item: seconds, or one of the two special ones.
-inline constexpr int kDefaultPeriod = -2;
-inline constexpr int kFilePeriod = -3;
-inline constexpr int kAutoPeriod = 0;  // and any number that no item has
-std::span<const int> PeriodItems();
-// What picking an item writes: "300", "DEFAULT", "FILE", "AUTO".
+std::span<const Word> PeriodItems();
+// What picking an item writes: "300", "DEFAULT", "FILE"; "AUTO" for a number that no item has, too.
 std::wstring PeriodText(int item);
-// What people read for it.
-std::wstring PeriodName(int item);
 
 // Controls of the graph's panel that hang on its series: one is for pies, the other for all else.
 inline constexpr int kPieControl = 1374;

@@ -33,4 +33,10 @@ inline constexpr int kPictureIsUsed = 62514;
 inline constexpr int kUsesNotKnown = 62515;
 inline constexpr int kNoUnusedPictures = 62516;
 
+// A camera's picture.
+inline constexpr int kNoServer = 62556;
+inline constexpr int kNoCamera = 62557;
+inline constexpr int kNoAnswer = 62558;  // and why
+inline constexpr int kNoPictureInAnswer = 62559;
+
 }  // namespace xrpt::text

@@ -50,7 +50,7 @@ Question AskToDelete(int textId, const std::vector<std::wstring>& names, std::si
 
 }  // namespace
 
-ImageStoreList::ImageStoreList(ImageStorePort& port, const RVReport& report) : port_(port), report_(report) {
+ImageStoreList::ImageStoreList(DialogPort& port, const RVReport& report) : port_(port), report_(report) {
   UpdateList();
 }
 

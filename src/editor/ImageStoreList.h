@@ -7,24 +7,15 @@
 #include <string>
 #include <vector>
 
+#include "editor/DialogPort.h"
 #include "editor/PictureUses.h"
-#include "editor/Question.h"
 
 namespace xrpt {
-
-// What the list asks of whoever shows it.
-class ImageStorePort {
- public:
-  virtual ~ImageStorePort() = default;
-  virtual std::size_t Decide(const Question& question) = 0;
-  // One sentence for people, or several, a line each.
-  virtual void TellFailure(const std::wstring& sentences) = 0;
-};
 
 class ImageStoreList {
  public:
   // The port and the report, whose cards say where pictures are used, must outlive the list.
-  ImageStoreList(ImageStorePort& port, const RVReport& report);
+  ImageStoreList(DialogPort& port, const RVReport& report);
 
   // Sub-folders that hold pictures; the images folder itself is the empty name and always there.
   const std::vector<std::wstring>& Folders() const { return folders_; }
@@ -57,7 +48,7 @@ class ImageStoreList {
   bool Delete(const std::vector<std::wstring>& names);
   std::size_t CountUses(const std::vector<std::wstring>& names) const;
 
-  ImageStorePort& port_;
+  DialogPort& port_;
   const RVReport& report_;
   std::vector<std::wstring> all_;
   std::vector<std::wstring> folders_;

@@ -43,7 +43,7 @@ bool IsOfBackground(const CardRow& row) {
 bool IsOfUse(const CardRow& row, const std::vector<const RVCardControl*>& cards, FieldsOf whose) {
   if (whose == FieldsOf::Alternative && row.panel.group == FieldGroup::Geometry) return false;
   if (whose == FieldsOf::Background && !IsOfBackground(row)) return false;
-  return std::any_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.Applies(*card); });
+  return std::any_of(cards.begin(), cards.end(), [&](const RVCardControl* card) { return row.IsOfUse(*card); });
 }
 
 std::optional<std::wstring> CommonText(const CardRow& row, const std::vector<const RVCardControl*>& cards) {
@@ -70,10 +70,8 @@ bool IsDateField(const CardRow& row, const std::vector<const RVCardControl*>& ca
 std::wstring ShownText(const CardRow& row, const RVCardControl& card) {
   const std::wstring text = row.text(card);
   if (IsDateField(row, card)) return NameOfDateField(text);
-  for (const Word& word : row.words) {
-    if (word.textId != 0 && FromUtf8(word.text) == text) return HostText(word.textId);
-  }
-  return text;
+  const Word* word = WordOf(row.words, text);
+  return word ? NameOf(*word) : text;
 }
 
 }  // namespace

@@ -139,6 +139,13 @@ constexpr RowOf<Owner> Only(RowOf<Owner> row) {
   return row;
 }
 
+// For which objects a panel shows the field.
+template <class Owner, auto Condition>
+constexpr RowOf<Owner> OfUse(RowOf<Owner> row) {
+  row.isOfUse = [](const typename Owner::FieldRoot& object) { return (detail::As<Owner>(object).*Condition)(); };
+  return row;
+}
+
 // What no codec can say: functions of the class read the row's own element or, for a row without a name, the object's,
 // `void Read(const XmlNode&)`, and write into the latter, `void Write(XmlWriter&) const`.
 template <class Owner, auto Read>

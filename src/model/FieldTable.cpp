@@ -3,8 +3,27 @@
 #include <cstring>
 
 #include "model/FieldWalk.h"
+#include "platform/Host.h"
+#include "platform/Text.h"
 
 namespace xrpt {
+
+const Word* WordOf(std::span<const Word> words, int value) {
+  const auto found =
+      std::find_if(words.begin(), words.end(), [value](const Word& word) { return word.value == value; });
+  return found == words.end() ? nullptr : &*found;
+}
+
+const Word* WordOf(std::span<const Word> words, std::wstring_view text) {
+  const auto isIt = [text](const Word& word) { return FromUtf8(word.text) == text; };
+  const auto found = std::find_if(words.begin(), words.end(), isIt);
+  return found == words.end() ? nullptr : &*found;
+}
+
+std::wstring NameOf(const Word& word) {
+  if (word.textId == 0) return FromUtf8(word.text);
+  return FormatText(HostText(word.textId), std::to_wstring(word.number));
+}
 
 std::string FieldRow::FullName() const {
   std::string full = group ? std::string(group) + "/" : std::string();

@@ -31,7 +31,8 @@ enum class FieldEditor {
   Angle,
   Variable,
   Picture,
-  Expression
+  Expression,
+  Threshold
 };
 
 // Panels show fields in these groups, in this order.
@@ -51,7 +52,14 @@ struct Word {
   const char* text;
   int value;
   int textId = 0;
+  int number = 0;  // what a "%d" of that text becomes
 };
+
+// The word of a list that stands for the value, or is the text; null when none does.
+const Word* WordOf(std::span<const Word> words, int value);
+const Word* WordOf(std::span<const Word> words, std::wstring_view text);
+// What people read for it.
+std::wstring NameOf(const Word& word);
 
 // What a field's text is to whoever looks through the texts of a report, or renames what they refer to.
 enum class TextRole {
@@ -95,6 +103,8 @@ struct FieldOf : FieldRow {
 
   // Null: every object has the field in the file. An object to which it does not apply neither reads nor writes it.
   bool (*applies)(const Root& object) = nullptr;
+  // Null: panels show every field that applies. Nothing in the file hangs on it.
+  bool (*isOfUse)(const Root& object) = nullptr;
   // Null: always written.
   bool (*isWritten)(const Root& object) = nullptr;
   void (*assign)(Root& object, std::string_view text) = nullptr;
@@ -113,6 +123,7 @@ struct FieldOf : FieldRow {
   void (*writeNode)(const Root& object, XmlWriter& out) = nullptr;
 
   bool Applies(const Root& object) const { return !applies || applies(object); }
+  bool IsOfUse(const Root& object) const { return Applies(object) && (!isOfUse || isOfUse(object)); }
   std::span<const Word> WordsFor(const Root& object) const { return wordsOf ? wordsOf(object) : words; }
 };
 

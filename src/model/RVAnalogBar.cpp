@@ -5,7 +5,7 @@ namespace {
 
 using Bar = RVAnalogBar;
 
-constexpr FieldPanel ScalePanel(int textId) { return {textId, FieldGroup::Scale, FieldEditor::Text}; }
+constexpr FieldPanel ScalePanel(int textId) { return {textId, FieldGroup::Scale, FieldEditor::Threshold}; }
 
 template <auto Member>
 constexpr CardRow ScaleEnd(const char* name, int textId) {

@@ -15,6 +15,7 @@ class RVCardDate : public RVCardLabel {
 
   // The sample value by the pattern; this moment when the value names none.
   std::wstring ShownText() const override;
+  bool ShowsItsText() const override { return false; }
 
   std::wstring pattern = L"dd/MM/yyyy HH:mm:ss";
   std::wstring value;  // sample shown while editing: the moment the card was made, as the user writes dates

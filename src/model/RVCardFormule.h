@@ -20,6 +20,7 @@ class RVCardFormule : public RVCardLabel {
 
   // The value by the number format when it reads as a number, else as it stands.
   std::wstring ShownText() const override;
+  bool ShowsItsText() const override { return false; }
 
   std::wstring value;  // the expression; the canvas shows it, as a number when it reads as one
   bool thousandSeparator = false;

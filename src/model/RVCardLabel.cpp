@@ -9,8 +9,10 @@ std::span<const CardRow> RVCardLabel::Rows() {
   static constexpr auto kRows = JoinRows(
       AlignmentRows<Label, &Label::horizontalAlign, &Label::verticalAlign>(),
       RowsOf(
-          Holding(TextRole::Words, WhenNotEmpty<Label, &Label::text>(Field<Label, codec::String, &Label::text>(
-                                       "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines}))),
+          // Cards that show a value keep the text, but nobody sees it.
+          OfUse<Label, &Label::ShowsItsText>(Holding(
+              TextRole::Words, WhenNotEmpty<Label, &Label::text>(Field<Label, codec::String, &Label::text>(
+                                   "text", "textStr", "", {text::kText, FieldGroup::Content, FieldEditor::Lines})))),
           FontNameRow<Label, &Label::font>(), FontStyleRow<Label, &Label::font>(),
           Field<Label, codec::Decimal, &Label::orientation>(
               "font", "orientation", "", {text::kOrientation, FieldGroup::Font, FieldEditor::Angle, -360.0, 360.0}),

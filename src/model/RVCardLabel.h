@@ -24,6 +24,8 @@ class RVCardLabel : public RVCardControl {
   void Draw(Graphics& graphics, const tagDraw& draw) const override;
   // What the canvas shows.
   virtual std::wstring ShownText() const { return text; }
+  // Whether that is the text written on the card, rather than a value.
+  virtual bool ShowsItsText() const { return true; }
 
   bool IsAnimated() const override { return animation.behavior != Behavior::None; }
 

@@ -9,11 +9,11 @@ namespace xrpt {
 
 enum class SeriesType { Line = 0, Bar = 1, Point = 2, CheeseVariable = 3, CheesePeriod = 4 };
 
-// What the editor offers; any other text is kept too.
-inline constexpr Word kPeriodWords[] = {{"AUTO", 0, 60140},  {"DEFAULT", 1, 60141}, {"FILE", 2, 60142},
-                                        {"300", 3, 60143},   {"600", 4, 60144},     {"900", 5, 60145},
-                                        {"1200", 6, 60146},  {"1800", 7, 60147},    {"3600", 8, 60148},
-                                        {"86400", 9, 60149}, {"2678400", 10, 60150}};
+// What the editor offers, by seconds where it has some; any other text is kept too.
+inline constexpr Word kPeriodWords[] = {{"AUTO", 0, 753},        {"DEFAULT", -2, 34126},     {"FILE", -3, 791},
+                                        {"300", 300, 757, 5},    {"600", 600, 757, 10},      {"900", 900, 757, 15},
+                                        {"1200", 1200, 757, 20}, {"1800", 1800, 757, 30},    {"3600", 3600, 762},
+                                        {"86400", 86400, 60149}, {"2678400", 2678400, 60150}};
 inline constexpr Word kSeriesTypeWords[] = {{"LINE", 0, 60151},
                                             {"BAR", 1, 60152},
                                             {"POINT", 2, 60153},

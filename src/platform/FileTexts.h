@@ -1,17 +1,6 @@
 // Numbers of the texts that say what became of files and ask what shall, in the catalogues' range 62200 to 62399.
 #pragma once
 
-#include <initializer_list>
-#include <string>
-#include <string_view>
-
-namespace xrpt {
-
-// Replaces each "%s" of a text of ours by the next argument; what the arguments hold is left as it is.
-std::wstring FillIn(std::wstring_view pattern, std::initializer_list<std::wstring> arguments);
-
-}  // namespace xrpt
-
 namespace xrpt::text {
 
 inline constexpr int kNotSaved = 62200;
@@ -78,7 +67,7 @@ inline constexpr int kNeverSaved = 62289;
 
 // How a file and a report differ.
 inline constexpr int kDifferences = 62300;
-inline constexpr int kWhere = 62301;
+inline constexpr int kPlaceColumn = 62301;
 inline constexpr int kOnDiskColumn = 62302;
 inline constexpr int kHereColumn = 62303;
 inline constexpr int kNoDifferences = 62304;

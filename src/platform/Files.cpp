@@ -21,17 +21,6 @@ bool HasChanged(FileService& files, const Path& file, const FileVersion& since) 
   return !bytes || FileVersion(now, *bytes).hash != since.hash;
 }
 
-std::wstring FillIn(std::wstring_view pattern, std::initializer_list<std::wstring> arguments) {
-  std::wstring out;
-  for (const std::wstring& argument : arguments) {
-    const std::size_t at = pattern.find(L"%s");
-    if (at == std::wstring_view::npos) break;
-    out.append(pattern.substr(0, at)).append(argument);
-    pattern.remove_prefix(at + 2);
-  }
-  return out.append(pattern);
-}
-
 std::wstring TextOf(const SaveResult& result) {
   const std::wstring file = FromUtf8(result.file.filename().string());
   switch (result.outcome) {

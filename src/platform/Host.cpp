@@ -21,6 +21,13 @@ ModelServices::~ModelServices() = default;
 Host::Host() : ModelServices([this](const auto& id, const auto& path) { return ReadImageFile(*this, id, path); }) {}
 Host::~Host() = default;
 
+std::wstring Device::Setting(std::wstring_view name) const {
+  for (const auto& [setting, value] : settings) {
+    if (setting == name) return value;
+  }
+  return {};
+}
+
 Host& CurrentHost() {
   if (!Installed()) throw std::logic_error("a host must be installed before the library is used");
   return *Installed();

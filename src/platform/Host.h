@@ -9,12 +9,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Color.h"
 #include "platform/Expressions.h"
 #include "platform/Files.h"
 #include "platform/Fonts.h"
+#include "platform/HttpService.h"
 #include "platform/Locks.h"
 #include "platform/Picture.h"
 #include "platform/PictureStore.h"
@@ -156,11 +158,18 @@ struct Device {
   std::wstring id;
   std::wstring name;
   std::vector<DeviceVariable> variables;
+  // What else the plant's configuration says of it: "driver", "address" and so on, each with its value.
+  std::vector<std::pair<std::wstring, std::wstring>> settings = {};
+
+  // Empty for one that is not there.
+  std::wstring Setting(std::wstring_view name) const;
 };
 class DeviceCatalogue {
  public:
   virtual ~DeviceCatalogue() = default;
   virtual std::vector<Device> Devices() = 0;
+  // Where the plant's server answers ("http://plant:8080"); empty: there is none.
+  virtual std::string Server() { return {}; }
 };
 
 // A device variable's full name in its parts, unused ones empty: DEVICE.VARIABLE, DEVICE.VARIABLE.KIND,
@@ -256,6 +265,7 @@ struct Host : ModelServices {
   std::unique_ptr<IdentifierCache> identifiers;
   std::unique_ptr<ClipboardService> clipboard;
   std::unique_ptr<DeviceCatalogue> devices;
+  std::unique_ptr<HttpService> http;  // none: nothing can be asked of a server
   std::unique_ptr<RVDebugInfo> debugInfo;
 
   // Its store has the pictures of the images folder.

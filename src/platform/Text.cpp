@@ -1,5 +1,6 @@
 #include "platform/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -164,17 +165,17 @@ bool IsSafeSubPath(std::wstring_view path) {
   return true;
 }
 
-std::wstring FormatText(std::wstring_view pattern, std::wstring_view argument) {
-  std::size_t at = pattern.find(L'%');
-  while (at != std::wstring_view::npos && at + 1 < pattern.size() && pattern[at + 1] != L'd' &&
-         pattern[at + 1] != L's') {
-    at = pattern.find(L'%', at + 1);
+std::wstring FillIn(std::wstring_view pattern, std::initializer_list<std::wstring_view> arguments) {
+  std::wstring out;
+  for (const std::wstring_view argument : arguments) {
+    const std::size_t at = std::min(pattern.find(L"%d"), pattern.find(L"%s"));
+    if (at == std::wstring_view::npos) break;
+    out.append(pattern.substr(0, at)).append(argument);
+    pattern.remove_prefix(at + 2);
   }
-  if (at == std::wstring_view::npos || at + 1 >= pattern.size()) return std::wstring(pattern);
-  std::wstring out(pattern.substr(0, at));
-  out += argument;
-  out += pattern.substr(at + 2);
-  return out;
+  return out.append(pattern);
 }
+
+std::wstring FormatText(std::wstring_view pattern, std::wstring_view argument) { return FillIn(pattern, {argument}); }
 
 }  // namespace xrpt

@@ -2,6 +2,7 @@
 // share.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,10 @@ bool IsSafeFileName(std::wstring_view name);
 // True for a relative folder path that never climbs out of the folder it is joined to ("./", "a/b", "a/b/").
 bool IsSafeSubPath(std::wstring_view path);
 
-// Replaces the first "%d" or "%s" of a text of ours; a text without one is given back as it stands.
+// Replaces each "%d" or "%s" of a text of ours by the next argument; what the arguments hold is left as it is, and so
+// are places beyond the last argument.
+std::wstring FillIn(std::wstring_view pattern, std::initializer_list<std::wstring_view> arguments);
+// The same with one.
 std::wstring FormatText(std::wstring_view pattern, std::wstring_view argument);
 
 }  // namespace xrpt

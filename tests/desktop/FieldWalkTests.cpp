@@ -9,10 +9,13 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "canvas/UndoTexts.h"
+#include "desktop/DialogTest.h"
 #include "desktop/TextIds.h"
 #include "desktop/WindowTest.h"
+#include "desktop/dialogs/StylesDialog.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/AlternativesEditor.h"
 #include "desktop/panels/ColorButton.h"
@@ -172,6 +175,41 @@ TEST_F(FieldWalk, EveryFieldOfAnAlternativeToo) {
     }
     Empty();
   }
+}
+
+// A card keeps its own angle; all else of a style reaches the cards that use it, as one step.
+TEST_F(FieldWalk, EveryFieldOfAStyleReachesItsFileAndTheCardsThatUseIt) {
+  auto label = std::make_unique<RVCardLabel>();
+  label->GetStyleFromFile(label->styleName = L"Loud");
+  Put(std::move(label));
+  StylesDialog dialog(&Window());
+  dialog.changed = [this](const std::vector<StyleRenaming>& renamings) { Frame().StylesModified(renamings); };
+  dialog.show();
+  auto& list = *dialog.findChild<QTreeWidget*>();
+  ForEachField(tagStyleCfg::Table(), [&](const FieldOf<tagStyleCfg>& row) {
+    SCOPED_TRACE(row.FullName());
+    const std::wstring before = row.text(ListStyles().front());
+    const std::string saved = Saved();
+    const std::size_t steps = Frame().History().DoneNames().size();
+    WhenOpen([&](QWidget& style) {
+      auto* widget = style.findChild<QWidget*>(QString::fromStdString(row.FullName()));
+      ASSERT_NE(widget, nullptr);
+      ASSERT_TRUE(Change(*widget));
+      QTest::keyClick(&style, Qt::Key_Return);
+    });
+    dialog.activateWindow();
+    list.setFocus();
+    list.setCurrentItem(list.topLevelItem(0));
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_NE(row.text(ListStyles().front()), before);
+    const bool isCardsOwn = row.panel.editor == FieldEditor::Angle;
+    EXPECT_EQ(Saved() == saved, isCardsOwn);
+    ASSERT_EQ(Frame().History().DoneNames().size(), isCardsOwn ? steps : steps + 1);
+    if (isCardsOwn) return;
+    Run("Undo");
+    EXPECT_EQ(Saved(), saved);
+    Run("Redo");
+  });
 }
 
 TEST_F(FieldWalk, EveryFieldOfThePage) {

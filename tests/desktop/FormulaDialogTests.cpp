@@ -243,11 +243,5 @@ TEST_F(FormulaDialogTest, DialogsOpenAsLargeAsTheyWereClosed) {
   Run("FormulesSetup");
 }
 
-TEST(DialogParts, PlacesAreFilledInTheirOrder) {
-  const TestHost host;
-  EXPECT_EQ(TranslatedWith(61923, {"a%d", "3", "b"}),
-            QStringLiteral("a%d is used in 3 texts. Shall they use b from now on?"));
-}
-
 }  // namespace
 }  // namespace xrpt

@@ -13,6 +13,8 @@
 #include "desktop/panels/MixedSpinBox.h"
 #include "desktop/panels/PropertyPanel.h"
 #include "desktop/panels/TypedNumber.h"
+#include "model/RVAnalogBar.h"
+#include "model/RVCardDate.h"
 
 namespace xrpt {
 namespace {
@@ -253,6 +255,35 @@ TEST_F(Panel, NumbersTakeCommaAndPointInEveryLanguage) {
     }
   }
   QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(Panel, AThresholdIsANumberOrNothing) {
+  auto bar = std::make_unique<RVAnalogBar>();
+  bar->id = L"B";
+  Page().Edit({0, 1}).Cards().PushFront(std::move(bar));
+  Settle();
+  Select({L"B"});
+  auto& threshold = Field<QLineEdit>("alarmMaxValue");
+  threshold.setFocus();
+  QTest::keyClicks(&threshold, QStringLiteral("1x2,5.7"));
+  EXPECT_EQ(threshold.text(), QStringLiteral("12.57"));
+  QTest::keyClick(&threshold, Qt::Key_Home);
+  QTest::keyClicks(&threshold, QStringLiteral("-a3"));
+  EXPECT_EQ(static_cast<const RVAnalogBar&>(Card(L"B")).alarmMaxValue, L"-312.57");
+}
+
+// A card that shows a value has a text in its file that nobody sees.
+TEST_F(Panel, OnlyWhatShowsItsTextOffersIt) {
+  Select({title_});
+  EXPECT_NE(Window().Properties().Find("text/textStr"), nullptr);
+  auto date = std::make_unique<RVCardDate>();
+  date->id = L"D";
+  Page().Edit({0, 1}).Cards().PushFront(std::move(date));
+  Settle();
+  Select({L"D"});
+  EXPECT_EQ(Window().Properties().Find("text/textStr"), nullptr);
+  Select({L"D", title_});
+  EXPECT_NE(Window().Properties().Find("text/textStr"), nullptr);
 }
 
 TEST_F(Panel, NumbersBeyondTheRangeComeToItsEnd) {

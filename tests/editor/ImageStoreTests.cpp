@@ -30,7 +30,7 @@ class OwnFormat final : public PictureService {
   }
 };
 
-class Hands final : public ImageStorePort {
+class Hands final : public DialogPort {
  public:
   std::size_t Decide(const Question& question) override {
     questions.push_back(question);

@@ -136,9 +136,9 @@ TEST_F(Properties, PeriodsAreWrittenAsWordsOrSeconds) {
                                                  {0, L"AUTO"},  {301, L"AUTO"},        {86400, L"86400"}};
   for (const auto& [item, text] : rows) EXPECT_EQ(PeriodText(item), text) << item;
   std::set<std::wstring> names;
-  for (const int item : PeriodItems()) names.insert(PeriodName(item));
+  for (const Word& item : PeriodItems()) names.insert(NameOf(item));
   EXPECT_EQ(names.size(), PeriodItems().size()) << "each by a name of its own";
-  EXPECT_EQ(PeriodName(1200), L"20 minutes");
+  EXPECT_EQ(NameOf(*WordOf(PeriodItems(), 1200)), L"20 minutes");
 }
 
 TEST_F(Properties, ControlsOfAGraphHangOnItsSeries) {

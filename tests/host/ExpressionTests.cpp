@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "platform/SampleData.h"
+#include "platform/Text.h"
 #include "support/FormulaDocument.h"
 #include "support/TestHost.h"
 

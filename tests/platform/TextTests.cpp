@@ -62,12 +62,13 @@ TEST(Names, StayOnePlainFileInTheirFolder) {
   }
 }
 
-TEST(Texts, TakeOneArgument) {
+TEST(Texts, TakeArguments) {
   const std::pair<const wchar_t*, const wchar_t*> rows[] = {
       {L"Page %d", L"Page 7"}, {L"%s", L"7"},         {L"%s and %d", L"7 and %d"}, {L"none", L"none"},
       {L"100 %", L"100 %"},    {L"50% %d", L"50% 7"}, {L"%n%d", L"%n7"},           {L"", L""}};
   for (const auto& [pattern, text] : rows) EXPECT_EQ(FormatText(pattern, L"7"), text) << pattern;
   EXPECT_EQ(FormatText(L"<%s>", L"%s%d"), L"<%s%d>");
+  EXPECT_EQ(FillIn(L"%s: %d of %d", {L"a%d", L"3"}), L"a%d: 3 of %d");
 }
 
 RC_GTEST_PROP(Base64Properties, BytesComeBackWhateverSpaceIsBetween, (const std::string& bytes)) {

@@ -2,9 +2,7 @@
 
 #include <QAction>
 #include <QDialog>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/DialogTexts.h"
@@ -32,26 +30,6 @@ QPushButton* ButtonFor(QAction& action, QWidget* parent) {
   QObject::connect(button, &QPushButton::clicked, &action, [&action] { action.trigger(); });
   QObject::connect(&action, &QAction::changed, button, [button, &action] { button->setEnabled(action.isEnabled()); });
   return button;
-}
-
-bool AskYesNo(QDialog& dialog, const QString& question, const QString& more) {
-  QMessageBox box(QMessageBox::Question, dialog.windowTitle(), question, QMessageBox::Yes | QMessageBox::No, &dialog);
-  box.setDefaultButton(QMessageBox::Yes);
-  box.setInformativeText(more);
-  return box.exec() == QMessageBox::Yes;
-}
-
-QString TranslatedWith(int textId, const QStringList& arguments) {
-  static const QRegularExpression kPlace(QStringLiteral("%[ds]"));
-  QString text = Translated(textId);
-  qsizetype from = 0;
-  for (const QString& argument : arguments) {
-    const QRegularExpressionMatch place = kPlace.match(text, from);
-    if (!place.hasMatch()) break;
-    text.replace(place.capturedStart(), place.capturedLength(), argument);
-    from = place.capturedStart() + argument.size();
-  }
-  return text;
 }
 
 QString TextOfPlace(const TextPlace& place, const TextOwner& owner) {

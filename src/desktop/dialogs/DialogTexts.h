@@ -21,6 +21,8 @@ inline constexpr int kGoBackTo = 61921;
 inline constexpr int kPresentValue = 61922;
 inline constexpr int kUpdateUses = 61923;  // name, count, new name
 inline constexpr int kRemoveUsed = 61924;  // name, count
+inline constexpr int kUpdateThem = 61925;
+inline constexpr int kLeaveThem = 61926;
 
 inline constexpr int kFindAndReplace = 61940;
 inline constexpr int kFindWhat = 61941;

@@ -9,6 +9,7 @@
 #include "desktop/look/Texts.h"
 #include "editor/ReportDifferences.h"
 #include "platform/FileTexts.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 namespace {
@@ -40,7 +41,8 @@ DifferencesDialog::DifferencesDialog(const Path& file, const RVReport& here, QWi
 void DifferencesDialog::AddList(const RVReport& onDisk, const RVReport& here) {
   auto* list = new QTreeWidget(this);
   list->setAccessibleName(Translated(text::kDifferences));
-  list->setHeaderLabels({Translated(text::kWhere), Translated(text::kOnDiskColumn), Translated(text::kHereColumn)});
+  list->setHeaderLabels(
+      {Translated(text::kPlaceColumn), Translated(text::kOnDiskColumn), Translated(text::kHereColumn)});
   list->header()->setAccessibleName(Translated(text::kDifferences));
   list->setRootIsDecorated(false);
   list->setAlternatingRowColors(true);

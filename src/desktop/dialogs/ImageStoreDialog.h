@@ -19,7 +19,7 @@ namespace xrpt {
 
 class PicturesModel;
 
-class ImageStoreDialog final : public QDialog, private ImageStorePort {
+class ImageStoreDialog final : public QDialog, private DialogPort {
  public:
   ImageStoreDialog(const RVReport& report, QWidget* parent);
 
@@ -33,7 +33,7 @@ class ImageStoreDialog final : public QDialog, private ImageStorePort {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  // ImageStorePort
+  // DialogPort
   std::size_t Decide(const Question& question) override;
   void TellFailure(const std::wstring& sentences) override;
 

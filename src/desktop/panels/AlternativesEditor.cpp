@@ -10,6 +10,7 @@
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/formulas/ExpressionEditor.h"
 #include "desktop/look/Texts.h"
+#include "desktop/panels/CameraRow.h"
 #include "desktop/panels/FieldForm.h"
 #include "desktop/panels/FieldServices.h"
 #include "desktop/panels/FieldUndo.h"
@@ -46,7 +47,9 @@ AlternativesEditor::AlternativesEditor(RVEditControlWnd& frame, const FieldServi
       shown_);
   items_ = new ItemsEditor(
       kPrefix, SelectedItems(frame, FieldsOf::Alternative), services, [this] { changed_(); }, shown_);
+  camera_ = new CameraRow(frame, shown_);
   inside->addWidget(form_);
+  inside->addWidget(camera_);
   inside->addWidget(items_);
 }
 
@@ -127,6 +130,7 @@ void AlternativesEditor::ShowShown() {
   if (!any) return;
   condition_->Show(alternatives_.Condition(shown));
   form_->Show(fields_.Fields());
+  camera_->Refresh();
   items_->Refresh();
 }
 

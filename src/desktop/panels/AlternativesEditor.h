@@ -13,6 +13,7 @@ class QListWidget;
 
 namespace xrpt {
 
+class CameraRow;
 class FieldEditorWidget;
 class FieldForm;
 class ItemsEditor;
@@ -55,6 +56,7 @@ class AlternativesEditor final : public QWidget {
   QWidget* shown_ = nullptr;
   std::unique_ptr<FieldEditorWidget> condition_;
   FieldForm* form_ = nullptr;
+  CameraRow* camera_ = nullptr;
   ItemsEditor* items_ = nullptr;
 };
 

@@ -6,18 +6,20 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "desktop/TextIds.h"
 #include "desktop/dialogs/PictureChooser.h"
+#include "desktop/dialogs/StyleDialog.h"
 #include "desktop/dialogs/VariableChooser.h"
 #include "desktop/dialogs/formulas/ExpressionEditor.h"
 #include "desktop/look/Texts.h"
 #include "desktop/panels/ChosenField.h"
 #include "desktop/panels/ColorButton.h"
 #include "desktop/panels/MixedSpinBox.h"
-#include "platform/NamedFiles.h"
+#include "editor/CProperties.h"
+#include "editor/TextStyles.h"
 #include "platform/Numbers.h"
-#include "platform/SystemNames.h"
 #include "platform/Text.h"
 
 namespace xrpt {
@@ -41,15 +43,40 @@ class EditorOf : public FieldEditorWidget {
   Edited edited_;
 };
 
-class TextEditor final : public EditorOf<QLineEdit> {
+class TextEditor : public EditorOf<QLineEdit> {
  public:
   TextEditor(Edited edited, QWidget* parent) : EditorOf(std::move(edited), parent) {
-    QObject::connect(control_, &QLineEdit::textEdited, control_, [this](const QString& text) { Tell(text); });
+    QObject::connect(control_, &QLineEdit::textEdited, control_, [this](const QString& typed) { Take(typed); });
   }
   void Show(const std::optional<std::wstring>& text) override {
     const QString shown = ToQString(text.value_or(L""));
     control_->setPlaceholderText(text ? QString() : Translated(text::kMixed));
     if (control_->text() != shown) control_->setText(shown);
+  }
+
+ private:
+  // What of it the field takes.
+  virtual QString Valid(const QString& typed) const { return typed; }
+  void Take(const QString& typed) {
+    const QString valid = Valid(typed);
+    const auto cursor = Valid(typed.left(control_->cursorPosition())).size();
+    if (valid != typed) {
+      control_->setText(valid);
+      control_->setCursorPosition(static_cast<int>(cursor));
+    }
+    Tell(valid);
+  }
+};
+
+// A number as text, or nothing at all. A comma is a point to whoever types one.
+class ThresholdEditor final : public TextEditor {
+ public:
+  using TextEditor::TextEditor;
+
+ private:
+  QString Valid(const QString& typed) const override {
+    QString number = typed;
+    return ToQString(CheckValidValue(number.replace(QLatin1Char(','), QLatin1Char('.')).toStdWString()));
   }
 };
 
@@ -134,6 +161,10 @@ class ColorEditor final : public EditorOf<ColorButton> {
   }
 };
 
+// Points: a list shows the style, not its size to the last point.
+constexpr double kLeastSample = 8.0;
+constexpr double kMostSample = 16.0;
+
 // Lists that change nothing when the wheel passes over them.
 class QuietComboBox final : public QComboBox {
  public:
@@ -152,15 +183,19 @@ class ChoiceEditor final : public EditorOf<QuietComboBox> {
                      [this](int index) { Tell(control_->itemData(index).toString()); });
   }
   void Add(const QString& label, const QString& text) { control_->addItem(label, text); }
+  // A style's name, written in its font.
+  void AddSample(const tagStyleCfg& style) {
+    const QString name = ToQString(style.name);
+    Add(name, name);
+    control_->setItemData(control_->count() - 1,
+                          ToolkitFont(style, std::clamp(style.font.size, kLeastSample, kMostSample)), Qt::FontRole);
+  }
   void Offer(std::span<const Word> words) override {
     if (words.empty() || words.data() == words_.data()) return;
     words_ = words;
     const QSignalBlocker quiet(control_);
     control_->clear();
-    for (const Word& word : words) {
-      const QString text = QString::fromLatin1(word.text);
-      Add(word.textId ? Translated(word.textId) : text, text);
-    }
+    for (const Word& word : words) Add(ToQString(NameOf(word)), QString::fromLatin1(word.text));
   }
   void OfferNames(std::span<const NamedValue> names) override {
     if (names.data() == names_.data() && names.size() == names_.size()) return;
@@ -221,10 +256,7 @@ class ChosenEditor final : public EditorOf<ChosenField> {
 std::unique_ptr<FieldEditorWidget> MakeStyle(FieldEditorWidget::Edited edited, QWidget* parent) {
   auto choice = std::make_unique<ChoiceEditor>(std::move(edited), parent);
   choice->Add(Translated(text::kNoStyle), QString());
-  for (const Path& file : CurrentHost().files->List(CurrentHost().setup->CfgPath(), kStyleEnding)) {
-    const QString name = ToQString(NameOfFile(file, kStyleEnding));
-    choice->Add(name, name);
-  }
+  for (const tagStyleCfg& style : ListStyles()) choice->AddSample(style);
   return choice;
 }
 
@@ -272,6 +304,8 @@ std::unique_ptr<FieldEditorWidget> MakeFieldEditor(const FieldRow& row, FieldEdi
       return MakeVariable(std::move(edited), parent);
     case FieldEditor::Picture:
       return MakePicture(std::move(edited), parent);
+    case FieldEditor::Threshold:
+      return std::make_unique<ThresholdEditor>(std::move(edited), parent);
     case FieldEditor::Expression:
       return MakeExpressionEditor(ExpressionKind::Numeric, std::move(edited), expressions, parent);
   }

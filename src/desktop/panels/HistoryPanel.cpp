@@ -32,9 +32,12 @@ void HistoryPanel::showEvent(QShowEvent* event) {
 
 void HistoryPanel::Refresh() {
   if (!isVisible()) return;
-  const QSignalBlocker quiet(list_);
   const std::vector<UndoName> done = frame_.History().DoneNames();
   const std::vector<UndoName> undone = frame_.History().UndoneNames();
+  if (list_->count() > 0 && done == done_ && undone == undone_) return;
+  done_ = done;
+  undone_ = undone;
+  const QSignalBlocker quiet(list_);
   list_->clear();
   list_->addItem(Translated(text::kHistoryBegin));
   for (const UndoName& name : done) list_->addItem(ToQString(UndoText(name)));
@@ -48,10 +51,10 @@ void HistoryPanel::Refresh() {
 
 void HistoryPanel::GoTo(int row) {
   if (beforeMove) beforeMove();
-  const auto wanted = static_cast<std::size_t>(std::max(row, 0));
-  while (frame_.History().DoneNames().size() > wanted && frame_.Undo()) {
+  auto steps = row - static_cast<int>(frame_.History().DoneNames().size());
+  for (; steps < 0 && frame_.Undo(); ++steps) {
   }
-  while (frame_.History().DoneNames().size() < wanted && frame_.Redo()) {
+  for (; steps > 0 && frame_.Redo(); --steps) {
   }
   if (moved) moved();
 }

@@ -4,6 +4,9 @@
 
 #include <QWidget>
 #include <functional>
+#include <vector>
+
+#include "canvas/RVUndo.h"
 
 class QListWidget;
 
@@ -29,6 +32,8 @@ class HistoryPanel final : public QWidget {
 
   RVEditControlWnd& frame_;
   QListWidget* list_;
+  std::vector<UndoName> done_;  // as listed
+  std::vector<UndoName> undone_;
 };
 
 }  // namespace xrpt

@@ -52,7 +52,7 @@ PagesModel::PagesModel(RVEditControlWnd& frame, QObject* parent)
 // Before it is painted, whichever way the page lies. All are of one size, so that lines are as high as each other.
 QVariant PagesModel::Picture(std::size_t page) const {
   const RVReportPage& shown = frame_.Page(page).Page();
-  const QPixmap picture = pictures_.Of(shown, frame_.History().Serial(), qApp->devicePixelRatio());
+  const QPixmap picture = pictures_.Of(shown, frame_.ResourcesSerial(), qApp->devicePixelRatio());
   QPixmap square(QSize(Thumbnails::kSide, Thumbnails::kSide) * qApp->devicePixelRatio());
   square.setDevicePixelRatio(qApp->devicePixelRatio());
   square.fill(Qt::transparent);

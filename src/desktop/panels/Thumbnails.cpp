@@ -61,14 +61,17 @@ Thumbnails::~Thumbnails() {
   worker_.waitForDone();
 }
 
-QPixmap Thumbnails::Of(const RVReportPage& page, std::uint64_t serial, double scale) {
+QPixmap Thumbnails::Of(const RVReportPage& page, std::uint64_t resources, double scale) {
   Entry& entry = entries_[&page];
-  const bool isSame = entry.id == page.properties.id && entry.serial == serial && entry.scale == scale;
-  const bool isHeavy = page.cards.Size() > kMostCards && !entry.picture.isNull() && entry.id == page.properties.id;
-  if (isSame || isHeavy) return entry.picture;
-  if (entry.id != page.properties.id) entry.picture = QPixmap();
+  const bool isOther = entry.id != page.properties.id;
+  if (page.cards.Size() > kMostCards && !entry.picture.isNull() && !isOther) return entry.picture;
+  const bool hasOtherCards = entry.state.SetChange(page.cards);
+  const bool hasOtherProperties = entry.state.SetChange(page.properties);
+  const bool isAsked = !isOther && entry.resources == resources && entry.scale == scale;
+  if (isAsked && !hasOtherCards && !hasOtherProperties) return entry.picture;
+  if (isOther) entry.picture = QPixmap();
   entry.id = page.properties.id;
-  entry.serial = serial;
+  entry.resources = resources;
   entry.scale = scale;
   Ask(page, scale);
   return entry.picture;

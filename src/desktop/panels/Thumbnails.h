@@ -10,6 +10,8 @@
 #include <map>
 #include <string>
 
+#include "canvas/RVUndo.h"
+
 namespace xrpt {
 
 class RVReportPage;
@@ -21,15 +23,17 @@ class Thumbnails final : public QObject {
   explicit Thumbnails(QObject* parent);
   ~Thumbnails() override;
 
-  // The picture as it was painted last; one of another state, told by its serial, is asked for. Null before the first.
-  QPixmap Of(const RVReportPage& page, std::uint64_t serial, double scale);
+  // The picture as it was painted last; a new one is asked for when the page has changed since, or what all pages share
+  // (`resources` counts that). Null before the first.
+  QPixmap Of(const RVReportPage& page, std::uint64_t resources, double scale);
 
   std::function<void()> painted;
 
  private:
   struct Entry {
     std::wstring id;  // of its page: another may come to stand at its address
-    std::uint64_t serial = 0;
+    RVUndo state;     // of the page when it was asked for
+    std::uint64_t resources = 0;
     double scale = 0.0;
     QPixmap picture;
   };

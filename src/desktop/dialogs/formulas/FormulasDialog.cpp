@@ -13,6 +13,7 @@
 #include "desktop/dialogs/DialogTexts.h"
 #include "desktop/dialogs/formulas/FormulaDialog.h"
 #include "desktop/dialogs/formulas/FormulaModel.h"
+#include "desktop/dialogs/formulas/UseQuestions.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "editor/RVEditControlWnd.h"
@@ -141,7 +142,7 @@ bool FormulasDialog::EditFormule(CDlgNewFormule& formula) {
 }
 
 bool FormulasDialog::AskUpdateUses(const std::wstring& from, const std::wstring& to, std::size_t uses) {
-  return AskYesNo(*this, TranslatedWith(text::kUpdateUses, {ToQString(from), QString::number(uses), ToQString(to)}));
+  return AskToUpdateUses(from, to, uses, this);
 }
 
 void FormulasDialog::ShowMessage(int textId) { QMessageBox::warning(this, windowTitle(), Translated(textId)); }

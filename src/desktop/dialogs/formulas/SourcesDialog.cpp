@@ -12,6 +12,7 @@
 #include "desktop/dialogs/DialogParts.h"
 #include "desktop/dialogs/DialogSize.h"
 #include "desktop/dialogs/DialogTexts.h"
+#include "desktop/dialogs/formulas/UseQuestions.h"
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "editor/RVEditControlWnd.h"
@@ -130,7 +131,7 @@ std::optional<std::wstring> SourcesDialog::AskIdentification(int promptText, int
 void SourcesDialog::ShowMessage(int textId) { QMessageBox::warning(this, windowTitle(), Translated(textId)); }
 
 bool SourcesDialog::AskUpdateUses(const std::wstring& from, const std::wstring& to, std::size_t uses) {
-  return AskYesNo(*this, TranslatedWith(text::kUpdateUses, {ToQString(from), QString::number(uses), ToQString(to)}));
+  return AskToUpdateUses(from, to, uses, this);
 }
 
 // The first of the places that use it, as the report has them now.
@@ -147,7 +148,7 @@ QString SourcesDialog::UsersOf(const std::wstring& id) const {
 }
 
 bool SourcesDialog::AskDeleteUsed(const std::wstring& id, std::size_t uses) {
-  return AskYesNo(*this, TranslatedWith(text::kRemoveUsed, {ToQString(id), QString::number(uses)}), UsersOf(id));
+  return AskToRemoveUsed(id, uses, UsersOf(id).toStdWString(), this);
 }
 
 bool EditSources(RVEditControlWnd& frame, QWidget* parent) {

@@ -19,6 +19,7 @@
 #include "desktop/dialogs/search/MatchModel.h"
 #include "desktop/look/Texts.h"
 #include "editor/RVEditControlWnd.h"
+#include "platform/Text.h"
 
 namespace xrpt {
 
@@ -191,9 +192,9 @@ void SearchDialog::ShowState() {
   if (!said_.isEmpty()) return state_->setText(said_);
   if (search_.text.empty()) return state_->clear();
   if (count == 0) return state_->setText(Translated(text::kTextNotFound));
-  const QString total = QString::number(count);
-  if (hit) return state_->setText(TranslatedWith(text::kMatchOf, {QString::number(*hit + 1), total}));
-  state_->setText(count == 1 ? Translated(text::kOneMatch) : TranslatedWith(text::kMatchCount, {total}));
+  const std::wstring total = std::to_wstring(count);
+  if (hit) return state_->setText(ToQString(FillIn(HostText(text::kMatchOf), {std::to_wstring(*hit + 1), total})));
+  state_->setText(count == 1 ? Translated(text::kOneMatch) : Translated(text::kMatchCount, ToQString(total)));
 }
 
 void SearchDialog::Arrived() {
@@ -240,7 +241,7 @@ void SearchDialog::ReplaceAll() {
   if (idle_->isActive()) SearchAnew();
   const std::vector<TextChange> chosen = model_->ChosenChanges();
   const std::size_t replaced = search_.ReplaceAll(chosen);
-  said_ = TranslatedWith(text::kReplacedCount, {QString::number(replaced)});
+  said_ = Translated(text::kReplacedCount, QString::number(replaced));
   FillList();
 }
 
