@@ -56,7 +56,7 @@ struct LateImage : PageImage {
 
 class ArrivingPictures : public WindowTest {
  protected:
-  static constexpr std::chrono::seconds kPatience{20};
+  static constexpr std::chrono::seconds kPatience{60};
 
   ArrivingPictures() {
     auto gated = std::make_unique<GatedPictures>();

@@ -66,10 +66,10 @@ class PageViewTest : public WindowTest {
   // Millimetres on the page under a pixel of the view.
   PointD Under(QPoint at) {
     const PagePlacement place = Page().Placement();
-    return {
-      (at.x() - place.offsetX) * place.PixelWidth(), (at.y() - place.offsetY) * place.PixelHeight() CardNotes notes;
-    };
+    return {(at.x() - place.offsetX) * place.PixelWidth(), (at.y() - place.offsetY) * place.PixelHeight()};
   }
+
+  CardNotes notes;
 };
 
 TEST_F(PageViewTest, FramesMarchWithoutPaintingThePageAgain) {
