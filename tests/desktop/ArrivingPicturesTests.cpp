@@ -212,7 +212,7 @@ TEST_F(ArrivingPictures, TheViewShowsThem) {
   const QRgb expected = AtOnce().pixel(at);
   EXPECT_NE(before, expected);
   gate->Open(true);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == expected; }, 20'000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == expected; }, 60'000));
 }
 
 }  // namespace
