@@ -39,12 +39,14 @@ std::unique_ptr<RVCardControl> NewCard(std::size_t i) {
 void Desk::Fill(std::size_t count) {
   for (std::size_t page = 0; page < 2; ++page) Editor().AddPage();
   Editor().ShowPage(kPage);
+  Editor().CurrentPage().SetNotes(&notes_, [] {});
   PageEdit edit = Editor().CurrentPage().Edit({text::kInsert, 1});
   for (std::size_t i = 0; i < count; ++i) edit.Cards().PushBack(NewCard(i));
 }
 
 void Desk::Begin(std::size_t share) {
   Editor().ShowPage(kPage);
+  notes_ = CardNotes();
   std::vector<std::size_t> places;
   for (std::size_t at = 0; at < Editor().CurrentPage().Page().cards.Size(); at += share) places.push_back(at);
   Editor().CurrentPage().SelectPlaces(places);
@@ -77,6 +79,10 @@ void LoseAll(Frame& frame) {
 
 void CopySome(Frame& frame) { frame.CurrentPage().ControlCopy(); }
 
+std::function<void(Frame&)> Do(const char* command) {
+  return [command](Frame& frame) { RunCommand(frame, *FindCommand(command)); };
+}
+
 Row RowOf(const Command& command) {
   Row row{command.name, [&command](Frame& frame) {
             if (!RunCommand(frame, command)) std::printf("  %s does nothing\n", command.name);
@@ -92,6 +98,9 @@ Row RowOf(const Command& command) {
     row.share = kForClipboard;
     row.prepare = CopySome;
   }
+  if (name == "UnlockAll") row.prepare = Do("Lock");
+  if (name == "ShowAll") row.prepare = Do("HideCards");
+  if (name == "Ungroup") row.prepare = Do("Group");
   // Portrait first, so that there is something to turn.
   if (name == "Portrait") row.prepare = [](Frame& frame) { frame.SetOrientation(0); };
   return row;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "canvas/CardNotes.h"
 #include "editor/RVEditControlWnd.h"
 
 namespace xrpt {
@@ -17,7 +18,7 @@ class Desk {
   // Everything that a deed posted and marked to be painted is done.
   virtual void Settle() { Editor().Queue().Drain(); }
 
-  // One card in `share` is selected.
+  // One card in `share` is selected, and none is locked, hidden or grouped.
   void Begin(std::size_t share);
   // Of the work and all that follows from it, milliseconds.
   double Cost(const std::function<void()>& work);
@@ -25,6 +26,9 @@ class Desk {
  protected:
   // Makes the pages and the cards.
   void Fill(std::size_t count);
+
+ private:
+  CardNotes notes_;  // of the page: what is locked, hidden and grouped
 };
 
 // Prints what everything costs on desks of each count of cards; false when something grows too fast or takes too long.

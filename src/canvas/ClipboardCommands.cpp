@@ -80,10 +80,11 @@ bool RVEditTemplateWnd::PasteShifted(double dx, double dy) {
     Shift(card->x, card->width, dx, page_.properties.width);
     Shift(card->y, card->height, dy, page_.properties.height);
     selection_.AddSelection(*card);
-    edit.Cards().PushFront(std::move(card));
   }
+  const bool hasCards = !cards.empty();
+  edit.Cards().PushFront(std::move(cards));
   edit.EndQuietly();
-  if (!cards.empty()) PostChange(false);
+  if (hasCards) PostChange(false);
   StartTimer();
   return true;
 }

@@ -40,7 +40,9 @@ void RVEditTemplateWnd::InsertCopies(std::vector<std::size_t> indexes, std::vect
   ClearSelection();
   for (const std::size_t i : order) selection_.AddSelection(*copies[i]);
   std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return indexes[a] > indexes[b]; });
-  for (const std::size_t i : order) edit.Cards().PushFront(std::move(copies[i]));
+  std::vector<std::unique_ptr<RVCardControl>> stacked;
+  for (const std::size_t i : order) stacked.push_back(std::move(copies[i]));
+  edit.Cards().PushFront(std::move(stacked));
   edit.EndQuietly();
 }
 

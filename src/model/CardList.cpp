@@ -60,6 +60,14 @@ RVCardControl& CardList::PushFront(std::unique_ptr<RVCardControl> card) {
   return **cards_.insert(cards_.begin(), CardPtr(std::move(card)));
 }
 
+void CardList::PushFront(std::vector<std::unique_ptr<RVCardControl>> cards) {
+  std::vector<CardPtr> all;
+  all.reserve(cards.size() + cards_.size());
+  std::move(cards.rbegin(), cards.rend(), std::back_inserter(all));
+  std::move(cards_.begin(), cards_.end(), std::back_inserter(all));
+  cards_ = std::move(all);
+}
+
 RVCardControl& CardList::PushBack(std::unique_ptr<RVCardControl> card) { return *cards_.emplace_back(std::move(card)); }
 
 void CardList::Remove(std::vector<std::size_t> indexes) {
@@ -84,6 +92,7 @@ void CardList::MoveToFront(const std::vector<std::size_t>& indexes) {
 
 void CardList::MoveToBack(const std::vector<std::size_t>& indexes) {
   std::vector<CardPtr> moved = TakeOut(indexes);
+  cards_.reserve(cards_.size() + moved.size());
   cards_.insert(cards_.end(), std::make_move_iterator(moved.begin()), std::make_move_iterator(moved.end()));
 }
 

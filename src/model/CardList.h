@@ -74,6 +74,8 @@ class CardList {
   RVCardControl* Edit(std::wstring_view id);
 
   RVCardControl& PushFront(std::unique_ptr<RVCardControl> card);
+  // One after the other, so that the last ends foremost; in one pass.
+  void PushFront(std::vector<std::unique_ptr<RVCardControl>> cards);
   RVCardControl& PushBack(std::unique_ptr<RVCardControl> card);
   void Remove(std::vector<std::size_t> indexes);
   // Puts cards before or behind all others, in one pass; the last of them ends outermost.

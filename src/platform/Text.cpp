@@ -60,6 +60,25 @@ bool IsAsciiWord(std::string_view bytes, std::size_t at) {
   return (word & 0x8080808080808080ull) == 0;
 }
 
+// The same of more of them at once.
+constexpr std::size_t kAsciiBlock = 64;
+bool IsAsciiBlock(std::string_view bytes, std::size_t at) {
+  if (at + kAsciiBlock > bytes.size()) return false;
+  std::array<std::uint64_t, kAsciiBlock / 8> words;
+  std::memcpy(words.data(), bytes.data() + at, kAsciiBlock);
+  std::uint64_t all = 0;
+  for (const std::uint64_t word : words) all |= word;
+  return (all & 0x8080808080808080ull) == 0;
+}
+
+// To the next byte that is not ASCII, or the end.
+std::size_t SkipAscii(std::string_view bytes, std::size_t at) {
+  while (IsAsciiBlock(bytes, at)) at += kAsciiBlock;
+  while (IsAsciiWord(bytes, at)) at += 8;
+  while (at < bytes.size() && IsAscii(bytes[at])) ++at;
+  return at;
+}
+
 bool IsSafeCharacter(wchar_t c) { return c >= 0x20 && c != L'/' && c != L'\\' && c != L':' && c != 0x7F; }
 
 }  // namespace
@@ -120,14 +139,10 @@ std::string ToUtf8(std::wstring_view text) {
 }
 
 std::size_t FindInvalidUtf8(std::string_view bytes) {
-  for (std::size_t at = 0; at < bytes.size();) {
-    if (IsAsciiWord(bytes, at)) {
-      at += 8;
-      continue;
-    }
+  for (std::size_t at = SkipAscii(bytes, 0); at < bytes.size();) {
     const Decoded one = DecodeOne(bytes, at);
     if (!one.valid) return at;
-    at += one.length;
+    at = SkipAscii(bytes, at + one.length);
   }
   return std::string_view::npos;
 }

@@ -8,6 +8,7 @@
 
 #include "platform/Host.h"
 #include "platform/Text.h"
+#include "platform/XmlDepth.h"
 #include "platform/XmlTree.h"
 #include "platform/XmlWriter.h"
 
@@ -45,16 +46,16 @@ pugi::xml_node SkipToElement(pugi::xml_node node) {
   }
 }
 
-// Most names differ in their first letter.
+// Most names differ in their first letter. Only elements have one.
 bool HasName(const pugi::xml_node& node, std::string_view tag) {
   const char* name = node.name();
-  if (!tag.empty() && *name != tag.front()) return false;
+  if (tag.empty() || *name != tag.front()) return false;
   return std::strncmp(name, tag.data(), tag.size()) == 0 && name[tag.size()] == '\0';
 }
 
 pugi::xml_node ElementNamed(const pugi::xml_node& parent, std::string_view tag) {
-  pugi::xml_node child = SkipToElement(parent.first_child());
-  while (child && !HasName(child, tag)) child = SkipToElement(child.next_sibling());
+  pugi::xml_node child = parent.first_child();
+  while (Unwrap(child) && !HasName(child, tag)) child = child.next_sibling();
   return child;
 }
 
@@ -70,12 +71,11 @@ XmlError CheckBytes(std::string_view text) {
   return bad == std::string_view::npos ? XmlError{} : XmlError{"a byte that is not UTF-8", bad};
 }
 
-XmlError CheckTree(pugi::xml_document& document) {
+XmlError CheckRoots(pugi::xml_document& document) {
   int roots = 0;
   for (const pugi::xml_node& node : document.children()) roots += IsElement(node) ? 1 : 0;
   if (roots == 0) return {"no root element", 0};
   if (roots > 1) return {"more than one root element", 0};
-  if (IsTooDeep(document)) return {XmlDocument::kTooDeep, 0};
   return {};
 }
 
@@ -297,10 +297,12 @@ bool XmlDocument::Parse(std::string text, XmlError* error) {
   XmlError fault = CheckBytes(text);
   if (fault.message.empty()) {
     impl_->buffer = std::move(text);
+    const bool isShallow = IsSurelyShallow(impl_->buffer);
     const pugi::xml_parse_result result =
         impl_->document.load_buffer_inplace(impl_->buffer.data(), impl_->buffer.size(), kParseFlags);
     fault =
-        result ? CheckTree(impl_->document) : XmlError{result.description(), static_cast<std::size_t>(result.offset)};
+        result ? CheckRoots(impl_->document) : XmlError{result.description(), static_cast<std::size_t>(result.offset)};
+    if (fault.message.empty() && !isShallow && IsTooDeep(impl_->document)) fault = {kTooDeep, 0};
   }
   if (fault.message.empty()) return true;
   impl_ = std::make_unique<Impl>();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Text.h"
+#include "platform/XmlDepth.h"
 #include "platform/XmlTree.h"
 
 namespace xrpt {
@@ -61,8 +62,9 @@ class StretchReader {
       if (!ReadEntered(level, to)) return false;
       if (endTag.start < at_) endTag = {};  // it was inside what has just been read
       const std::size_t stop = std::min({text_.size(), at_ + size, endTag.start});
+      const bool isShallow = IsSurelyShallow(text_.substr(at_, stop - at_), level);
       const bool isWhole = Parse(stop);
-      if (IsTooDeep(tree_, level)) return false;
+      if (!isShallow && IsTooDeep(tree_, level)) return false;
       if (isWhole && stop == endTag.start) {
         VisitUpTo({}, to);
         to.End();

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
 #include <QTimer>
+#include <stdexcept>
 
 #include "WindowTest.h"
+#include "desktop/look/Texts.h"
 
 namespace xrpt {
 
@@ -21,6 +24,13 @@ inline void WhenOpen(std::function<void(QWidget&)> act) {
     act(*opened);
   });
   waiting->start();
+}
+
+inline QPushButton& Button(QWidget& within, int textId) {
+  for (auto* button : within.findChildren<QPushButton*>()) {
+    if (button->text() == Translated(textId)) return *button;
+  }
+  throw std::out_of_range("no such button");
 }
 
 class DialogTest : public WindowTest {

@@ -31,12 +31,6 @@ class ImageStoreWindow : public WindowTest {
     image.fill(Qt::blue);
     return image;
   }
-  static QPushButton& Button(QWidget& dialog, int textId) {
-    for (auto* button : dialog.findChildren<QPushButton*>()) {
-      if (button->text() == Translated(textId)) return *button;
-    }
-    throw std::out_of_range("no such button");
-  }
   // The folders are a list, too.
   static QListView& Pictures(const ImageStoreDialog& dialog) {
     for (auto* view : dialog.findChildren<QListView*>()) {

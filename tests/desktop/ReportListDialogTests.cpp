@@ -42,12 +42,6 @@ class ReportListWindow : public WindowTest {
     });
     return ReportListDialog::Choose(current, {}, &Window());
   }
-  static QPushButton& Button(QWidget& dialog, int textId) {
-    for (auto* button : dialog.findChildren<QPushButton*>()) {
-      if (button->text() == Translated(textId)) return *button;
-    }
-    throw std::out_of_range("no such button");
-  }
   std::vector<std::string> Shown() const {
     std::vector<std::string> names;
     for (int row = 0; row < list_->topLevelItemCount(); ++row) {

@@ -8,8 +8,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "desktop/DialogTest.h"
 #include "desktop/TextIds.h"
-#include "desktop/WindowTest.h"
 #include "desktop/dialogs/StyleDialog.h"
 #include "desktop/dialogs/StylesDialog.h"
 #include "desktop/look/Texts.h"
@@ -31,16 +31,6 @@ class StylesWindow : public WindowTest {
     ASSERT_TRUE(SaveStyle(style, {}));
   }
   static QTreeWidget& List(StylesDialog& dialog) { return *dialog.findChild<QTreeWidget*>(); }
-  static QPushButton& Button(QWidget& dialog, int textId) {
-    for (auto* button : dialog.findChildren<QPushButton*>()) {
-      if (button->text() == Translated(textId)) return *button;
-    }
-    throw std::out_of_range("no such button");
-  }
-  // What is done to the dialog that opens next.
-  static void WhenOpen(std::function<void(QWidget&)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] { act(*QApplication::activeModalWidget()); });
-  }
 };
 
 TEST_F(StylesWindow, StylesAreMadeChangedAndReachTheOpenReport) {

@@ -34,6 +34,10 @@ TEST(Utf8, WhatIsNoneIsReplacedAndFound) {
       {"\xE2\x82zz", 0, L"\xFFFDzz"},     {"caf\xC3\xA9 \xF0\x9F\x98\x80", std::string::npos, L"caf\xE9 \x1F600"}};
   for (const auto& row : rows) {
     EXPECT_EQ(FindInvalidUtf8(row.bytes), row.fault) << row.bytes;
+    for (const std::size_t before : {61u, 64u, 130u}) {
+      const std::size_t fault = row.fault == std::string::npos ? row.fault : row.fault + before;
+      EXPECT_EQ(FindInvalidUtf8(std::string(before, 'a') + row.bytes), fault) << row.bytes;
+    }
     EXPECT_EQ(FromUtf8(row.bytes), row.read) << row.bytes;
   }
   EXPECT_EQ(ToUtf8(std::wstring{L'a', static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000)}),

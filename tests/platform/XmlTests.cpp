@@ -143,6 +143,23 @@ TEST(Xml, DepthIsBoundedToTheElement) {
   EXPECT_FALSE(XmlDocument().Parse(Nested(1'000'000)));
 }
 
+// End tags that are none hide no depth, nor do many elements without an end tag make any.
+TEST(Xml, DepthIsToldWhateverLooksLikeTags) {
+  std::string ends;
+  for (int i = 0; i < 400; ++i) ends += "</a>";
+  for (const std::string& hiding :
+       {"<b c=\"" + ends + "\"/>", "<b c = \t'" + ends + "'></b>", "<!--" + ends + "-->", "<![CDATA[" + ends + "]]>",
+        "<?b " + ends + "?>", "x=1 == <b c=\n\"" + ends + "\"/>"}) {
+    EXPECT_FALSE(XmlDocument().Parse("<r>" + hiding + Nested(XmlDocument::kMaxDepth) + "</r>")) << hiding.substr(0, 12);
+    EXPECT_TRUE(XmlDocument().Parse("<r>" + hiding + Nested(XmlDocument::kMaxDepth - 1) + "</r>"))
+        << hiding.substr(0, 12);
+  }
+  std::string empty;
+  for (int i = 0; i < 1000; ++i) empty += "<b/>";
+  EXPECT_TRUE(XmlDocument().Parse("<r>" + empty + Nested(XmlDocument::kMaxDepth - 1) + "</r>"));
+  EXPECT_FALSE(XmlDocument().Parse("<?xml version=\"1.0\"?><r>/>/>" + Nested(XmlDocument::kMaxDepth) + "</r>"));
+}
+
 TEST(Xml, OtherEncodingsAreConverted) {
   EXPECT_EQ(Parsed("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>caf\xE9</a>").Root().Value(), L"caf\xE9");
   std::string wide("\xFF\xFE", 2);

@@ -1,8 +1,9 @@
 #include "desktop/panels/CameraRow.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
+#include <utility>
 
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
@@ -14,32 +15,25 @@ CameraRow::CameraRow(RVEditControlWnd& frame, QWidget* parent)
       picture_(frame),
       fetch_(new QPushButton(Translated(text::kFetchPicture), this)),
       said_(new QLabel(this)) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(4);
-  column->addWidget(fetch_, 0, Qt::AlignLeft);
-  column->addWidget(said_);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 6, 0, 0);
+  row->addWidget(fetch_, 0, Qt::AlignTop);
+  row->addWidget(said_, 1);
   said_->setObjectName(QStringLiteral("muted"));
   said_->setWordWrap(true);
-  said_->hide();
   connect(fetch_, &QPushButton::clicked, this, [this] { Fetch(); });
 }
 
 void CameraRow::Refresh() { setVisible(picture_.IsMeant()); }
 
-// One at a time: the button waits for the answer.
+// One at a time. The button stays what it is meanwhile: a disabled one would lose the keyboard.
 void CameraRow::Fetch() {
-  fetch_->setEnabled(false);
-  Tell(Translated(text::kFetchingPicture));
+  if (std::exchange(isFetching_, true)) return;
+  said_->setText(Translated(text::kFetchingPicture));
   picture_.Refresh([this](const std::wstring& problem) {
-    fetch_->setEnabled(true);
-    Tell(ToQString(problem));
+    isFetching_ = false;
+    said_->setText(ToQString(problem));
   });
-}
-
-void CameraRow::Tell(const QString& said) {
-  said_->setText(said);
-  said_->setVisible(!said.isEmpty());
 }
 
 }  // namespace xrpt

@@ -19,11 +19,11 @@ class CameraRow final : public QWidget {
 
  private:
   void Fetch();
-  void Tell(const QString& said);
 
   CameraPicture picture_;
   QPushButton* fetch_;
   QLabel* said_;
+  bool isFetching_ = false;
 };
 
 }  // namespace xrpt
