@@ -5,7 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build ccache mold zlib1g-dev libpugixml-dev libc
   qt6-image-formats-plugins qt6-translations-l10n fontconfig fonts-liberation fonts-dejavu-core"
 # What only the tests need.
 TEST_PACKAGES="libgtest-dev libgmock-dev librapidcheck-dev libmuparser-dev libbenchmark-dev libxml2-utils xvfb xdotool openbox
-  poppler-utils python3"
+  poppler-utils python3 python3-gi python3-xlib gir1.2-atspi-2.0 at-spi2-core dbus-daemon"
 # What only CI needs.
 CI_PACKAGES="clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14"
 

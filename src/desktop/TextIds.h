@@ -193,6 +193,10 @@ inline constexpr int kGestureFine = 62653;
 inline constexpr int kGestureFineKeys = 62654;
 inline constexpr int kGestureFree = 62655;
 inline constexpr int kGestureFreeKeys = 62656;
+inline constexpr int kHideInList = 62680;
+inline constexpr int kShowInList = 62681;
+inline constexpr int kLockInList = 62682;
+inline constexpr int kUnlockInList = 62683;
 
 // The system's own.
 inline constexpr int kCancel = 380;

@@ -1,11 +1,13 @@
 // The lists of pages and cards: what is chosen there is selected on the page, and the other way round.
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
 #include <QPixmap>
 
 #include "desktop/WindowTest.h"
+#include "desktop/panels/CardMarks.h"
 #include "desktop/panels/Outline.h"
 
 namespace xrpt {
@@ -143,6 +145,45 @@ TEST_F(OutlineTest, ACardMayHaveANameOfItsOwn) {
   Run("UnlockAll");
   Run("ShowAll");
   EXPECT_EQ(cards.index(1, 0).data().toString(), plain);
+}
+
+TEST_F(OutlineTest, EyeAndPadlockStandInTheLine) {
+  Frame().RememberIn(host.Cfg() / "notes");
+  const auto click = [this](QRect (*button)(const QRect&)) {
+    const QPoint at = button(Cards().visualRect(Cards().model()->index(1, 0))).center();
+    QTest::mouseClick(Cards().viewport(), Qt::LeftButton, {}, at);
+    Settle();
+  };
+  const auto note = [this] { return Page().NoteOf(Page().Page().cards[1]); };
+  click(&CardMarks::LockButton);
+  EXPECT_TRUE(note().locked);
+  EXPECT_FALSE(note().hidden);
+  click(&CardMarks::HideButton);
+  EXPECT_TRUE(note().hidden);
+  EXPECT_THAT(Selected(), IsEmpty()) << "what cannot be seen is not selected";
+  click(&CardMarks::HideButton);
+  click(&CardMarks::LockButton);
+  EXPECT_TRUE(note().IsEmpty());
+  EXPECT_THAT(Selected(), ElementsAre(1));
+  EXPECT_FALSE(Cards().findChild<QLineEdit*>()) << "no name is being edited";
+  EXPECT_FALSE(Frame().IsModified());
+  // Elsewhere in the line a click chooses, as ever.
+  ClickLine(Cards(), 1);
+  EXPECT_TRUE(note().IsEmpty());
+}
+
+TEST_F(OutlineTest, PageKeysTurnPagesAndWithShiftMoveThem) {
+  const std::wstring first = Page().Page().properties.id;
+  View().setFocus();
+  Key(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(Frame().CurrentPageIndex(), 1u);
+  EXPECT_FALSE(Frame().IsModified());
+  Key(Qt::Key_PageUp, Qt::ControlModifier);
+  ASSERT_EQ(Page().Page().properties.id, first);
+  Key(Qt::Key_PageDown, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Frame().Page(1).Page().properties.id, first);
+  Key(Qt::Key_PageUp, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Frame().Page(0).Page().properties.id, first);
 }
 
 TEST_F(OutlineTest, ChosenCardsComeIntoSight) {

@@ -89,7 +89,9 @@ void ColorButton::OpenMenu() {
   menu.addAction(SwatchPixmap(kNoColor, devicePixelRatioF()), Translated(text::kNoColor), this,
                  [this] { Choose(xrpt::kNoColor); });
   menu.addAction(Translated(text::kOtherColor), this, [this] { ChooseOther(); });
+  setDown(true);  // as long as its menu is open, as buttons with menus are
   menu.exec(mapToGlobal(QPoint(0, height())));
+  setDown(false);
 }
 
 void ColorButton::AddBoard(QMenu& menu, std::span<const Color> colors) {

@@ -48,6 +48,12 @@ void FitHeight(QListWidget& list) {
   const int lines = std::clamp(list.count(), kFewestLines, kMostLines);
   const int line = list.count() > 0 ? list.sizeHintForRow(0) : list.fontMetrics().height();
   list.setFixedHeight(lines * line + 2 * list.frameWidth() + 2);
+  // A long line is cut and told by its tip; a scroll bar would lie over the last line.
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  for (int row = 0; row < list.count(); ++row) {
+    list.item(row)->setSizeHint({1, line});
+    list.item(row)->setToolTip(list.item(row)->text());
+  }
 }
 
 }  // namespace xrpt

@@ -11,6 +11,7 @@
 #include "desktop/look/Icons.h"
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
+#include "desktop/panels/CardMarks.h"
 #include "editor/RVEditControlWnd.h"
 #include "editor/SelectedFields.h"
 
@@ -112,6 +113,7 @@ QVariant CardsModel::data(const QModelIndex& index, int role) const {
   const QString name = ToQString(note.name.empty() ? CardCaption(cards[at]) : note.name);
   if (role == Qt::EditRole) return name;
   if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return WithState(name, note);
+  if (role == CardMarks::kNoteRole) return CardMarks::Code(note);
   if (role == Qt::ForegroundRole && note.hidden) return CurrentTheme().muted;
   if (role == Qt::DecorationRole) return ThemedIcon(CardIconName(cards[at].GetRuntimeClass().tag));
   return {};
@@ -178,6 +180,7 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   };
   pages_->setIconSize({Thumbnails::kSide, Thumbnails::kSide});
   cards_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  AddMarks();
   split->addWidget(pages_);
   split->addWidget(cards_);
   split->setSizes({260, 340});
@@ -188,6 +191,19 @@ Outline::Outline(RVEditControlWnd& frame, QWidget* parent)
   connect(cards_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (!isFilling_ && cardsChosen) TellCards();
   });
+}
+
+void Outline::AddMarks() {
+  auto* marks = new CardMarks(*cards_);
+  cards_->setItemDelegate(marks);
+  marks->hidden = [this](std::size_t card, bool on) {
+    frame_.CurrentPage().SelectPlaces({card});
+    on ? frame_.CurrentPage().HideSelected() : frame_.CurrentPage().HideCard(card, false);
+  };
+  marks->locked = [this](std::size_t card, bool on) {
+    frame_.CurrentPage().SelectPlaces({card});
+    frame_.CurrentPage().LockSelected(on);
+  };
 }
 
 QListView* Outline::MakeList(DraggedRows* model, int nameTextId, std::function<void(QPoint)> Outline::*menuWanted) {

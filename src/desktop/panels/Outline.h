@@ -72,6 +72,7 @@ class Outline final : public QWidget {
 
  private:
   QListView* MakeList(DraggedRows* model, int nameTextId, std::function<void(QPoint)> Outline::*menuWanted);
+  void AddMarks();
   void TellCards();
   void ShowSelection();
 

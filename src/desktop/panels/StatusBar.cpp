@@ -22,6 +22,12 @@ QLabel* MakeLabel(QWidget* parent, int nameTextId, int characters) {
   return label;
 }
 
+// The label's name says what it is about; what it says is its description, for those who hear it.
+void Say(QLabel& label, const QString& text) {
+  label.setText(text);
+  label.setAccessibleDescription(text);
+}
+
 int PlainWidth(const QWidget& part) { return std::max(part.minimumWidth(), part.minimumSizeHint().width()); }
 
 }  // namespace
@@ -83,24 +89,23 @@ void StatusBar::resizeEvent(QResizeEvent* event) {
 }
 
 void StatusBar::SetPointer(std::optional<PointD> position) {
-  pointer_->setText(position ? QStringLiteral("%1 · %2 mm")
-                                   .arg(locale().toString(position->x, 'f', 1), locale().toString(position->y, 'f', 1))
-                             : QString());
+  const auto number = [this](double value) { return locale().toString(value, 'f', 1); };
+  Say(*pointer_, position ? QStringLiteral("%1 · %2 mm").arg(number(position->x), number(position->y)) : QString());
 }
 
 void StatusBar::SetSelection(int count, const RectD& area) {
-  if (count == 0) return selection_->clear();
+  if (count == 0) return Say(*selection_, {});
   const auto number = [this](double value) { return locale().toString(value, 'f', 2); };
   const QString place = QStringLiteral("X %1  Y %2   %3 × %4 mm")
                             .arg(number(area.left), number(area.top), number(area.Width()), number(area.Height()));
-  selection_->setText(
-      count == 1 ? place : Translated(text::kSelectedCards, QString::number(count)) + QStringLiteral("   ") + place);
+  const QString cards = Translated(text::kSelectedCards, QString::number(count)) + QStringLiteral("   ");
+  Say(*selection_, count == 1 ? place : cards + place);
 }
 
 void StatusBar::SetZoom(double zoom) {
   const QSignalBlocker quiet(slider_);
   slider_->setValue(SliderPosition(zoom));
-  percent_->setText(QStringLiteral("%1 %").arg(std::lround(zoom * 100.0)));
+  Say(*percent_, QStringLiteral("%1 %").arg(std::lround(zoom * 100.0)));
 }
 
 }  // namespace xrpt
