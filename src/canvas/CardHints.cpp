@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "canvas/PagePainter.h"
 #include "model/RVAnalogBar.h"
 #include "model/RVCardConditioned.h"
 #include "model/RVCardDate.h"
@@ -84,20 +83,16 @@ bool IsTextCut(const RVCardControl& card, const tagDraw& draw) {
   return bounds.Width() > area.points.width + kSlack || bounds.Height() > area.points.height + kSlack;
 }
 
-void DrawCardHints(Graphics& graphics, const CardList& cards, const tagDraw& draw,
-                   const std::function<bool(const RVCardControl&)>& shows) {
-  for (std::size_t i = cards.Size(); i-- > 0;) {
-    if (shows && !shows(cards[i])) continue;
-    const CardArea area = AreaOf(cards[i], draw);
-    if (area.IsEmpty() ||
-        !Touches(draw.clip, CardPixelRect(draw, cards[i].x, cards[i].y, cards[i].width, cards[i].height)))
-      continue;
-    if (const int missing = MissingTextId(cards[i])) {
+void DrawCardHints(Graphics& graphics, const CardList& cards, const tagDraw& draw, const PagePaint& how) {
+  ForEachShown(cards, how, [&](const RVCardControl& card) {
+    const CardArea area = AreaOf(card, draw);
+    if (area.IsEmpty() || !Touches(draw.clip, CardPixelRect(draw, card.x, card.y, card.width, card.height))) return;
+    if (const int missing = MissingTextId(card)) {
       DrawMissing(graphics, area, missing);
-    } else if (IsTextCut(cards[i], draw)) {
+    } else if (IsTextCut(card, draw)) {
       DrawCutMark(graphics, area.device);
     }
-  }
+  });
 }
 
 }  // namespace xrpt

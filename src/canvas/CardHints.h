@@ -2,11 +2,7 @@
 // texts that their cards cut off.
 #pragma once
 
-#include <functional>
-
-#include "model/CardList.h"
-#include "model/tagDraw.h"
-#include "platform/Graphics.h"
+#include "canvas/PagePainter.h"
 
 namespace xrpt {
 
@@ -16,9 +12,8 @@ int MissingTextId(const RVCardControl& card);
 // Whether the card's text does not fit into it.
 bool IsTextCut(const RVCardControl& card, const tagDraw& draw);
 
-// For all cards in the clip that are shown, over the page.
-void DrawCardHints(Graphics& graphics, const CardList& cards, const tagDraw& draw,
-                   const std::function<bool(const RVCardControl&)>& shows = {});
+// For all cards in the clip that are shown, over a page that was painted the same way.
+void DrawCardHints(Graphics& graphics, const CardList& cards, const tagDraw& draw, const PagePaint& how = {});
 
 }  // namespace xrpt
 

@@ -1,5 +1,7 @@
 #include "canvas/PagePainter.h"
 
+#include <algorithm>
+
 #include "model/RVCardImage.h"
 
 namespace xrpt {
@@ -37,6 +39,16 @@ void DrawBackground(Graphics& graphics, const RVReportPage& page, const tagDraw&
   tagDraw plain = draw;
   plain.flag1 = 0;  // a stand-in as large as the page would hide it
   PaintCard(graphics, page.properties.Background(), plain);
+}
+
+// A dot drawn twice is none, so they stay inside the part that is painted anew to the pixel.
+void DrawPageGrid(const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
+  if (!how.grid) return;
+  GridSteps steps = GridOf(page.properties);
+  if (how.gridWhenOff) steps = {std::abs(steps.x), std::abs(steps.y)};
+  tagDraw where = draw;
+  if (how.part) where.clip = how.part->rect;
+  DrawGrid(*how.grid, steps, where);
 }
 
 void DrawFailure(Graphics& graphics, const Rect& card) {
@@ -103,16 +115,24 @@ void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw) 
   for (std::size_t i = cards.Size(); i-- > 0;) PaintCard(graphics, cards[i], draw);
 }
 
+void ForEachShown(const CardList& cards, const PagePaint& how, const std::function<void(const RVCardControl&)>& visit) {
+  const auto show = [&](std::size_t index) {
+    // A place that is not there any more: the page is about to be painted anew.
+    if (index < cards.Size() && (!how.shows || how.shows(cards[index]))) visit(cards[index]);
+  };
+  if (how.part) {
+    std::for_each(how.part->cards.rbegin(), how.part->cards.rend(), show);
+  } else {
+    for (std::size_t i = cards.Size(); i-- > 0;) show(i);
+  }
+}
+
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how) {
   DrawBackground(graphics, page, draw, how);
-  const GridSteps grid = GridOf(page.properties);
-  if (how.grid) DrawGrid(*how.grid, how.gridWhenOff ? GridSteps{std::abs(grid.x), std::abs(grid.y)} : grid, draw);
+  DrawPageGrid(page, draw, how);
   const GraphicsState state(graphics);
   if (how.surround || IsRounded(draw)) ClipToPage(graphics, draw);  // else the device ends with the page
-  if (!how.shows) return PaintCards(graphics, page.cards, draw);
-  for (std::size_t i = page.cards.Size(); i-- > 0;) {
-    if (how.shows(page.cards[i])) PaintCard(graphics, page.cards[i], draw);
-  }
+  ForEachShown(page.cards, how, [&](const RVCardControl& card) { PaintCard(graphics, card, draw); });
 }
 
 }  // namespace xrpt

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "canvas/Placement.h"
 #include "model/RVReportPage.h"
@@ -14,6 +15,12 @@
 
 namespace xrpt {
 
+// A place of the page that is painted by itself, and the cards of the list that meet it, top first.
+struct PagePart {
+  Rect rect;  // canvas pixels
+  std::vector<std::size_t> cards;
+};
+
 struct PagePaint {
   bool surround = true;  // fill what lies round the page: with the page's back colour, or with this one
   std::optional<Color> surroundColor;
@@ -21,6 +28,7 @@ struct PagePaint {
   bool gridWhenOff = false;     // the grid is shown though nothing snaps to it
   // Whether a card is painted; all are without it.
   std::function<bool(const RVCardControl& card)> shows;
+  const PagePart* part = nullptr;  // what is painted, over what was there; null: the whole page
 };
 
 void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw, const PagePaint& how = {});
@@ -28,6 +36,9 @@ void PaintPage(Graphics& graphics, const RVReportPage& page, const tagDraw& draw
 // The cards alone, back to front; those outside the clip are skipped. One that fails to draw leaves a marked box.
 void PaintCards(Graphics& graphics, const CardList& cards, const tagDraw& draw);
 void PaintCard(Graphics& graphics, const RVCardControl& card, const tagDraw& draw);
+
+// Calls `visit` for each card that is painted that way, the lowest first.
+void ForEachShown(const CardList& cards, const PagePaint& how, const std::function<void(const RVCardControl&)>& visit);
 
 // True for rectangles that meet, be it at an edge.
 bool Touches(const Rect& a, const Rect& b);

@@ -31,8 +31,10 @@ ProblemsDesk::ProblemsDesk(RVEditControlWnd& frame, PageView& view, QWidget& win
   panel_->beforeAct = [this] { Call(beforeAct); };
   panel_->acted = [this] { Call(acted); };
   connect(counts_, &QAbstractButton::clicked, this, [this] { Call(listToggled); });
-  view.paintOver = [this](QPainter& painter) { marks_.Paint(painter, view_.viewport()->size()); };
-  view.tipAt = [this](QPoint at) { return marks_.TipAt(at, view_.viewport()->size()); };
+  view.paintOver = [this](QPainter& painter) {
+    marks_.Paint(painter, view_.viewport()->size(), view_.PagePaintings());
+  };
+  view.tipAt = [this](QPoint at) { return marks_.TipAt(at, view_.viewport()->size(), view_.PagePaintings()); };
   // Who comes back from another program may have changed styles, pictures or the plant there.
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive) watch_->LookAfresh();
@@ -48,6 +50,7 @@ void ProblemsDesk::Refresh() {
 void ProblemsDesk::ListChanged() {
   panel_->Refresh();
   counts_->Refresh();
+  marks_.Forget();
   view_.viewport()->update();
 }
 

@@ -67,7 +67,7 @@ void AddScreenAndPaper(Host& host, const HostOptions& options) {
 }  // namespace
 
 void LimitPictures(Host& host, const HostOptions& options) {
-  constexpr int kUsual = PictureMemory::kUsualLimit >> 20;
+  constexpr int kUsual = 128;
   const int wanted = options.pictureMegabytes > 0 ? options.pictureMegabytes
                                                   : host.settings->ProfileInt(L"Pictures", L"MemoryMegabytes", kUsual);
   host.pictureStore.Memory()->SetLimit(static_cast<std::size_t>(std::clamp(wanted, 16, 16384)) << 20);

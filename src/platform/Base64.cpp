@@ -23,6 +23,24 @@ constexpr std::array<std::int8_t, 256> kReverse = MakeReverse();
 
 bool IsSpace(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
 
+// Four letters are three bytes, as far as nothing else stands between them. How many letters that were; `to` ends
+// behind the last byte.
+std::size_t DecodeGroups(std::string_view text, char*& to) {
+  std::size_t at = 0;
+  for (; at + 4 <= text.size(); at += 4) {
+    std::int32_t bits = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+      // A letter that is none makes the number negative for good.
+      bits = bits << 6 | kReverse[static_cast<unsigned char>(text[at + i])];
+    }
+    if (bits < 0) break;
+    *to++ = static_cast<char>(bits >> 16 & 0xFF);
+    *to++ = static_cast<char>(bits >> 8 & 0xFF);
+    *to++ = static_cast<char>(bits & 0xFF);
+  }
+  return at;
+}
+
 constexpr std::array<std::pair<std::string_view, char>, 5> kEntities = {
     {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}}};
 
@@ -39,22 +57,26 @@ char EntityCharacter(std::string_view name) {
 }  // namespace
 
 std::optional<std::string> DecodeBase64(std::string_view text) {
-  std::string out;
-  out.reserve(text.size() / 4 * 3);
+  std::string out(text.size() / 4 * 3 + 3, '\0');
+  char* to = out.data();
+  std::size_t at = DecodeGroups(text, to);
   std::uint32_t bits = 0;
   int held = 0;
-  for (char c : text) {
-    if (IsSpace(c)) continue;
-    if (c == '=') break;
-    const std::int8_t value = kReverse[static_cast<unsigned char>(c)];
+  for (; at < text.size(); ++at) {
+    // Between lines, whole groups again.
+    if (held == 0) at += DecodeGroups(text.substr(at), to);
+    if (at == text.size() || text[at] == '=') break;
+    if (IsSpace(text[at])) continue;
+    const std::int8_t value = kReverse[static_cast<unsigned char>(text[at])];
     if (value < 0) return std::nullopt;
     bits = bits << 6 | static_cast<std::uint32_t>(value);
     held += 6;
     if (held >= 8) {
       held -= 8;
-      out += static_cast<char>(bits >> held & 0xFF);
+      *to++ = static_cast<char>(bits >> held & 0xFF);
     }
   }
+  out.resize(static_cast<std::size_t>(to - out.data()));
   return out;
 }
 
@@ -74,6 +96,7 @@ std::string EncodeBase64(std::string_view bytes) {
 }
 
 std::string Xml2Text(std::string_view escaped) {
+  if (escaped.find('&') == escaped.npos) return std::string(escaped);
   std::string out;
   out.reserve(escaped.size());
   for (std::size_t at = 0; at < escaped.size(); ++at) {

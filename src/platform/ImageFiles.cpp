@@ -18,24 +18,32 @@ std::optional<Path> ImageFile(const Path& folder, const std::wstring& id, const 
 std::optional<std::string> ReadEncoded(const Host& host, const std::wstring& id, const std::wstring& path) {
   const std::optional<Path> where = ImageFile(host.setup->ImagesPath(), id, path);
   const std::optional<std::string> file = where ? host.files->Read(*where, kMaxImageFile) : std::nullopt;
-  return file ? DecodeBase64(Xml2Text(*file)) : std::nullopt;
+  if (!file) return std::nullopt;
+  return file->find('&') == file->npos ? DecodeBase64(*file) : DecodeBase64(Xml2Text(*file));
 }
 
+// A small one is decoded whole and made smaller well, in no time that anybody notices; a large one is made smaller
+// while it is decoded.
 class StoredPicture final : public PictureSource {
  public:
-  StoredPicture(Host& host, std::wstring id, std::wstring path)
-      : host_(host), id_(std::move(id)), path_(std::move(path)) {}
+  StoredPicture(Host& host, std::wstring id, std::wstring path, bool isDecodedWhole)
+      : host_(host), id_(std::move(id)), path_(std::move(path)), isDecodedWhole_(isDecodedWhole) {}
   PicturePtr Decode(int width, int height) const override {
     const std::optional<std::string> bytes = ReadEncoded(host_, id_, path_);
-    PicturePtr picture = bytes ? host_.pictures->DecodeScaled(*bytes, width, height) : nullptr;
+    PicturePtr picture = bytes ? Decode(*bytes, width, height) : nullptr;
     if (!picture) host_.pictureStore.Lose(id_, path_);
     return picture;
   }
 
  private:
+  PicturePtr Decode(const std::string& bytes, int width, int height) const {
+    return isDecodedWhole_ ? host_.pictures->Decode(bytes) : host_.pictures->DecodeScaled(bytes, width, height);
+  }
+
   Host& host_;
   std::wstring id_;
   std::wstring path_;
+  bool isDecodedWhole_;
 };
 
 }  // namespace
@@ -44,9 +52,10 @@ PicturePtr ReadImageFile(Host& host, const std::wstring& id, const std::wstring&
   const std::optional<std::string> bytes = ReadEncoded(host, id, path);
   if (!bytes) return nullptr;
   const PicturePtr outline = host.pictures->Outline(*bytes);
-  if (!outline || host.pictureStore.MayKeep(*outline)) return host.pictures->Decode(*bytes);
+  // A host whose pictures tell no size before they are decoded gives them decoded.
+  if (!outline) return host.pictures->Decode(*bytes);
   auto picture = std::make_shared<Picture>(*outline);
-  picture->source = std::make_shared<StoredPicture>(host, id, path);
+  picture->source = std::make_shared<StoredPicture>(host, id, path, host.pictureStore.MayKeep(*outline));
   return picture;
 }
 

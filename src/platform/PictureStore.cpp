@@ -1,11 +1,49 @@
 #include "platform/PictureStore.h"
 
+#include <condition_variable>
+#include <vector>
+
 namespace xrpt {
 namespace {
 
 // A picture of a million pixels is decoded anew in no time that anybody notices.
 constexpr std::size_t kMaxKept = 4u << 20;
 constexpr std::size_t kPaintedBytes = 4;  // a pixel, as painters keep it
+
+// The records whose pictures are being read at the moment, of whatever store. Nobody holds a store's lock meanwhile, so
+// that painting goes on; who wants the same picture waits for it.
+class Readings {
+ public:
+  // False when another thread is at it; then it is done when this returns.
+  bool Begin(const ImageRecord& record) {
+    std::unique_lock guard(mutex_);
+    if (isReloaded_.try_emplace(&record, false).second) return true;
+    ended_.wait(guard, [&] { return !isReloaded_.contains(&record); });
+    return false;
+  }
+  // False for one that was reloaded since.
+  bool End(const ImageRecord& record) {
+    const std::lock_guard guard(mutex_);
+    const bool isStill = !isReloaded_.extract(&record).mapped();
+    ended_.notify_all();
+    return isStill;
+  }
+  void Reload(const ImageRecord& record) {
+    const std::lock_guard guard(mutex_);
+    const auto found = isReloaded_.find(&record);
+    if (found != isReloaded_.end()) found->second = true;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable ended_;
+  std::map<const ImageRecord*, bool> isReloaded_;
+};
+
+Readings& AllReadings() {
+  static Readings readings;
+  return readings;
+}
 
 }  // namespace
 
@@ -15,14 +53,34 @@ ImageRecord::~ImageRecord() {
 }
 
 PicturePtr ImageRecord::Current() const {
+  const auto isRead = [this] {
+    const std::lock_guard guard(store_.memory_->Lock());
+    return read_;
+  };
+  // Whatever goes wrong, there is no picture then, and nobody waits for it in vain.
+  const auto readQuietly = [this]() -> PicturePtr {
+    try {
+      return store_.Read(*this);
+    } catch (...) {
+      return nullptr;
+    }
+  };
+  while (!isRead()) {
+    if (!AllReadings().Begin(*this)) continue;
+    const bool isMine = !isRead();  // else another thread was done just now
+    PicturePtr picture = isMine ? readQuietly() : nullptr;
+    const std::lock_guard guard(store_.memory_->Lock());
+    if (!AllReadings().End(*this) || !isMine) continue;
+    Keep(std::move(picture));
+    read_ = true;
+  }
   const std::lock_guard guard(store_.memory_->Lock());
-  if (!read_) Keep(store_.Read(*this));
-  read_ = true;
   return picture_;
 }
 
 void ImageRecord::Reload() {
   const std::lock_guard guard(store_.memory_->Lock());
+  AllReadings().Reload(*this);
   Keep(nullptr);
   read_ = false;
 }

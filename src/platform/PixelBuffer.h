@@ -31,6 +31,11 @@ struct PixelBuffer {
     const std::uint32_t value = std::uint32_t{RedOf(color)} << 16 | std::uint32_t{GreenOf(color)} << 8 | BlueOf(color);
     ForBlock({x, y, x + 1, y + 1}, [value](std::uint32_t& pixel) { pixel ^= value; });
   }
+  // The device pixels of a rectangle, as far as they are in the picture.
+  Rect DeviceRect(const Rect& canvas) const {
+    return {Device(canvas.left, width), Device(canvas.top, height), Device(canvas.right, width),
+            Device(canvas.bottom, height)};
+  }
   // Canvas pixels, the last one perhaps cut.
   int CanvasWidth() const { return static_cast<int>(std::ceil(width / scale)); }
   int CanvasHeight() const { return static_cast<int>(std::ceil(height / scale)); }
@@ -38,16 +43,15 @@ struct PixelBuffer {
  private:
   template <class Change>
   void ForBlock(const Rect& rect, const Change& change) {
-    const int left = Device(rect.left, width);
-    const int right = Device(rect.right, width);
-    const int bottom = Device(rect.bottom, height);
-    for (int row = Device(rect.top, height); row < bottom; ++row) {
+    const Rect device = DeviceRect(rect);
+    for (int row = device.top; row < device.bottom; ++row) {
       std::uint32_t* pixels = bits + row * stride;
-      for (int column = left; column < right; ++column) change(pixels[column]);
+      for (int column = device.left; column < device.right; ++column) change(pixels[column]);
     }
   }
+  // As painters round the edges of what they fill and clip.
   int Device(int canvas, int limit) const {
-    return std::clamp(scale == 1.0 ? canvas : trunci(canvas * scale), 0, limit);
+    return std::clamp(scale == 1.0 ? canvas : roundi(canvas * scale), 0, limit);
   }
 };
 

@@ -2,29 +2,74 @@
 // screens.
 #include <gmock/gmock.h>
 
+#include <QPainter>
+
 #include "desktop/WindowTest.h"
 #include "desktop/page/KeyCodes.h"
 #include "desktop/page/PageImage.h"
 #include "desktop/page/RulerMarks.h"
 #include "desktop/panels/StatusBar.h"
 #include "desktop/ribbon/Ribbon.h"
+#include "model/RVCardLabel.h"
 
 namespace xrpt {
 namespace {
 
 class PageViewTest : public WindowTest {
  protected:
-  PageViewTest() { OpenSample(); }
+  PageViewTest() {
+    OpenSample();
+    Page().SetNotes(&notes, {});
+  }
+  ~PageViewTest() override { CloseWindow(); }
   void Wheel(QPoint at, QPoint turn, Qt::KeyboardModifiers held) {
     QWheelEvent event(at, View().viewport()->mapToGlobal(at), {}, turn, {}, held, Qt::NoScrollPhase, false);
     QApplication::sendEvent(View().viewport(), &event);
     Settle();
+  }
+  void Animate(const std::vector<std::wstring>& labels) {
+    for (const std::wstring& label : labels) {
+      PageEdit edit = Page().Edit({});
+      auto& moving = static_cast<RVCardLabel&>(*edit.Card(CardWith("text/textStr", label)));
+      moving.animation.behavior = Behavior::Scroll;
+    }
+  }
+  // A tick paints what moves and nothing else, and shows what painting everything at that moment would show: so it does
+  // at a few moments. What is shown at the last of them.
+  QImage CheckTicks(const char* what) {
+    const QSize size = View().viewport()->size();
+    QImage before;
+    for (const double scale : {1.1, 1.5, 1.0}) {
+      PageImage image;
+      Page().SetAnimationTime(0);
+      before = image.Paint(Page(), size, scale).copy();
+      const int paintings = image.Paintings();
+      for (int time : {400, 800, 1200}) {
+        Page().SetAnimationTime(time);
+        const QRegion changed = image.PaintMoving(Page());
+        QImage shown = image.Paint(Page(), size, scale).copy();
+        PageImage fresh;
+        EXPECT_EQ(shown, fresh.Paint(Page(), size, scale)) << what << ", " << time << " at " << scale;
+        EXPECT_NE(shown, before) << what << ", " << time;
+        for (QImage* picture : {&before, &shown}) {
+          QPainter painter(picture);
+          painter.setClipRegion(changed);
+          painter.fillRect(View().viewport()->rect(), Qt::black);
+        }
+        EXPECT_EQ(shown, before) << what << ": something changed that is not shown";
+        before = fresh.Paint(Page(), size, scale).copy();
+      }
+      EXPECT_EQ(image.Paintings(), paintings);
+    }
+    return before;
   }
   // Millimetres on the page under a pixel of the view.
   PointD Under(QPoint at) {
     const PagePlacement place = Page().Placement();
     return {(at.x() - place.offsetX) * place.PixelWidth(), (at.y() - place.offsetY) * place.PixelHeight()};
   }
+
+  CardNotes notes;
 };
 
 TEST_F(PageViewTest, FramesMarchWithoutPaintingThePageAgain) {
@@ -38,6 +83,41 @@ TEST_F(PageViewTest, FramesMarchWithoutPaintingThePageAgain) {
   Page().RedrawBackground();
   View().viewport()->grab();
   EXPECT_EQ(View().PagePaintings(), paintings + 1);
+}
+
+TEST_F(PageViewTest, MovingTextsArePaintedByThemselves) {
+  Animate({L"Desde", L"Informe mensual de energía"});
+  CheckTicks("nothing beside them");
+  const CardRect moving = RectOf(Card(CardWith("text/textStr", L"Desde")));
+  Page().SetLines({{moving.y + 1.0}, {moving.x + 2.0}});
+  CheckTicks("lines over them");
+  Page().SelectControls({CardWith("text/textStr", L"Desde")});
+  CheckTicks("handles round them");
+}
+
+// Cards over and under a text that moves: one that has nothing to show yet, one whose text is cut off, one that only
+// readers see.
+TEST_F(PageViewTest, MovingTextsGoAlongUnderWhatIsHiddenAndHinted) {
+  Animate({L"Desde"});
+  const CardRect moving = RectOf(Card(CardWith("text/textStr", L"Desde")));
+  for (const wchar_t* words : {L"", L"much more than there is room for"}) {
+    auto over = std::make_unique<RVCardLabel>();
+    over->text = words;
+    over->id = words[0] ? L"cut" : L"empty";
+    over->x = moving.x + (words[0] ? 1.0 : moving.width / 2);
+    over->y = moving.y - 1.0;
+    over->width = moving.width / 3;
+    over->height = moving.height + 2.0;
+    Page().Edit({}).Cards().PushFront(std::move(over));
+  }
+  const QImage hinted = CheckTicks("hints over it");
+  Page().HideCard(0, true);
+  const QImage hidden = CheckTicks("a card over it hidden");
+  EXPECT_NE(hinted, hidden);
+  Page().SetPreview(true);
+  EXPECT_NE(CheckTicks("in a preview"), hinted);
+  Page().SetPreview(false);
+  EXPECT_EQ(CheckTicks("as before"), hidden);
 }
 
 TEST_F(PageViewTest, ControlWheelZoomsAtThePointer) {

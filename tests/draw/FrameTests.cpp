@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "canvas/FrameOverlay.h"
+#include "canvas/PagePainter.h"
 
 namespace xrpt {
 namespace {
@@ -129,11 +130,9 @@ TEST(Frames, TheTopCardIsDrawnFirstAndHugeOnesEnd) {
   EXPECT_EQ(screen.Shown()[3], std::string(20, '#'));
 }
 
-RC_GTEST_PROP(FrameOverlay, ComposesWhatDrawingAllFramesGives,
-              (std::vector<std::array<unsigned char, 6>> cards, bool dense)) {
-  Screen all(60, 40, dense ? 2.0 : 1.0);
-  Screen composed(60, 40, dense ? 2.0 : 1.0);
-  all.page.radiusX = all.page.radiusY = 7;
+using RandomCards = std::vector<std::array<unsigned char, 6>>;
+
+std::vector<CardFrame> FramesFrom(const RandomCards& cards) {
   std::vector<CardFrame> frames;
   for (const auto& card : cards) {
     CardFrame frame = Frame({card[0] % 70 - 5, card[1] % 50 - 5, 0, 0});
@@ -146,6 +145,14 @@ RC_GTEST_PROP(FrameOverlay, ComposesWhatDrawingAllFramesGives,
     frame.picked = card[5] & 8;
     frames.push_back(frame);
   }
+  return frames;
+}
+
+RC_GTEST_PROP(FrameOverlay, ComposesWhatDrawingAllFramesGives, (RandomCards cards, bool dense)) {
+  Screen all(60, 40, dense ? 2.0 : 1.0);
+  Screen composed(60, 40, dense ? 2.0 : 1.0);
+  all.page.radiusX = all.page.radiusY = 7;
+  const std::vector<CardFrame> frames = FramesFrom(cards);
   FrameOverlay overlay;
   overlay.Build(all.buffer, all.page, frames);
   for (int phase = 0; phase < kFramePhases; ++phase) {
@@ -154,6 +161,52 @@ RC_GTEST_PROP(FrameOverlay, ComposesWhatDrawingAllFramesGives,
     overlay.Compose(composed.buffer, phase);
     RC_ASSERT(composed.bits == all.bits);
   }
+}
+
+// Text moves in one place, then the pointer goes to another card: what was remembered shows what one made afresh does.
+RC_GTEST_PROP(FrameOverlay, FollowsAChangeInOnePlace,
+              (RandomCards cards, std::array<unsigned char, 4> at, bool dense)) {
+  const double scale = dense ? 1.5 : 1.0;
+  Screen page(60, 40, scale);
+  page.page.radiusX = page.page.radiusY = 7;
+  std::vector<CardFrame> frames = FramesFrom(cards);
+  FrameOverlay overlay;
+  overlay.Build(page.buffer, page.page, frames);
+  Screen kept(60, 40, scale);
+  overlay.Compose(kept.buffer, 2);
+  const auto isAsIfNew = [&](int phase) {
+    FrameOverlay fresh;
+    Screen expected(60, 40, scale);
+    fresh.Build(page.buffer, page.page, frames);
+    fresh.Compose(expected.buffer, phase);
+    return kept.bits == expected.bits;
+  };
+
+  const Rect place{at[0] % 60 - 5, at[1] % 40 - 5, at[0] % 60 + at[2] % 20, at[1] % 40 + at[3] % 20};
+  overlay.Watch(std::array{place});
+  page.buffer.Fill(place, Rgb(1, 2, 3));
+  overlay.TakeWatched(page.buffer);
+  overlay.ComposeWatched(kept.buffer, 2);
+  RC_ASSERT(isAsIfNew(2));
+
+  if (frames.empty()) return;
+  CardFrame& changed = frames[at[2] % frames.size()];
+  changed.hovered = !changed.hovered;
+  const Rect part{changed.rect.left, changed.rect.top, changed.rect.right + 1, changed.rect.bottom + 1};
+  std::vector<std::uint32_t> touching;
+  for (std::uint32_t i = 0; i < frames.size(); ++i) {
+    if (Touches(part, frames[i].rect)) touching.push_back(i);
+  }
+  overlay.Rebuild(page.buffer, page.page, frames, touching, part);
+  for (int phase = 0; phase < kFramePhases; ++phase) {
+    overlay.Compose(kept.buffer, phase);
+    RC_ASSERT(isAsIfNew(phase));
+  }
+  overlay.Watch(std::array{place});
+  page.buffer.Fill(place, Rgb(4, 5, 6));
+  overlay.TakeWatched(page.buffer);
+  overlay.ComposeWatched(kept.buffer, kFramePhases - 1);
+  RC_ASSERT(isAsIfNew(kFramePhases - 1));
 }
 
 TEST(DraggingBox, IsDottedAndGoneWhenDrawnAgain) {

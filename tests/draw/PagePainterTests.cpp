@@ -1,6 +1,10 @@
 // The full pass: order, clip, grid, failing cards; and the set-up of output.
+#include <mutex>
+#include <set>
 #include <stdexcept>
+#include <thread>
 
+#include "canvas/PagePreparation.h"
 #include "canvas/RenderPage.h"
 #include "draw/Drawing.h"
 #include "model/RVCardConditioned.h"
@@ -163,6 +167,44 @@ TEST_F(PagePainterTest, OutputFillsTheDeviceAndKeepsTextInProportion) {
   PaintCards(part, page.cards, draw);
   EXPECT_EQ(draw.clip, (Rect{0, 0, 152, 38}));
   EXPECT_NEAR(part.First(CallKind::Text).rect.left, small.left - 10 * 96 / 25.4, 1.0);
+}
+
+// Notes the texts it is asked about, and whether by another thread.
+struct NotingFonts final : FontService {
+  FontMetrics Metrics(const Font&) override { return {8.0, 2.0, 10.0}; }
+  double Width(const Font&, std::wstring_view text) override {
+    const std::lock_guard lock(mutex);
+    apart.insert(std::this_thread::get_id() != painter ? std::wstring(text) : std::wstring());
+    return 5.0 * static_cast<double>(text.size());
+  }
+  const std::thread::id painter = std::this_thread::get_id();
+  std::mutex mutex;
+  std::set<std::wstring> apart;
+};
+
+struct PreparationTest : HostTest {};
+
+// Scrolling to a card finds its text measured; taking the card away meanwhile is no harm.
+TEST_F(PreparationTest, LaysOutCardsNobodyHasSeen) {
+  auto fonts = std::make_unique<NotingFonts>();
+  const NotingFonts& noted = *fonts;
+  host->fonts = std::move(fonts);
+  RVReportPage page;
+  for (int i = 0; i < 500; ++i) {
+    auto card = std::make_unique<RVCardLabel>();
+    card->text = L"text " + std::to_wstring(i);
+    card->width = 100.0;
+    card->y = 1000.0 * i;
+    page.cards.PushBack(std::move(card));
+  }
+  PagePreparation preparation;
+  preparation.Begin(page.cards, DrawAt());
+  preparation.Finish();
+  EXPECT_EQ(noted.apart.size(), 500u);
+  EXPECT_TRUE(noted.apart.contains(L"text 499"));
+  preparation.Begin(page.cards, DrawAt());
+  page.cards.Clear();
+  preparation.Stop();
 }
 
 }  // namespace

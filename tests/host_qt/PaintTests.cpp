@@ -2,8 +2,10 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+#include <QFontMetricsF>
 #include <QImage>
 #include <cstdio>
+#include <thread>
 
 #include "host/qt/PageSurfaces.h"
 #include "host/qt/QtFonts.h"
@@ -192,6 +194,52 @@ TEST_F(Painting, FontsMeasureInProportion) {
   EXPECT_GT(metrics.ascent, 0.6 * 70);
   EXPECT_GT(metrics.descent, 0.1 * 70);
   EXPECT_GE(metrics.lineSpacing, metrics.ascent + metrics.descent - 1e-9);
+}
+
+// Whoever measures a text has shaped it for whoever paints it, in this thread or another, and it looks the same.
+TEST_F(Painting, ATextIsShapedOnceForMeasuringAndPainting) {
+  QtFonts fonts;
+  GlyphCache glyphs(&fonts);
+  const Font font{L"Arial", 10.0, FontStyle::Normal};
+  const std::wstring texts[] = {L"Energía activa", L"AVA fi To. ", L"  x", L"", L"12 345,67 kWh"};
+  for (const std::wstring& text : texts) fonts.Width(font, text);
+  std::thread([&] { fonts.Width(font, L"from another thread"); }).join();
+  constexpr int kTexts = 6;
+  EXPECT_EQ(fonts.Shapings(), kTexts);
+  for (const double size : {10.0, 23.0}) {
+    for (const std::wstring& text : texts) {
+      fonts.Width({L"Arial", size, FontStyle::Normal}, text);
+      const QList<QGlyphRun> runs = glyphs.Runs(font, text);
+      const QList<QGlyphRun> alone = GlyphRunsOf(ReferenceFont(font), QString::fromStdWString(text));
+      const QList<QPointF> places = runs.isEmpty() ? QList<QPointF>() : runs[0].positions();
+      EXPECT_EQ(places, alone.isEmpty() ? QList<QPointF>() : alone[0].positions()) << text;
+    }
+  }
+  glyphs.Runs(font, L"from another thread");
+  EXPECT_EQ(fonts.Shapings(), kTexts);
+}
+
+// Lines break where they always did: the width of a shaped text is what the toolkit measures.
+TEST_F(Painting, AShapedTextIsAsWideAsAMeasuredOne) {
+  for (const wchar_t* text : {L"Te Av. fi ffi  ", L"  lead", L"trail   ", L"W", L"f", L"\x5E9\x5DC\x5D5\x5DD abc",
+                              L"\x4E2D\x6587 x", L"x\x301", L"a\x9C b", L"\x1F600", L""}) {
+    for (const FontStyle style : {FontStyle::Normal, FontStyle::ItalicBold}) {
+      const QFont font = ReferenceFont({L"Arial", 10.0, style});
+      const QString whole = QString::fromWCharArray(text);
+      EXPECT_DOUBLE_EQ(ShapeText(font, whole).width, QFontMetricsF(font).horizontalAdvance(whole)) << text;
+    }
+  }
+}
+
+TEST_F(Painting, OldTextsAreForgottenAndRecentOnesNot) {
+  RecentTexts<int> texts(10);
+  for (int i = 0; i < 1000; ++i) {
+    texts.Keep(std::to_wstring(i), i);
+    ASSERT_TRUE(texts.Find(L"0")) << i;
+    EXPECT_LE(texts.Size(), 20u);
+  }
+  for (int i = 991; i < 1000; ++i) EXPECT_TRUE(texts.Find(std::to_wstring(i))) << i;
+  EXPECT_FALSE(texts.Find(L"500"));
 }
 
 TEST_F(Painting, SizesThatCannotBePaintedAreSaidSo) {

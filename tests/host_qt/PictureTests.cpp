@@ -4,6 +4,8 @@
 #include <QBuffer>
 #include <QColor>
 #include <QImage>
+#include <future>
+#include <mutex>
 
 #include "host/PngEncoder.h"
 #include "host/qt/PictureCache.h"
@@ -190,21 +192,48 @@ TEST_F(StoredPictures, LargeOnesAreDecodedAtTheSizeShownAndShareTheLimit) {
   }
 }
 
-TEST_F(StoredPictures, SmallOnesAreKeptUntilThereAreTooMany) {
+// However many there are, what is kept is what is shown of them, and what was shown last is not decoded again.
+TEST_F(StoredPictures, ManyAreDecodedOnceEachAndKeepToTheLimit) {
+  constexpr int kMany = 300;
   PictureMemory& memory = *host->pictureStore.Memory();
-  memory.SetLimit(8u << 20);
-  int kept = 0;
-  for (int i = 0; i < 12; ++i) {
-    Store("s" + std::to_string(i), {500, 500});
-    const PicturePtr picture = Of(L"s" + std::to_wstring(i));
-    kept += picture->source ? 0 : 1;
-    EXPECT_EQ(WithPixels(picture)->rgb.size(), 750'000u);
+  memory.SetLimit(1u << 20);
+  Store("s", {64, 48});
+  const std::string file = TestHost::ReadFile(host.Images() / "s.img");
+  PictureCache cache;
+  std::vector<PicturePtr> pictures;
+  for (int i = 0; i < kMany; ++i) {
+    TestHost::WriteFile(host.Images() / ("s" + std::to_string(i) + ".img"), file);
+    pictures.push_back(Of(L"s" + std::to_wstring(i)));
+    EXPECT_TRUE(pictures.back()->rgb.empty());
   }
-  EXPECT_GT(kept, 2);
-  EXPECT_LT(kept, 12);
-  EXPECT_LE(memory.Used(), memory.Limit() / 2);
-  records.clear();
-  EXPECT_EQ(memory.Used(), 0u);
+  EXPECT_EQ(memory.Used(), 0u) << "nothing is shown yet";
+  for (const PicturePtr& picture : pictures) EXPECT_EQ(cache.Scaled(picture, {80, 60}).size(), QSize(80, 60));
+  EXPECT_EQ(cache.Preparations(), kMany);
+  EXPECT_LE(memory.Used(), memory.Limit());
+  EXPECT_GT(memory.Used(), memory.Limit() / 2);
+  for (int i = kMany - 40; i < kMany; ++i) cache.Scaled(pictures[static_cast<std::size_t>(i)], {80, 60});
+  EXPECT_EQ(cache.Preparations(), kMany);
+}
+
+TEST_F(StoredPictures, ComeLaterWhereNobodyWaits) {
+  Store("late", {300, 200});
+  const PicturePtr picture = Of(L"late");
+  std::promise<void> arrived;
+  std::once_flag once;
+  PictureCache cache;  // the first to go, for it tells whenever something arrives
+  cache.LoadApart([&] { std::call_once(once, [&] { arrived.set_value(); }); });
+  const QRectF here(1, 2, 30, 20);
+  const QRectF there(50, 2, 30, 20);
+  EXPECT_TRUE(cache.Soon(picture, {30, 20}, here).isNull());
+  cache.Soon(picture, {30, 20}, there);
+  ASSERT_EQ(arrived.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+  EXPECT_THAT(cache.TakeArrived(), ElementsAre(here, there));
+  EXPECT_TRUE(cache.TakeArrived().empty());
+  const QImage shown = cache.Soon(picture, {30, 20}, here);
+  EXPECT_EQ(shown, PictureCache().Scaled(picture, {30, 20}));
+  EXPECT_EQ(cache.Preparations(), 1) << "asked for twice, decoded once";
+  EXPECT_EQ(cache.Soon(picture, {60, 40}, here).size(), QSize(30, 20)) << "meanwhile what there is";
+  EXPECT_EQ(cache.Scaled(picture, {90, 60}).size(), QSize(90, 60)) << "paper waits";
 }
 
 TEST_F(StoredPictures, OneThatTurnsOutUnreadableIsNoneFromThenOn) {

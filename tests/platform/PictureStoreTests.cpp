@@ -1,4 +1,7 @@
 // Pictures shared between cards, and the folder they may come from.
+#include <atomic>
+#include <future>
+
 #include "platform/ImageFiles.h"
 #include "platform/NamedFiles.h"
 #include "support/TestHost.h"
@@ -31,6 +34,52 @@ TEST(Pictures, AreReadOnceARecordAndAgainAfterAReload) {
   EXPECT_EQ(store.Count(), 1u) << "nobody held the other";
   record.reset();
   EXPECT_EQ(store.Count(), 0u);
+}
+
+// A picture that takes long to read keeps those waiting who want it, and nobody else.
+TEST(Pictures, AreReadOnceBySeveralThreadsAndHoldUpNoOther) {
+  std::promise<void> begun;
+  std::promise<void> mayEnd;
+  std::atomic<int> reads = 0;
+  PictureStore store([&](const std::wstring& id, const std::wstring&) {
+    ++reads;
+    if (id == L"slow") {
+      begun.set_value();
+      mayEnd.get_future().wait();
+    }
+    return AnyPicture();
+  });
+  const ImageRecordPtr slow = store.Attach(L"slow", L"");
+  const ImageRecordPtr quick = store.Attach(L"quick", L"");
+  const auto ask = [](const ImageRecordPtr& record) {
+    return std::async(std::launch::async, [record] { return record->Current(); });
+  };
+  auto first = ask(slow);
+  begun.get_future().wait();
+  auto second = ask(slow);
+  auto other = ask(quick);
+  const bool isFree = other.wait_for(std::chrono::seconds(20)) == std::future_status::ready;
+  EXPECT_EQ(second.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
+  mayEnd.set_value();
+  EXPECT_TRUE(isFree);
+  EXPECT_TRUE(other.get());
+  const PicturePtr picture = first.get();
+  EXPECT_TRUE(picture);
+  EXPECT_EQ(second.get(), picture);
+  EXPECT_EQ(reads, 2);
+}
+
+TEST(Pictures, ReloadedWhileTheyAreReadAreReadAgain) {
+  int reads = 0;
+  ImageRecordPtr record;
+  PictureStore store([&](const std::wstring&, const std::wstring&) {
+    if (++reads == 1) record->Reload();
+    return reads == 1 ? nullptr : AnyPicture();
+  });
+  record = store.Attach(L"a", L"");
+  EXPECT_TRUE(record->Current()) << "what was read first is no more";
+  EXPECT_EQ(reads, 2);
+  record.reset();
 }
 
 // The last holder of a record lets go of it just while its picture is dropped. What goes wrong is the walk over the

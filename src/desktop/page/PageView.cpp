@@ -22,6 +22,8 @@ namespace xrpt {
 namespace {
 
 constexpr int kAnimationStep = 40;  // milliseconds
+constexpr int kRest = 250;          // milliseconds without a painting after which the rest of the page is laid out
+constexpr int kArrivalPause = 30;   // milliseconds in which pictures gather that are shown together
 constexpr int kScrollStep = 30;     // milliseconds
 
 // The keyboard is on the page.
@@ -47,6 +49,13 @@ PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   scrolling_.setInterval(kScrollStep);
   connect(&scrolling_, &QTimer::timeout, this, [this] { ScrollAlong(); });
   clock_.start();
+  arrivals_.setSingleShot(true);
+  arrivals_.setInterval(kArrivalPause);
+  connect(&arrivals_, &QTimer::timeout, this, [this] { ShowArrived(); });
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRest);
+  connect(&rest_, &QTimer::timeout, this, [this] { Prepare(); });
+  image_.LoadPicturesApart([this] { QMetaObject::invokeMethod(&arrivals_, qOverload<>(&QTimer::start)); });
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   setAcceptDrops(true);
@@ -77,6 +86,7 @@ void PageView::Forget(const PagePort& port) {
   KeepText();
   port_ = nullptr;
   captured_ = false;
+  preparation_.Stop();
   image_.Forget();
 }
 
@@ -142,6 +152,18 @@ void PageView::paintEvent(QPaintEvent*) {
   const bool moves = animated_ && image_.HasMoving();
   if (moves && !animation_.isActive()) animation_.start();
   if (!moves) animation_.stop();
+  PrepareWhenAtRest();
+}
+
+// What the view shows came first; what scrolling will show is laid out while nobody waits.
+void PageView::PrepareWhenAtRest() {
+  if (prepared_ == image_.Paintings()) return;
+  prepared_ = image_.Paintings();
+  rest_.start();
+}
+
+void PageView::Prepare() {
+  if (Window()) preparation_.Begin(Window()->Page().cards, Window()->MakeDraw({}));
 }
 
 // --- Animation ---
@@ -157,8 +179,11 @@ void PageView::SetAnimated(bool on) {
 void PageView::ShowMoment() {
   if (!Window() || !isVisible()) return animation_.stop();
   Window()->SetAnimationTime(static_cast<int>(clock_.elapsed() & 0x7FFFFFFF));
-  image_.PaintMoving(*Window());
-  viewport()->update();
+  viewport()->update(image_.PaintMoving(*Window()));
+}
+
+void PageView::ShowArrived() {
+  if (Window()) viewport()->update(image_.PaintArrived(*Window()));
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "canvas/PagePreparation.h"
 #include "desktop/page/PageImage.h"
 #include "platform/Window.h"
 
@@ -114,14 +115,21 @@ class PageView final : public QAbstractScrollArea {
   void EndText(bool keeps);
   void ScrollAlong();
   void ShowMoment();
+  void ShowArrived();
+  void PrepareWhenAtRest();
+  void Prepare();
   void Escape();
 
   RVEditControlWnd* frame_ = nullptr;
   Actions* actions_ = nullptr;
   PagePort* port_ = nullptr;
-  PageImage image_;
   QTimer animation_;  // runs while something in sight moves
   QTimer scrolling_;  // runs while a drag is beyond the edge
+  QTimer arrivals_;   // runs for a moment when pictures have arrived
+  QTimer rest_;       // runs until the page was left alone for a while
+  int prepared_ = 0;  // the painting after which the rest of the page was laid out last
+  PagePreparation preparation_;
+  PageImage image_;  // the first to go: its thread starts a timer
   InPlaceEditor* editor_ = nullptr;
   QElapsedTimer clock_;
   bool animated_ = true;

@@ -2,6 +2,8 @@
 
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/TextIds.h"
 #include "desktop/look/Texts.h"
@@ -10,6 +12,8 @@
 namespace xrpt {
 
 namespace {
+
+constexpr int kLabelRoom = 64;  // pixels; no label is longer
 
 double LengthOf(RulerMarkKind kind) {
   switch (kind) {
@@ -44,15 +48,19 @@ void Ruler::SetScale(const RulerScale& scale, double pageMillimetres) {
 
 void Ruler::SetPointer(std::optional<int> position) {
   if (position == pointer_) return;
-  pointer_ = position;
-  update();
+  for (const std::optional<int>& at : {std::exchange(pointer_, position), position}) {
+    if (at) Renew(*at, *at);
+  }
 }
 
 void Ruler::SetSelection(std::optional<std::pair<int, int>> range) {
   if (range == selection_) return;
-  selection_ = range;
-  update();
+  for (const auto& part : {std::exchange(selection_, range), range}) {
+    if (part) Renew(part->first, part->second);
+  }
 }
+
+void Ruler::Renew(int first, int last) { update(Along(first, last + 1, 0, kThickness).toAlignedRect()); }
 
 void Ruler::SetLines(const std::vector<int>& lines) {
   if (lines == lines_) return;
@@ -78,7 +86,11 @@ QRectF Ruler::Along(double from, double to, double near, double far) const {
                                         : QRectF(QPointF(kThickness - far, from), QPointF(kThickness - near, to));
 }
 
-void Ruler::paintEvent(QPaintEvent*) {
+// A pointer that moves takes its own few pixels and the marks around them.
+void Ruler::paintEvent(QPaintEvent* event) {
+  const QRect part = event->rect();
+  const int from = orientation_ == Qt::Horizontal ? part.left() : part.top();
+  const int to = orientation_ == Qt::Horizontal ? part.right() : part.bottom();
   const ThemeColors& colors = CurrentTheme();
   QPainter painter(this);
   painter.fillRect(rect(), colors.window);
@@ -88,7 +100,8 @@ void Ruler::paintEvent(QPaintEvent*) {
     tint.setAlphaF(0.28F);
     painter.fillRect(Along(selection_->first, selection_->second + 1, 0, kThickness), tint);
   }
-  for (const RulerMark& mark : RulerMarks(scale_, 0, Length())) PaintMark(painter, mark);
+  for (const RulerMark& mark : RulerMarks(scale_, std::max(0, from - kLabelRoom), std::min(Length(), to + kLabelRoom)))
+    PaintMark(painter, mark);
   for (const int line : lines_) painter.fillRect(Along(line - 1, line + 2, 0, kThickness), colors.guide);
   painter.fillRect(Along(0, Length(), 0, 1), colors.border);
   if (pointer_) painter.fillRect(Along(*pointer_, *pointer_ + 1, 0, kThickness), colors.accent);

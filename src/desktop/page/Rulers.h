@@ -36,6 +36,8 @@ class Ruler final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  // Paints a stretch of pixels again, the last one included.
+  void Renew(int first, int last);
   int Length() const { return orientation_ == Qt::Horizontal ? width() : height(); }
   // A rectangle along the ruler, whichever way it lies.
   QRectF Along(double from, double to, double near, double far) const;

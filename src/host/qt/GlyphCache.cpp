@@ -1,6 +1,5 @@
 #include "host/qt/GlyphCache.h"
 
-#include <QTextLayout>
 #include <algorithm>
 
 #include "host/qt/QtFonts.h"
@@ -8,20 +7,7 @@
 namespace xrpt {
 namespace {
 
-constexpr double kUnbroken = 1e7;
-
-QList<QGlyphRun> Shaped(const QFont& font, std::wstring_view text) {
-  QTextLayout layout(QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size())), font);
-  QTextOption option;
-  option.setWrapMode(QTextOption::NoWrap);
-  layout.setTextOption(option);
-  layout.beginLayout();
-  QTextLine line = layout.createLine();
-  line.setLineWidth(kUnbroken);  // shapes the text; its ascent is known from then on
-  line.setPosition({0.0, -line.ascent()});
-  layout.endLayout();
-  return layout.glyphRuns();
-}
+constexpr std::size_t kMostFaces = 500;
 
 }  // namespace
 
@@ -29,24 +15,32 @@ GlyphCache::Face& GlyphCache::FaceOf(const Font& font) {
   const auto isAsked = [&font](const Face& face) { return face.style == font.style && face.name == font.face; };
   const auto found = std::find_if(faces_.begin(), faces_.end(), isAsked);
   if (found == faces_.end()) {
-    faces_.push_front({font.face, font.style, ReferenceFont(font), {}});
+    if (faces_.size() >= kMostFaces) faces_.pop_back();
+    const QFont reference = ReferenceFont(font);
+    faces_.push_front({font.face, font.style, reference, QRawFont::fromFont(reference)});
   } else {
     faces_.splice(faces_.begin(), faces_, found);
   }
   return faces_.front();
 }
 
-const QList<QGlyphRun>& GlyphCache::Runs(const Font& font, std::wstring_view text) {
-  if (count_ >= kMaxTexts) {
-    faces_.clear();
-    count_ = 0;
+QList<QGlyphRun> GlyphCache::Shaped(const Face& face, const Font& font, std::wstring_view text) const {
+  if (fonts_ && text.size() <= QtFonts::kLongestText) {
+    const ShapedText shaped = fonts_->Shaped(font, text);
+    QGlyphRun run;
+    run.setRawFont(face.raw);
+    run.setGlyphIndexes(shaped.glyphs);
+    run.setPositions(shaped.places);
+    if (shaped.isWhole) return {run};
   }
+  return GlyphRunsOf(face.font, QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+const QList<QGlyphRun>& GlyphCache::Runs(const Font& font, std::wstring_view text) {
   Face& face = FaceOf(font);
-  const auto found = face.texts.find(text);
-  if (found != face.texts.end()) return found->second;
-  if (text.size() > kLongestText) return long_ = Shaped(face.font, text);
-  ++count_;
-  return face.texts.emplace(text, Shaped(face.font, text)).first->second;
+  if (text.size() > kLongestText) return long_ = Shaped(face, font, text);
+  const QList<QGlyphRun>* known = face.texts.Find(text);
+  return known ? *known : face.texts.Keep(text, Shaped(face, font, text));
 }
 
 }  // namespace xrpt

@@ -4,6 +4,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <algorithm>
+#include <optional>
 
 namespace xrpt {
 namespace {
@@ -67,7 +68,7 @@ QtFonts::Face& QtFonts::FaceOf(const Font& font) {
   }
   if (faces_.size() >= kMaxFaces) faces_.pop_back();
   const QFont reference = ReferenceFont(font);
-  faces_.push_front({font.face, font.style, reference, MetricsOf(reference), {}});
+  faces_.push_front({font.face, font.style, reference, std::this_thread::get_id(), MetricsOf(reference)});
   return faces_.front();
 }
 
@@ -79,15 +80,30 @@ FontMetrics QtFonts::Metrics(const Font& font) {
 }
 
 double QtFonts::Width(const Font& font, std::wstring_view text) {
-  const std::lock_guard lock(mutex_);
-  Face& face = FaceOf(font);
-  auto found = face.widths.find(text);
-  if (found == face.widths.end()) {
-    if (face.widths.size() >= kMaxWidths) face.widths.clear();
-    const QString whole = QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-    found = face.widths.emplace(text, QFontMetricsF(face.font).horizontalAdvance(whole) / kReferenceEm).first;
+  const double size = std::max(font.size, 0.0) / kReferenceEm;
+  {
+    const std::lock_guard lock(mutex_);
+    if (const ShapedText* known = FaceOf(font).texts.Find(text)) return known->width * size;
   }
-  return found->second * std::max(font.size, 0.0);
+  return Shaped(font, text).width * size;
+}
+
+// Threads that shape one text at the same time do it twice; none waits for another.
+ShapedText QtFonts::Shaped(const Font& font, std::wstring_view text) {
+  std::optional<QFont> own;
+  {
+    const std::lock_guard lock(mutex_);
+    Face& face = FaceOf(font);
+    if (const ShapedText* known = face.texts.Find(text)) return *known;
+    if (face.owner == std::this_thread::get_id()) own = face.font;
+  }
+  ++shapings_;
+  const QString whole = QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
+  const QFont reference = own ? *own : ReferenceFont(font);
+  if (text.size() > kLongestText) return {QFontMetricsF(reference).horizontalAdvance(whole), {}, {}, false};
+  const ShapedText shaped = ShapeText(reference, whole);
+  const std::lock_guard lock(mutex_);
+  return FaceOf(font).texts.Keep(text, shaped);
 }
 
 FacePresence QtFonts::Presence(std::wstring_view face) {

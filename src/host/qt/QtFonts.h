@@ -1,11 +1,14 @@
-// Text measured with the system's fonts at one large reference size, unhinted, so that every device agrees.
+// Text measured with the system's fonts at one large reference size, unhinted, so that every device agrees. Each text
+// is shaped once: what was measured is remembered with its glyphs for whoever paints it, in whatever thread.
 #pragma once
 
 #include <QFont>
+#include <atomic>
 #include <list>
 #include <mutex>
-#include <unordered_map>
+#include <thread>
 
+#include "host/qt/ShapedText.h"
 #include "host/qt/TextHash.h"
 #include "platform/Fonts.h"
 
@@ -19,25 +22,33 @@ QFont ReferenceFont(const Font& font);
 
 class QtFonts final : public FontService {
  public:
-  static constexpr std::size_t kMaxWidths = 20'000;  // texts remembered of each face
+  static constexpr std::size_t kMostTexts = 20'000;  // remembered of each face, up to twice as many
+  static constexpr std::size_t kLongestText = 200;   // longer ones are measured each time
 
   FontMetrics Metrics(const Font& font) override;
   double Width(const Font& font, std::wstring_view text) override;
   FacePresence Presence(std::wstring_view face) override;
+
+  // The text in the face and style, whatever the size.
+  ShapedText Shaped(const Font& font, std::wstring_view text);
+  // How many texts were shaped so far.
+  int Shapings() const { return shapings_; }
 
  private:
   // A face in one style, everything in ems.
   struct Face {
     std::wstring name;
     FontStyle style;
-    QFont font;
+    QFont font;  // of the thread that came first; others make their own
+    std::thread::id owner;
     FontMetrics metrics;
-    TextMap<double> widths;
+    RecentTexts<ShapedText> texts{kMostTexts};
   };
   Face& FaceOf(const Font& font);
 
-  std::mutex mutex_;
+  std::mutex mutex_;       // not held while a text is shaped
   std::list<Face> faces_;  // last used first
+  std::atomic<int> shapings_ = 0;
 };
 
 }  // namespace xrpt

@@ -210,9 +210,12 @@ void QtGraphics::DrawText(const TextRun& run) {
   const Font& font = run.font ? *run.font : usual;
   const double stretch = run.stretch > 0.0 ? Bounded(run.stretch) : MeasuredStretch(run, FontOf(font), scale);
   const QTransform kept = painter_.worldTransform();
-  painter_.translate(ToQt(run.origin));
+  const QPointF origin = ToQt(run.origin);
+  QTransform placed = kept;
+  placed.translate(origin.x(), origin.y());
   // Tiny differences are rounding; ignoring them lets letters of one size share their pixels.
-  painter_.scale(std::abs(stretch - 1.0) < 1e-3 ? scale : scale * stretch, scale);
+  placed.scale(std::abs(stretch - 1.0) < 1e-3 ? scale : scale * stretch, scale);
+  painter_.setWorldTransform(placed);
   painter_.setPen(ToQt(run.color));
   if (isRaster_) {
     for (const QGlyphRun& glyphs : cache_.Glyphs().Runs(font, run.text)) painter_.drawGlyphRun(QPointF(), glyphs);
@@ -229,7 +232,9 @@ void QtGraphics::DrawPicture(const PicturePtr& picture, const RectD& target) {
   const double dots = painter_.device()->devicePixelRatioF();
   const QSizeF size = place.size() * dots;
   if (IsOnPixels() && size.width() * size.height() <= double(kMaxScaledPixels)) {
-    painter_.drawImage(place, cache_.Scaled(picture, size.toSize().expandedTo({1, 1})));
+    const QImage image =
+        cache_.Soon(picture, size.toSize().expandedTo({1, 1}), painter_.worldTransform().mapRect(place));
+    if (!image.isNull()) painter_.drawImage(place, image);
   } else if (const QImage whole = cache_.Whole(picture); !whole.isNull()) {
     painter_.drawImage(place, whole);
   }

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <algorithm>
 
 #include "host/qt/SvgCheck.h"
 
@@ -30,13 +31,15 @@ bool IsOpaque(const QImage& image) {
 
 // Four bytes a pixel into the two planes.
 void SplitPlanes(const QImage& rgba, Picture& picture) {
-  picture.rgb.reserve(picture.RowBytes() * static_cast<std::size_t>(picture.height));
-  const bool isOpaque = IsOpaque(rgba);
+  picture.rgb.resize(picture.RowBytes() * static_cast<std::size_t>(picture.height));
+  if (!IsOpaque(rgba)) picture.alpha.resize(picture.rgb.size() / 3);
+  std::uint8_t* rgb = picture.rgb.data();
+  std::uint8_t* alpha = picture.alpha.empty() ? nullptr : picture.alpha.data();
   for (int y = 0; y < rgba.height(); ++y) {
     const uchar* row = rgba.constScanLine(y);
     for (int x = 0; x < rgba.width(); ++x, row += 4) {
-      picture.rgb.insert(picture.rgb.end(), row, row + 3);
-      if (!isOpaque) picture.alpha.push_back(row[3]);
+      rgb = std::copy_n(row, 3, rgb);
+      if (alpha) *alpha++ = row[3];
     }
   }
 }

@@ -12,7 +12,7 @@
 namespace xrpt {
 
 struct TextStyle {
-  Font font;
+  const Font& font;
   Color color = kBlack;
   std::int32_t horizontalAlign = kAlignCenter;
   std::int32_t verticalAlign = kAlignCenter;

@@ -85,11 +85,16 @@ std::wstring Cleaned(std::wstring_view text) {
   return out;
 }
 
+bool IsClean(std::wstring_view text) {
+  return text.size() <= kMostCharacters && std::none_of(text.begin(), text.end(), [](wchar_t c) { return c < L' '; });
+}
+
 std::vector<TextLine> BreakLines(FontService& fonts, const Font& font, std::wstring_view text, double width,
                                  bool wrap) {
   LineBreaker breaker(fonts, font, width);
-  const std::wstring cleaned = Cleaned(text);
-  std::wstring_view rest = cleaned;
+  std::wstring cleaned;
+  if (!IsClean(text)) text = cleaned = Cleaned(text);
+  std::wstring_view rest = text;
   for (;;) {
     const std::size_t end = rest.find(L'\n');
     breaker.Paragraph(rest.substr(0, end), wrap);
