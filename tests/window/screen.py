@@ -110,5 +110,5 @@ class Recording(threading.Thread):
         self.join()
         *frames, last = sorted(map(str, self.folder.glob('*.png')))
         subprocess.run(['convert', '-loop', '0', '-delay', str(self.SHOWN), *frames, '-delay', str(self.LAST), last,
-                        '+dither', '-colors', '64', '-fuzz', '3%', '-layers', 'OptimizePlus', '-layers',
+                        '+dither', '-colors', '64', '-fuzz', '0.6%', '-layers', 'OptimizePlus', '-layers',
                         'OptimizeTransparency', str(self.file)], check=True)
