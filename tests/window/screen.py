@@ -69,12 +69,15 @@ class Screen:
         self.started.append(process)
         return process
 
-    def manage_windows(self):
-        """The window manager, started after the keyboard is as it should be."""
-        self._start(['openbox'])
+    def manage_windows(self, fills_screen=False):
+        """The window manager, started after the keyboard is as it should be. Dialogs keep their size in any case."""
+        rules = self.folder / 'openbox.xml'
+        rules.write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><applications><application type="normal">'
+                         '<maximized>yes</maximized></application></applications></openbox_config>')
+        self._start(['openbox', '--config-file', str(rules)] if fills_screen else ['openbox'])
 
-    def start_editor(self, editor, *arguments):
-        return self._start([str(editor), '--language', 'en', '--theme', 'light', *map(str, arguments)])
+    def start_editor(self, editor, *arguments, language='en', theme='light'):
+        return self._start([str(editor), '--language', language, '--theme', theme, *map(str, arguments)])
 
     def record(self, file, width, seconds):
         """Until `stop` is called: a picture of the screen every so many seconds, and a moving picture of them all."""
