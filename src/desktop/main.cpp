@@ -12,6 +12,7 @@
 #include "desktop/look/Texts.h"
 #include "desktop/look/Theme.h"
 #include "editor/RVEditControlWnd.h"
+#include "host/http/QtHttp.h"
 #include "host/qt/QtHost.h"
 #include "platform/Text.h"
 
@@ -64,6 +65,7 @@ int main(int argc, char** argv) {
   options.language = arguments.language.empty() ? QLocale().name().toStdString() : arguments.language;
   options = xrpt::WithUserFolders(options);
   const auto host = xrpt::MakeQtHost(options);
+  host->http = std::make_unique<xrpt::QtHttp>(*host);
   xrpt::InstallHost(host.get());
   xrpt::TranslateToolkit(application, options.language);
 

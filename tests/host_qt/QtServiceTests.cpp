@@ -31,7 +31,7 @@ TEST_F(QtServices, HostIsWholeAndNumbersKeepTheirPoint) {
   const auto host = MakeQtHost(options);
   EXPECT_TRUE(host->setup && host->files && host->texts && host->settings && host->identifiers && host->styles &&
               host->guids && host->logger && host->pictures && host->fonts && host->clipboard && host->locale &&
-              host->screen && host->devices && host->http && host->variables);
+              host->screen && host->devices && host->variables);
   EXPECT_EQ(host->screen->DpiY(), 120);
   EXPECT_STREQ(std::localeconv()->decimal_point, ".");
 }

@@ -1,5 +1,5 @@
 #!/bin/sh
-# No layer includes one above it, and nothing but the desktop and host/qt sees the toolkit. Takes the repository's root.
+# No layer includes one above it, and nothing but the desktop, host/qt and host/http sees the toolkit. Takes the repository's root.
 set -eu
 cd "$1/src"
 status=0
@@ -23,8 +23,8 @@ forbid editor host desktop xrpt
 forbid host model canvas formulas editor desktop xrpt
 forbid xrpt desktop
 
-if grep -rnE '^#include [<"]Q[A-Za-z]' --include='*.h' --include='*.cpp' . | grep -vE '^\./(desktop|host/qt)/'; then
-  echo "the toolkit is seen outside desktop and host/qt"
+if grep -rnE '^#include [<"]Q[A-Za-z]' --include='*.h' --include='*.cpp' . | grep -vE '^\./(desktop|host/qt|host/http)/'; then
+  echo "the toolkit is seen outside desktop, host/qt and host/http"
   status=1
 fi
 exit $status

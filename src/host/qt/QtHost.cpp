@@ -7,7 +7,6 @@
 
 #include "host/qt/QtClipboard.h"
 #include "host/qt/QtFonts.h"
-#include "host/qt/QtHttp.h"
 #include "host/qt/QtLocale.h"
 #include "host/qt/QtPictures.h"
 #include "host/qt/QtScreen.h"
@@ -45,7 +44,6 @@ std::unique_ptr<Host> MakeQtHost(const HostOptions& options) {
   host->pictures = std::make_unique<QtPictures>();
   host->fonts = std::make_unique<QtFonts>();
   host->clipboard = std::make_unique<QtClipboard>();
-  host->http = std::make_unique<QtHttp>(*host);
   host->locale = std::make_unique<QtLocale>();
   host->screen = std::make_unique<QtScreen>(options.dpi);
   LimitPictures(*host, options);

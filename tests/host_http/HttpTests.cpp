@@ -6,8 +6,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include "host/qt/QtHost.h"
-#include "host/qt/QtHttp.h"
+#include "host/http/QtHttp.h"
 #include "support/TestHost.h"
 
 namespace xrpt {
@@ -19,7 +18,6 @@ using ::testing::StartsWith;
 class Requests : public HostTest {
  protected:
   Requests() {
-    EnsureHeadlessQt();
     server.listen(QHostAddress::LocalHost);
     Name("http://127.0.0.1:" + std::to_string(server.serverPort()));
     QObject::connect(&server, &QTcpServer::newConnection, &server, [this] {
@@ -45,6 +43,10 @@ class Requests : public HostTest {
     return given.value_or(HttpAnswer());
   }
 
+  int argumentCount = 1;
+  char name[5] = "http";
+  char* arguments[1] = {name};
+  QCoreApplication application{argumentCount, arguments};
   QTcpServer server;
   std::string received;
   std::string answer;

@@ -1,4 +1,4 @@
-#include "host/qt/QtHttp.h"
+#include "host/http/QtHttp.h"
 
 #include <QNetworkReply>
 #include <QNetworkRequest>
