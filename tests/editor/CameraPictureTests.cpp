@@ -9,6 +9,7 @@
 #include "platform/Base64.h"
 #include "platform/Text.h"
 #include "support/AnsweringPort.h"
+#include "support/OwnFormat.h"
 #include "support/TestHost.h"
 
 namespace xrpt {
@@ -27,21 +28,10 @@ class Server final : public HttpService {
   std::function<void(const HttpAnswer&)> answer;
 };
 
-class OnePixel final : public PictureService {
- public:
-  PicturePtr Decode(std::string_view bytes) override {
-    if (!bytes.starts_with("PIC")) return nullptr;
-    auto picture = std::make_shared<Picture>();
-    picture->width = picture->height = 1;
-    picture->rgb.resize(3);
-    return picture;
-  }
-};
-
 class Camera : public HostTest {
  protected:
   Camera() {
-    host->pictures = std::make_unique<OnePixel>();
+    host->pictures = std::make_unique<OwnFormat>();
     host->http = std::make_unique<Server>();
     host.WriteCfg("devices.xml",
                   "<devices><server>http://plant:80</server><device><id>CAM</id><name>Gate</name><driver>IP &amp; "

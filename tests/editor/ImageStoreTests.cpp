@@ -9,6 +9,7 @@
 #include "model/RVCardConditioned.h"
 #include "model/RVCardImage.h"
 #include "support/AnsweringPort.h"
+#include "support/OwnFormat.h"
 #include "support/TestHost.h"
 
 namespace xrpt {
@@ -17,18 +18,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-// Reads "PIC" and nothing else.
-class OwnFormat final : public PictureService {
- public:
-  PicturePtr Decode(std::string_view bytes) override {
-    if (!bytes.starts_with("PIC")) return nullptr;
-    auto picture = std::make_shared<Picture>();
-    picture->width = picture->height = 1;
-    picture->rgb.resize(3);
-    return picture;
-  }
-};
 
 class Hands final : public DialogPort {
  public:
