@@ -139,8 +139,8 @@ void WindowOverlay::PaintMoved(PixelBuffer& shown, const PixelBuffer& page, int 
   if (isNew || phase_ != window.Phase() || !laid.outlines.empty() || laid != laid_)
     return Compose(shown, window, std::move(laid), client, colors);
   frames_.ComposeWatched(shown, phase_);
-  Lay(shown, window.Placement(), client,
-      colors);  // over what is there, which makes no difference to what was not filled in
+  // Over what is there, which makes no difference to what was not filled in.
+  Lay(shown, window.Placement(), client, colors);
 }
 
 bool WindowOverlay::MakeFrames(const PixelBuffer& page, int painting, const RVEditTemplateWnd& window,
